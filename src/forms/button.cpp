@@ -1,0 +1,112 @@
+#include "forms/button.h"
+
+#include <uxtheme.h>
+#include <vssym32.h>
+
+#include "forms/form.h"
+
+namespace quillomat {
+
+Button::Button(Container& container, std::wstring_view caption, Bounds bounds)
+    : Control(container, bounds, L"BUTTON", caption, BS_OWNERDRAW | WS_TABSTOP | WS_GROUP) {}
+
+void Button::set_caption(const std::wstring& caption) {
+    if (caption == window_text()) return;
+    SetWindowTextW(window(), caption.c_str());
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+void Button::click() {
+    raise(on_click);
+}
+
+void Button::notified(WORD code) {
+    if (code == BN_CLICKED) click();
+}
+
+bool Button::is_default() const {
+    // While any button has the focus, Enter presses that one.
+    if (has_focus()) return true;
+    return form().default_button() == this && !dynamic_cast<Button*>(Control::from(GetFocus()));
+}
+
+void Button::draw_face(HDC canvas, RECT& area, bool pressed) const {
+    const HTHEME theme = back_colour() == colours::button_face ? OpenThemeData(window(), L"BUTTON") : nullptr;
+    if (theme) {
+        const int state = !enabled()     ? PBS_DISABLED
+                          : pressed      ? PBS_PRESSED
+                          : hot_         ? PBS_HOT
+                          : is_default() ? PBS_DEFAULTED
+                                         : PBS_NORMAL;
+        fill(canvas, area, colours::button_face);
+        DrawThemeBackground(theme, canvas, BP_PUSHBUTTON, state, &area, nullptr);
+        CloseThemeData(theme);
+        InflateRect(&area, -3, -3);
+        return;
+    }
+    if (is_default()) {
+        SetDCBrushColor(canvas, resolve(colours::window_text));
+        FrameRect(canvas, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+        InflateRect(&area, -1, -1);
+    }
+    fill(canvas, area, back_colour());
+    DrawEdge(canvas, &area, pressed ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT | BF_ADJUST);
+}
+
+void Button::draw(const DRAWITEMSTRUCT& request) {
+    const BufferedCanvas buffer(request.hDC, request.rcItem);
+    const HDC canvas = buffer.canvas();
+    const bool pressed = request.itemState & ODS_SELECTED;
+    RECT area = request.rcItem;
+    draw_face(canvas, area, pressed);
+
+    const Selection font(canvas, reinterpret_cast<HFONT>(send(WM_GETFONT)));
+    SetBkMode(canvas, TRANSPARENT);
+    SetTextColor(canvas, resolve(enabled() ? fore_colour() : colours::grey_text));
+    RECT text_area = area;
+    if (pressed) OffsetRect(&text_area, 1, 1);
+    const std::wstring caption = window_text();
+    const UINT hidden_prefix = request.itemState & ODS_NOACCEL ? DT_HIDEPREFIX : 0;
+    DrawTextW(canvas, caption.c_str(), static_cast<int>(caption.size()), &text_area,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE | hidden_prefix);
+    if ((request.itemState & ODS_FOCUS) && !(request.itemState & ODS_NOFOCUSRECT)) {
+        SetTextColor(canvas, resolve(colours::window_text));
+        DrawFocusRect(canvas, &area);
+    }
+}
+
+LRESULT Button::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_MOUSEMOVE:
+            if (!hot_) {
+                hot_ = true;
+                TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, window(), 0};
+                TrackMouseEvent(&leave);
+                InvalidateRect(window(), nullptr, FALSE);
+            }
+            break;
+        case WM_MOUSELEAVE:
+            hot_ = false;
+            InvalidateRect(window(), nullptr, FALSE);
+            break;
+        case WM_LBUTTONDBLCLK:
+            // A fast second press is a press.
+            return Control::handle_message(WM_LBUTTONDOWN, wparam, lparam);
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            // The mark of the default button moves with the focus.
+            if (Button* marked = form().default_button()) InvalidateRect(marked->window(), nullptr, FALSE);
+            break;
+        case WM_ERASEBKGND:
+            return 1;
+        // What tells the dialog keys that an access key presses it.
+        case WM_GETDLGCODE:
+            return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
+        case BM_SETSTYLE:
+            // The dialog keys would turn it into a button that the system draws.
+            return 0;
+    }
+    return Control::handle_message(message, wparam, lparam);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "forms/control.h"
+
+namespace quillomat {
+
+/// A push button. It draws itself, because the system's own has neither a background colour nor an underlined caption
+/// that comes and goes.
+class Button : public Control {
+  public:
+    Button(Container& container, std::wstring_view caption, Bounds bounds);
+
+    std::wstring caption() const { return window_text(); }
+    void set_caption(const std::wstring& caption);
+    /// Does what a press of the button does.
+    void click();
+
+    void notified(WORD code) override;
+    void draw(const DRAWITEMSTRUCT& request) override;
+
+  protected:
+    LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  private:
+    bool is_default() const;
+    void draw_face(HDC canvas, RECT& area, bool pressed) const;
+
+    bool hot_ = false;
+};
+
+}  // namespace quillomat

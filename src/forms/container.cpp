@@ -1,0 +1,185 @@
+#include "forms/container.h"
+
+#include <algorithm>
+
+#include "forms/control.h"
+#include "forms/form.h"
+#include "forms/gdi.h"
+#include "forms/graphics.h"
+
+namespace quillomat {
+
+Modifiers current_modifiers() {
+    const auto is_down = [](int key) { return GetKeyState(key) < 0; };
+    return {.shift = is_down(VK_SHIFT), .control = is_down(VK_CONTROL), .alt = is_down(VK_MENU)};
+}
+
+MouseEvent to_mouse_event(UINT message, WPARAM wparam, LPARAM lparam, POINT origin, int dpi) {
+    MouseEvent event{.modifiers = current_modifiers(),
+                     .x = to_twips(GET_X_LPARAM(lparam) - origin.x, dpi),
+                     .y = to_twips(GET_Y_LPARAM(lparam) - origin.y, dpi)};
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONUP:
+            event.button = MouseButton::Left;
+            break;
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONUP:
+            event.button = MouseButton::Right;
+            break;
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONUP:
+            event.button = MouseButton::Middle;
+            break;
+        default:
+            if (wparam & MK_LBUTTON) {
+                event.button = MouseButton::Left;
+            } else if (wparam & MK_RBUTTON) {
+                event.button = MouseButton::Right;
+            } else if (wparam & MK_MBUTTON) {
+                event.button = MouseButton::Middle;
+            }
+    }
+    return event;
+}
+
+void Container::set_back_colour(Colour colour) {
+    if (colour == back_colour_) return;
+    back_colour_ = colour;
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+void Container::remove(Graphic& graphic) {
+    std::erase(graphics_, &graphic);
+    if (pressed_ == &graphic) pressed_ = nullptr;
+}
+
+void Container::bring_to_front(Graphic& graphic) {
+    std::erase(graphics_, &graphic);
+    graphics_.push_back(&graphic);
+    graphic.invalidate();
+}
+
+void Container::draw_background(HDC canvas, const RECT& client) {
+    fill(canvas, client, back_colour_);
+}
+
+void Container::paint_onto(HDC canvas) {
+    RECT client{};
+    GetClientRect(window(), &client);
+    draw_background(canvas, client);
+    for (const Graphic* graphic : graphics_) {
+        if (graphic->visible() && RectVisible(canvas, &graphic->pixels())) graphic->draw(canvas);
+    }
+}
+
+void Container::paint() {
+    PAINTSTRUCT paint{};
+    const HDC target = BeginPaint(window(), &paint);
+    if (target && !IsRectEmpty(&paint.rcPaint)) {
+        const BufferedCanvas buffer(target, paint.rcPaint);
+        paint_onto(buffer.canvas());
+    }
+    EndPaint(window(), &paint);
+}
+
+Graphic* Container::graphic_at(POINT point) const {
+    const auto hit = std::find_if(graphics_.rbegin(), graphics_.rend(), [point](const Graphic* graphic) {
+        return graphic->visible() && graphic->enabled() && graphic->takes_mouse() &&
+               PtInRect(&graphic->pixels(), point);
+    });
+    return hit == graphics_.rend() ? nullptr : *hit;
+}
+
+std::optional<LRESULT> Container::handle_mouse(UINT message, WPARAM wparam, LPARAM lparam) {
+    const POINT point{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+    MouseEvents* target = pressed_;
+    POINT origin = pressed_origin_;
+    if (!target) {
+        Graphic* graphic = graphic_at(point);
+        target = graphic ? static_cast<MouseEvents*>(graphic) : &surface();
+        origin = graphic ? POINT{graphic->pixels().left, graphic->pixels().top} : POINT{};
+    }
+    const MouseEvent event = to_mouse_event(message, wparam, lparam, origin, owner_form().dpi());
+    switch (message) {
+        case WM_MOUSEMOVE:
+            raise(target->on_mouse_move, event);
+            break;
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+            // Until the release all movements belong to what was pressed, also outside of it.
+            pressed_ = target;
+            pressed_origin_ = origin;
+            SetCapture(window());
+            raise(target->on_mouse_down, event);
+            break;
+        case WM_LBUTTONDBLCLK:
+            // The second press of a double-click is a double-click instead of a press; its release is a release.
+            raise(target->on_double_click);
+            break;
+        default: {
+            const bool was_pressed = pressed_ != nullptr;
+            pressed_ = nullptr;
+            if (was_pressed) ReleaseCapture();
+            raise(target->on_mouse_up, event);
+            const bool still_on_it = target == &surface() || static_cast<MouseEvents*>(graphic_at(point)) == target;
+            if (was_pressed && message == WM_LBUTTONUP && still_on_it) raise(target->on_click);
+        }
+    }
+    return 0;
+}
+
+std::optional<LRESULT> Container::handle_container_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_PAINT:
+            paint();
+            return 0;
+        case WM_PRINTCLIENT:
+            paint_onto(reinterpret_cast<HDC>(wparam));
+            return 0;
+        case WM_MOUSEMOVE:
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONUP:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONUP:
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONUP:
+            return handle_mouse(message, wparam, lparam);
+        case WM_CAPTURECHANGED:
+            pressed_ = nullptr;
+            return 0;
+        case WM_COMMAND:
+            if (Control* control = Control::from(reinterpret_cast<HWND>(lparam))) {
+                control->notified(HIWORD(wparam));
+                return 0;
+            }
+            break;
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+            if (Control* control = Control::from(reinterpret_cast<HWND>(lparam))) {
+                return reinterpret_cast<LRESULT>(control->prepare_colours(reinterpret_cast<HDC>(wparam)));
+            }
+            break;
+        case WM_DRAWITEM:
+            if (const auto* request = reinterpret_cast<const DRAWITEMSTRUCT*>(lparam); request->CtlType != ODT_MENU) {
+                if (Control* control = Control::from(request->hwndItem)) control->draw(*request);
+                return TRUE;
+            }
+            break;
+    }
+    return std::nullopt;
+}
+
+void Container::items_resolution_changed() {
+    for (Graphic* graphic : graphics_) graphic->resolution_changed();
+    for (Control* control : controls_) control->resolution_changed();
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "forms/colour.h"
+#include "forms/events.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+class Control;
+class Form;
+class Graphic;
+
+/// A window that items stand on. It paints its graphics in one pass that does not flicker, gives them their mouse
+/// events, and passes the messages of its controls on to them.
+class Container {
+  public:
+    Container() = default;
+    virtual ~Container() = default;
+    Container(const Container&) = delete;
+    Container& operator=(const Container&) = delete;
+
+    virtual HWND window() const = 0;
+    virtual Form& owner_form() = 0;
+
+    Colour back_colour() const { return back_colour_; }
+    void set_back_colour(Colour colour);
+
+    /// Items in the order they were made, which is the order of the Tab key. For the toolkit.
+    const std::vector<Control*>& controls() const { return controls_; }
+    void add(Control& control) { controls_.push_back(&control); }
+    void remove(Control& control) { std::erase(controls_, &control); }
+    void add(Graphic& graphic) { graphics_.push_back(&graphic); }
+    void remove(Graphic& graphic);
+    void bring_to_front(Graphic& graphic);
+
+  protected:
+    /// The events of the container's own surface.
+    virtual MouseEvents& surface() = 0;
+    /// Draws what lies under the graphics.
+    virtual void draw_background(HDC canvas, const RECT& client);
+
+    /// Handles what every container handles alike; nothing when the message is none of these.
+    std::optional<LRESULT> handle_container_message(UINT message, WPARAM wparam, LPARAM lparam);
+    void items_resolution_changed();
+
+  private:
+    void paint();
+    void paint_onto(HDC canvas);
+    std::optional<LRESULT> handle_mouse(UINT message, WPARAM wparam, LPARAM lparam);
+    Graphic* graphic_at(POINT point) const;
+
+    Colour back_colour_ = colours::button_face;
+    std::vector<Control*> controls_;
+    std::vector<Graphic*> graphics_;
+    MouseEvents* pressed_ = nullptr;
+    POINT pressed_origin_{};
+};
+
+/// The mouse event of a message whose position is in pixels from `origin`.
+MouseEvent to_mouse_event(UINT message, WPARAM wparam, LPARAM lparam, POINT origin, int dpi);
+
+/// The Shift, Ctrl and Alt keys as they are now.
+Modifiers current_modifiers();
+
+}  // namespace quillomat

@@ -1,0 +1,230 @@
+#include "forms/control.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/application.h"
+#include "forms/container.h"
+#include "forms/form.h"
+#include "win/errors.h"
+
+namespace quillomat {
+namespace {
+
+constexpr UINT_PTR subclass_id = 1;
+// Leads from a window to its control.
+constexpr wchar_t control_property[] = L"QuillomatControl";
+
+}  // namespace
+
+Control::Control(Container& container, Bounds bounds, const wchar_t* system_class, std::wstring_view text, DWORD style,
+                 DWORD extended_style)
+    : Item(container, bounds), system_class_(system_class), extended_style_(extended_style) {
+    create_window(text, style);
+    container.add(*this);
+}
+
+Control::~Control() {
+    container().remove(*this);
+    if (!window_) return;
+    detach();
+    DestroyWindow(window_);
+}
+
+void Control::create_window(std::wstring_view text, DWORD style) {
+    const std::wstring caption(text);
+    const Bounds& bounds = exact_bounds();
+    const int resolution = dpi();
+    // Siblings overlap (help boxes, sliding panels), so each must leave alone what lies in front of it.
+    window_ = CreateWindowExW(
+        extended_style_, system_class_, caption.c_str(), style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS,
+        to_pixels(bounds.left, resolution), to_pixels(bounds.top, resolution), to_pixels(bounds.width, resolution),
+        to_pixels(bounds.height, resolution), container().window(),
+        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(form().next_control_id())), GetModuleHandleW(nullptr), nullptr);
+    if (!window_) throw_last_error();
+    SetPropW(window_, control_property, this);
+    SetWindowSubclass(window_, procedure, subclass_id, reinterpret_cast<DWORD_PTR>(this));
+    apply_font();
+}
+
+void Control::detach() {
+    RemoveWindowSubclass(window_, procedure, subclass_id);
+    RemovePropW(window_, control_property);
+}
+
+void Control::recreate(DWORD style) {
+    const HWND former = window_;
+    const bool focused = has_focus();
+    form().tool_tips().set(former, {});
+    detach();
+    create_window({}, style);
+    // The order of the windows is kept, as screen readers go by it.
+    SetWindowPos(window_, former, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    if (!visible()) apply_visible();
+    if (!enabled()) apply_enabled();
+    if (!tool_tip_.empty()) form().tool_tips().set(window_, tool_tip_);
+    if (focused) set_focus();
+    DestroyWindow(former);
+}
+
+Control* Control::from(HWND window) {
+    return static_cast<Control*>(GetPropW(window, control_property));
+}
+
+LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR, DWORD_PTR self) {
+    auto& control = *reinterpret_cast<Control*>(self);
+    if (message == WM_NCDESTROY) {
+        control.detach();
+        control.window_ = nullptr;
+        return DefSubclassProc(window, message, wparam, lparam);
+    }
+    return control.form().guarded([&] { return control.handle_message(message, wparam, lparam); });
+}
+
+LRESULT Control::default_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    return DefSubclassProc(window_, message, wparam, lparam);
+}
+
+LRESULT Control::send(UINT message, WPARAM wparam, LPARAM lparam) const {
+    return SendMessageW(window_, message, wparam, lparam);
+}
+
+LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            if (!std::exchange(key_previewed_, false) && raise_key_down(static_cast<int>(wparam))) return 0;
+            break;
+        case WM_CHAR: {
+            CharacterEvent event{.character = static_cast<wchar_t>(wparam)};
+            raise(on_key_press, event);
+            if (event.handled) return 0;
+            break;
+        }
+        case WM_MOUSEMOVE:
+            raise(on_mouse_move, to_mouse_event(message, wparam, lparam, {}, dpi()));
+            break;
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+            raise(on_mouse_down, to_mouse_event(message, wparam, lparam, {}, dpi()));
+            break;
+        case WM_LBUTTONUP:
+        case WM_RBUTTONUP:
+        case WM_MBUTTONUP: {
+            const LRESULT result = default_message(message, wparam, lparam);
+            raise(on_mouse_up, to_mouse_event(message, wparam, lparam, {}, dpi()));
+            return result;
+        }
+        case WM_SETFOCUS: {
+            const LRESULT result = default_message(message, wparam, lparam);
+            raise(on_got_focus);
+            return result;
+        }
+        case WM_KILLFOCUS: {
+            const LRESULT result = default_message(message, wparam, lparam);
+            raise(on_lost_focus);
+            return result;
+        }
+    }
+    return default_message(message, wparam, lparam);
+}
+
+bool Control::raise_key_down(int key) {
+    KeyEvent event{.key = key, .modifiers = current_modifiers()};
+    raise(on_key_down, event);
+    return event.handled;
+}
+
+bool Control::preview_key(const MSG& message) {
+    const bool handled = raise_key_down(static_cast<int>(message.wParam));
+    key_previewed_ = !handled;
+    return handled;
+}
+
+void Control::set_focus() {
+    SetFocus(window_);
+}
+
+void Control::set_back_colour(Colour colour) {
+    if (colour == back_colour_) return;
+    back_colour_ = colour;
+    InvalidateRect(window_, nullptr, TRUE);
+}
+
+void Control::set_fore_colour(Colour colour) {
+    if (colour == fore_colour_) return;
+    fore_colour_ = colour;
+    InvalidateRect(window_, nullptr, TRUE);
+}
+
+HBRUSH Control::prepare_colours(HDC canvas) {
+    SetTextColor(canvas, resolve(enabled() ? fore_colour_ : colours::grey_text));
+    SetBkColor(canvas, resolve(back_colour_));
+    SetDCBrushColor(canvas, resolve(back_colour_));
+    return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+}
+
+void Control::set_font(FontSpec font) {
+    if (font == font_) return;
+    font_ = std::move(font);
+    apply_font();
+}
+
+void Control::set_underlined(bool underlined) {
+    FontSpec changed = font_;
+    changed.underline = underlined;
+    set_font(std::move(changed));
+}
+
+void Control::apply_font() {
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(form().application().fonts().get(font_, dpi())), TRUE);
+}
+
+void Control::set_tool_tip(std::wstring text) {
+    if (text == tool_tip_) return;
+    tool_tip_ = std::move(text);
+    form().tool_tips().set(window_, tool_tip_);
+}
+
+void Control::bring_to_front() {
+    SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void Control::refresh() {
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void Control::resolution_changed() {
+    apply_font();
+    apply_bounds();
+}
+
+void Control::apply_bounds() {
+    const Bounds& bounds = exact_bounds();
+    SetWindowPos(window_, nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
+                 to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+void Control::apply_visible() {
+    ShowWindow(window_, visible() ? SW_SHOWNA : SW_HIDE);
+}
+
+void Control::apply_enabled() {
+    EnableWindow(window_, enabled());
+}
+
+std::wstring Control::window_text() const {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window_)), L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window_, text.data(), static_cast<int>(text.size()) + 1)));
+    return text;
+}
+
+std::wstring Control::displayable(std::wstring_view text) {
+    std::wstring result(text);
+    std::replace(result.begin(), result.end(), L'\0', L' ');
+    return result;
+}
+
+}  // namespace quillomat

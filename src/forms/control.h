@@ -1,0 +1,105 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "forms/colour.h"
+#include "forms/font.h"
+#include "forms/item.h"
+
+namespace quillomat {
+
+/// An item with a window of its own: what the user types into, chooses from or presses. The window is one of the
+/// system's controls, so that screen readers and automation know it.
+///
+/// A change made by the program raises the same event as one made by the user.
+class Control : public Item {
+  public:
+    ~Control() override;
+
+    std::function<void()> on_got_focus;
+    std::function<void()> on_lost_focus;
+    std::function<void(KeyEvent&)> on_key_down;
+    std::function<void(CharacterEvent&)> on_key_press;
+
+    HWND window() const { return window_; }
+
+    void set_focus();
+    bool has_focus() const { return GetFocus() == window_; }
+
+    Colour back_colour() const { return back_colour_; }
+    void set_back_colour(Colour colour);
+    Colour fore_colour() const { return fore_colour_; }
+    void set_fore_colour(Colour colour);
+
+    const FontSpec& font() const { return font_; }
+    void set_font(FontSpec font);
+    void set_underlined(bool underlined);
+
+    /// The one-line text shown while the pointer rests on the control; an empty one shows none.
+    const std::wstring& tool_tip() const { return tool_tip_; }
+    void set_tool_tip(std::wstring text);
+
+    void bring_to_front() override;
+    void refresh() override;
+    void resolution_changed() override;
+
+    /// The control of a window, or null.
+    static Control* from(HWND window);
+
+    // What the container passes on from the control's window.
+    /// The window reports something that happened to it, by its notification code.
+    virtual void notified(WORD /*code*/) {}
+    /// Sets the colours its text is drawn with; returns the brush for the rest.
+    virtual HBRUSH prepare_colours(HDC canvas);
+    /// Draws an owner-drawn control.
+    virtual void draw(const DRAWITEMSTRUCT& /*request*/) {}
+
+    /// Raises the key event for a message that is still on its way, before the dialog keys are looked at; true when the
+    /// handler kept the key.
+    bool preview_key(const MSG& message);
+    void forget_previewed_key() { key_previewed_ = false; }
+
+  protected:
+    /// Creates the window; to be called by the constructor of the kind of control.
+    Control(Container& container, Bounds bounds, const wchar_t* system_class, std::wstring_view text, DWORD style,
+            DWORD extended_style = 0);
+
+    /// Puts a new, empty window of another style in the place of the control's window: some styles of the system's
+    /// controls cannot be changed.
+    void recreate(DWORD style);
+
+    /// The control's window procedure.
+    virtual LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT default_message(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const;
+
+    std::wstring window_text() const;
+    /// The text as the system's controls can hold it: they would end it at its first NUL, so a NUL becomes a blank.
+    static std::wstring displayable(std::wstring_view text);
+
+    void set_default_back_colour(Colour colour) { back_colour_ = colour; }
+    void apply_bounds() override;
+    void apply_visible() override;
+    void apply_enabled() override;
+
+  private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR id,
+                                      DWORD_PTR control);
+    void create_window(std::wstring_view text, DWORD style);
+    void detach();
+    bool raise_key_down(int key);
+    void apply_font();
+
+    const wchar_t* system_class_;
+    DWORD extended_style_;
+    HWND window_ = nullptr;
+    Colour back_colour_ = colours::button_face;
+    Colour fore_colour_ = colours::window_text;
+    FontSpec font_;
+    std::wstring tool_tip_;
+    bool key_previewed_ = false;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <tuple>
+
+#include "forms/gdi.h"
+
+namespace quillomat {
+
+/// A font as a window asks for it: its size is in points and follows the window's resolution.
+struct FontSpec {
+    /// Tahoma in 8 points is what the sizes of the windows are drawn for, on every Windows and under Wine.
+    std::wstring name = L"Tahoma";
+    double points = 8.25;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+
+    friend auto operator<=>(const FontSpec&, const FontSpec&) = default;
+};
+
+/// Makes each font once for each resolution and keeps it, so that changing a control's underline at every movement of
+/// the pointer costs nothing.
+class FontCache {
+  public:
+    /// The font for `dpi` dots per inch; it lives as long as the cache. A name that no font has gives the system's
+    /// nearest one.
+    HFONT get(const FontSpec& spec, int dpi);
+
+  private:
+    std::map<std::pair<FontSpec, int>, GdiObject<HFONT>> fonts_;
+};
+
+/// The size of a text in pixels, its line breaks obeyed.
+SIZE text_extent(HFONT font, const std::wstring& text);
+
+}  // namespace quillomat

@@ -1,0 +1,303 @@
+#include "forms/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/application.h"
+#include "forms/button.h"
+#include "forms/control.h"
+#include "forms/menu.h"
+#include "forms/timer.h"
+#include "win/errors.h"
+
+namespace quillomat {
+namespace {
+
+constexpr UINT destroy_message = WM_APP;
+constexpr WORD application_icon = 1;
+
+struct BorderStyle {
+    DWORD style;
+    DWORD extended;
+};
+
+BorderStyle style_of(FormBorder border) {
+    switch (border) {
+        case FormBorder::Sizable:
+            return {WS_OVERLAPPEDWINDOW, WS_EX_CONTROLPARENT};
+        case FormBorder::Dialog:
+            return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME};
+        case FormBorder::None:
+            return {WS_POPUP, WS_EX_CONTROLPARENT | WS_EX_APPWINDOW};
+    }
+    return {};
+}
+
+void register_class(const wchar_t* name, WNDPROC procedure) {
+    const HINSTANCE program = GetModuleHandleW(nullptr);
+    WNDCLASSEXW description{};
+    if (GetClassInfoExW(program, name, &description)) return;
+    description = {};
+    description.cbSize = sizeof description;
+    description.style = CS_DBLCLKS;
+    description.lpfnWndProc = procedure;
+    description.hInstance = program;
+    description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(application_icon));
+    description.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
+    description.lpszClassName = name;
+    if (!RegisterClassExW(&description)) throw_last_error();
+}
+
+}  // namespace
+
+Form::Form(Application& application, const FormDesign& design)
+    : application_(application),
+      caption_(design.caption),
+      minimum_width_(design.minimum_width),
+      minimum_height_(design.minimum_height) {
+    register_class(design.name, procedure);
+    const auto [style, extended] = style_of(design.border);
+    CreateWindowExW(extended, design.name, design.caption, style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
+                    nullptr, nullptr, GetModuleHandleW(nullptr), this);
+    if (!window_) throw_last_error();
+    tool_tips_ = ToolTips(window_);
+    const UINT system_dpi = GetDpiForWindow(window_);
+    dpi_ = application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi);
+    SetWindowPos(window_, nullptr, 0, 0, to_pixels(design.width, dpi_), to_pixels(design.height, dpi_),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+Form::~Form() {
+    if (!window_) return;
+    // From here on the window has no object behind it: nothing that its destruction sends reaches a handler.
+    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+    DestroyWindow(std::exchange(window_, nullptr));
+}
+
+Form* Form::from(HWND window) {
+    if (!window || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
+    if (GetClassLongPtrW(window, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(&Form::procedure)) return nullptr;
+    return reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
+LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_NCCREATE) {
+        auto* form = static_cast<Form*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
+        form->window_ = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+    }
+    Form* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!form) return DefWindowProcW(window, message, wparam, lparam);
+    if (message == WM_NCDESTROY) {
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        form->window_ = nullptr;
+        // The handler may destroy the form, itself included, so it is moved out of it first.
+        const auto on_closed = std::move(form->on_closed);
+        const LRESULT result = DefWindowProcW(window, message, wparam, lparam);
+        raise(on_closed);
+        return result;
+    }
+    if (message == destroy_message) {
+        form->destroy_when_idle();
+        return 0;
+    }
+    return form->guarded([&] { return form->handle_message(message, wparam, lparam); });
+}
+
+LRESULT Form::guarded(const std::function<LRESULT()>& work) {
+    ++handlers_running_;
+    LRESULT result = 0;
+    try {
+        result = work();
+    } catch (...) {
+        application_.report_current_exception(window_);
+    }
+    --handlers_running_;
+    if (closed_ && !modal_ && handlers_running_ == 0) PostMessageW(window_, destroy_message, 0, 0);
+    return result;
+}
+
+void Form::destroy_when_idle() {
+    if (closed_ && !modal_ && handlers_running_ == 0 && window_) DestroyWindow(window_);
+}
+
+LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_CLOSE:
+            close();
+            return 0;
+        case WM_ENDSESSION:
+            if (wparam) close();
+            return 0;
+        case WM_SIZE:
+            if (shown_ && !closed_) resized();
+            return 0;
+        case WM_SIZING:
+            limit_sizing(wparam, *reinterpret_cast<RECT*>(lparam));
+            return TRUE;
+        case WM_DPICHANGED:
+            resolution_changed(HIWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
+            return 0;
+        case WM_TIMER: {
+            const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(wparam));
+            if (timer != timers_.end() && !closed_) (*timer)->tick();
+            return 0;
+        }
+        case WM_COMMAND:
+            if (const auto command = commands_.find(LOWORD(wparam)); !lparam && command != commands_.end()) {
+                command->second->pick();
+                return 0;
+            }
+            break;
+        case WM_INITMENUPOPUP:
+            for (const auto& [id, menu] : commands_) {
+                if (menu->handle() == reinterpret_cast<HMENU>(wparam)) {
+                    raise(menu->on_click);
+                    break;
+                }
+            }
+            return 0;
+        case WM_ACTIVATE:
+            if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = GetFocus();
+            break;
+        case WM_SETFOCUS:
+            restore_focus();
+            return 0;
+        case WM_SETCURSOR:
+            if (pointer_ == PointerShape::Hourglass) {
+                SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)));
+                return TRUE;
+            }
+            break;
+        case WM_SYSCOLORCHANGE:
+        case WM_THEMECHANGED:
+            for (Control* control : controls()) SendMessageW(control->window(), message, wparam, lparam);
+            InvalidateRect(window_, nullptr, TRUE);
+            break;
+    }
+    if (const auto result = handle_container_message(message, wparam, lparam)) return *result;
+    return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+void Form::load() {
+    loaded_ = true;
+    guarded([this] {
+        raise(on_load);
+        return LRESULT{};
+    });
+}
+
+void Form::show() {
+    if (!loaded_) {
+        load();
+        if (closed_) return;
+        place_on_screen();
+        shown_ = true;
+        resized();
+        restore_focus();
+    }
+    constexpr int commands[] = {SW_SHOWNORMAL, SW_SHOWMINIMIZED, SW_SHOWMAXIMIZED};
+    ShowWindow(window_, IsWindowVisible(window_) ? SW_SHOW : commands[static_cast<int>(state_)]);
+    if (state_ != WindowState::Minimised) SetForegroundWindow(window_);
+}
+
+void Form::show_modal(Form* owner) {
+    modal_ = true;
+    // Sets the owner: the dialog stays in front of it and has no place of its own in the taskbar.
+    if (owner) SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->window()));
+    {
+        ModalScope modal(window_);
+        show();
+        application_.run_until([this] { return closed_; });
+    }
+    if (owner) owner->bring_to_foreground();
+    if (window_) DestroyWindow(window_);
+}
+
+void Form::close() {
+    if (std::exchange(closed_, true)) return;
+    guarded([this] {
+        raise(on_unload);
+        return LRESULT{};
+    });
+    for (Timer* timer : timers_) timer->set_enabled(false);
+    // A dialog is hidden by its modal loop, after its owner can be activated again.
+    if (!modal_) ShowWindow(window_, SW_HIDE);
+    PostMessageW(window_, destroy_message, 0, 0);
+}
+
+void Form::set_caption(std::wstring caption) {
+    if (caption == caption_) return;
+    caption_ = std::move(caption);
+    SetWindowTextW(window_, caption_.c_str());
+}
+
+WindowState Form::window_state() const {
+    if (!shown_) return state_;
+    if (IsIconic(window_)) return WindowState::Minimised;
+    return IsZoomed(window_) ? WindowState::Maximised : WindowState::Normal;
+}
+
+void Form::set_window_state(WindowState state) {
+    state_ = state;
+    if (!shown_) return;
+    constexpr int commands[] = {SW_RESTORE, SW_MINIMIZE, SW_MAXIMIZE};
+    ShowWindow(window_, commands[static_cast<int>(state)]);
+}
+
+void Form::resized() {
+    state_ = window_state();
+    raise(on_resize);
+}
+
+void Form::set_mouse_pointer(PointerShape shape) {
+    pointer_ = shape;
+    SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(shape == PointerShape::Hourglass ? IDC_WAIT : IDC_ARROW)));
+}
+
+void Form::drag() {
+    ReleaseCapture();
+    SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+}
+
+void Form::bring_to_foreground() {
+    SetForegroundWindow(window_);
+}
+
+int Form::add_command(Menu& menu) {
+    commands_[next_command_id_] = &menu;
+    return next_command_id_++;
+}
+
+void Form::remove_command(int id) {
+    commands_.erase(id);
+}
+
+void Form::set_menu_bar(HMENU bar) {
+    SetMenu(window_, bar);
+}
+
+void Form::menu_changed() {
+    if (IsWindowVisible(window_)) DrawMenuBar(window_);
+}
+
+void Form::pop_up(Menu& menu, double left, double top, const Menu* default_item) {
+    POINT point{to_pixels(left, dpi_), to_pixels(top, dpi_)};
+    ClientToScreen(window_, &point);
+    pop_up_at(menu, point, default_item);
+}
+
+void Form::pop_up(Menu& menu, const Menu* default_item) {
+    POINT point{};
+    GetCursorPos(&point);
+    pop_up_at(menu, point, default_item);
+}
+
+void Form::pop_up_at(Menu& menu, POINT screen, const Menu* default_item) {
+    if (default_item) SetMenuDefaultItem(menu.handle(), static_cast<UINT>(default_item->id()), FALSE);
+    const int id =
+        TrackPopupMenu(menu.handle(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0, window_, nullptr);
+    if (const auto command = commands_.find(id); command != commands_.end()) command->second->pick();
+}
+
+}  // namespace quillomat

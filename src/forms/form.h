@@ -1,0 +1,179 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/container.h"
+#include "forms/events.h"
+#include "forms/geometry.h"
+#include "forms/tool_tips.h"
+
+namespace quillomat {
+
+class Application;
+class Button;
+class Menu;
+class Timer;
+
+enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
+
+/// What frames a form and whether the user can change its size.
+enum class FormBorder { Sizable, Dialog, None };
+
+/// The shape of the pointer over a form.
+enum class PointerShape { Default, Hourglass };
+
+/// How a form looks before its handlers have run. Sizes are outer sizes in twips.
+struct FormDesign {
+    /// Also the name of its window class, by which automation finds it.
+    const wchar_t* name;
+    const wchar_t* caption;
+    double width;
+    double height;
+    FormBorder border = FormBorder::Sizable;
+    /// What the user can make it no smaller than by its border, in twips.
+    double minimum_width = 0;
+    double minimum_height = 0;
+};
+
+/// A top-level window. The object is made when the window is opened and lives until it has closed.
+class Form : public Container, public MouseEvents {
+  public:
+    Form(Application& application, const FormDesign& design);
+    ~Form() override;
+
+    /// Before the window is first shown; the place to read settings.
+    std::function<void()> on_load;
+    /// Before the window closes; the place to save settings.
+    std::function<void()> on_unload;
+    /// The window has a new size or state; also before it is first shown.
+    std::function<void()> on_resize;
+    /// A key while no control has the focus.
+    std::function<void(KeyEvent&)> on_key_down;
+    /// After the window has gone and no handler of the form is running any more: its owner may destroy the object.
+    std::function<void()> on_closed;
+
+    Application& application() const { return application_; }
+    HWND window() const override { return window_; }
+    Form& owner_form() override { return *this; }
+    /// Dots per inch of the window.
+    int dpi() const { return dpi_; }
+
+    /// Shows the window without waiting for it to close.
+    void show();
+    /// Shows the window as a dialog of `owner` and returns when it has closed.
+    void show_modal(Form* owner);
+    /// Runs `on_unload`, hides the window and has it destroyed as soon as no handler of it is running.
+    void close();
+    bool closed() const { return closed_; }
+
+    const std::wstring& caption() const { return caption_; }
+    void set_caption(std::wstring caption);
+
+    /// Outer position and size in twips.
+    double left() const;
+    double top() const;
+    double width() const;
+    double height() const;
+    void set_width(double twips);
+    void set_height(double twips);
+    void move_to(double left, double top);
+    /// Inner size in twips.
+    double inner_width() const;
+    double inner_height() const;
+    /// Puts the window in the middle of the screen's free area.
+    void centre_on_screen();
+
+    WindowState window_state() const;
+    void set_window_state(WindowState state);
+
+    void set_mouse_pointer(PointerShape shape);
+    /// Lets the user drag the window by its surface, as if by its title bar.
+    void drag();
+    void bring_to_foreground();
+
+    /// The buttons that Enter and Escape press; null for none.
+    void set_default_button(Button* button);
+    Button* default_button() const { return default_button_; }
+
+    /// Shows a menu at a position in twips and runs the command the user picks; `default_item` is drawn bold.
+    void pop_up(Menu& menu, double left, double top, const Menu* default_item = nullptr);
+    /// The same at the pointer.
+    void pop_up(Menu& menu, const Menu* default_item = nullptr);
+
+    // For the toolkit.
+    static Form* from(HWND window);
+    int next_control_id() { return next_control_id_++; }
+    int add_command(Menu& menu);
+    void remove_command(int id);
+    void set_menu_bar(HMENU bar);
+    void menu_changed();
+    void add(Timer& timer) { timers_.push_back(&timer); }
+    void remove(Timer& timer) { std::erase(timers_, &timer); }
+    using Container::add;
+    using Container::remove;
+    ToolTips& tool_tips() { return tool_tips_; }
+    /// Gives the dialog keys and key events of a message to where they belong; true when it needs nothing further.
+    bool translate(MSG& message);
+    /// Runs what may raise events: no exception gets out to the system, the user sees its description instead; and the
+    /// form stays alive until it is done.
+    LRESULT guarded(const std::function<LRESULT()>& work);
+    /// Draws the keyboard cues (focus frame, underlined access keys) from now on.
+    void show_keyboard_cues();
+
+  protected:
+    MouseEvents& surface() override { return *this; }
+
+  private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
+    void load();
+    void place_on_screen();
+    void resized();
+    void limit_sizing(WPARAM edge, RECT& area) const;
+    void resolution_changed(int dpi, const RECT& suggested);
+    void pop_up_at(Menu& menu, POINT screen, const Menu* default_item);
+    bool raise_key_down(int key);
+    bool handle_dialog_key(const MSG& message);
+    void move_focus(bool backwards);
+    void restore_focus();
+    void destroy_when_idle();
+    RECT outer() const;
+
+    Application& application_;
+    std::wstring caption_;
+    double minimum_width_;
+    double minimum_height_;
+    HWND window_ = nullptr;
+    int dpi_ = 96;
+    ToolTips tool_tips_{nullptr};
+    std::vector<Timer*> timers_;
+    std::unordered_map<int, Menu*> commands_;
+    int next_control_id_ = 1000;
+    int next_command_id_ = 100;
+    Button* default_button_ = nullptr;
+    HWND last_focus_ = nullptr;
+    WindowState state_ = WindowState::Normal;
+    PointerShape pointer_ = PointerShape::Default;
+    bool modal_ = false;
+    bool loaded_ = false;
+    bool shown_ = false;
+    bool closed_ = false;
+    int handlers_running_ = 0;
+};
+
+/// Shows the hourglass over a form for as long as it lives.
+class Hourglass {
+  public:
+    explicit Hourglass(Form& form) : form_(form) { form_.set_mouse_pointer(PointerShape::Hourglass); }
+    ~Hourglass() { form_.set_mouse_pointer(PointerShape::Default); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+  private:
+    Form& form_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,119 @@
+// How the keyboard reaches a form: key events first, then the keys that every dialog knows.
+
+#include <algorithm>
+#include <iterator>
+
+#include "forms/application.h"
+#include "forms/button.h"
+#include "forms/control.h"
+#include "forms/form.h"
+
+namespace quillomat {
+namespace {
+
+bool is_key_down(UINT message) {
+    return message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
+}
+
+bool takes_tab(HWND window) {
+    return (GetWindowLongPtrW(window, GWL_STYLE) & WS_TABSTOP) && IsWindowVisible(window) && IsWindowEnabled(window);
+}
+
+// In the order in which the controls were made, which is the order of reading. The order of the system's windows is
+// not: it changes when one of them comes to the front.
+void collect_tab_stops(const Container& container, std::vector<HWND>& stops) {
+    for (Control* control : container.controls()) {
+        if (takes_tab(control->window())) stops.push_back(control->window());
+        if (const auto* inner = dynamic_cast<const Container*>(control)) collect_tab_stops(*inner, stops);
+    }
+}
+
+}  // namespace
+
+bool Form::translate(MSG& message) {
+    if (closed_) return false;
+    bool handled = false;
+    guarded([&] {
+        Control* control = is_key_down(message.message) ? Control::from(message.hwnd) : nullptr;
+        if (control) handled = control->preview_key(message);
+        if (message.hwnd == window_ && is_key_down(message.message)) {
+            handled = raise_key_down(static_cast<int>(message.wParam));
+        }
+        if (!handled && !closed_) {
+            handled =
+                (message.message == WM_KEYDOWN && handle_dialog_key(message)) || IsDialogMessageW(window_, &message);
+        }
+        // The key may have been given to another window or dropped; the next one is a new one in any case.
+        if (handled && control && Control::from(message.hwnd) == control) control->forget_previewed_key();
+        return LRESULT{};
+    });
+    return handled || closed_;
+}
+
+bool Form::handle_dialog_key(const MSG& message) {
+    const auto wanted = SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
+    const Modifiers modifiers = current_modifiers();
+    switch (message.wParam) {
+        case VK_TAB:
+            if (modifiers.control) return false;
+            show_keyboard_cues();
+            move_focus(modifiers.shift);
+            return true;
+        case VK_RETURN: {
+            if (wanted & DLGC_WANTALLKEYS) return false;
+            Button* button = dynamic_cast<Button*>(Control::from(message.hwnd));
+            if (!button) button = default_button_;
+            if (!button) return false;
+            if (button->enabled() && IsWindowVisible(button->window())) button->click();
+            return true;
+        }
+        default:
+            return false;
+    }
+}
+
+void Form::move_focus(bool backwards) {
+    std::vector<HWND> stops;
+    collect_tab_stops(*this, stops);
+    if (stops.empty()) return;
+    if (backwards) std::reverse(stops.begin(), stops.end());
+    const auto current = std::find(stops.begin(), stops.end(), GetFocus());
+    const auto next = current == stops.end() || std::next(current) == stops.end() ? stops.begin() : std::next(current);
+    SetFocus(*next);
+    // As in every dialog, what stands in an input can be typed over; a long text is left as it is.
+    const bool is_input = SendMessageW(*next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
+    if (is_input && !(GetWindowLongPtrW(*next, GWL_STYLE) & ES_MULTILINE)) SendMessageW(*next, EM_SETSEL, 0, -1);
+}
+
+void Form::restore_focus() {
+    if (last_focus_ && IsChild(window_, last_focus_) && IsWindowVisible(last_focus_) && IsWindowEnabled(last_focus_)) {
+        SetFocus(last_focus_);
+        return;
+    }
+    for (const Control* control : controls()) {
+        if ((GetWindowLongPtrW(control->window(), GWL_STYLE) & WS_TABSTOP) && control->visible() &&
+            control->enabled()) {
+            SetFocus(control->window());
+            return;
+        }
+    }
+}
+
+bool Form::raise_key_down(int key) {
+    KeyEvent event{.key = key, .modifiers = current_modifiers()};
+    raise(on_key_down, event);
+    return event.handled;
+}
+
+void Form::show_keyboard_cues() {
+    SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
+}
+
+void Form::set_default_button(Button* button) {
+    Button* const former = default_button_;
+    default_button_ = button;
+    if (former) InvalidateRect(former->window(), nullptr, FALSE);
+    if (button) InvalidateRect(button->window(), nullptr, FALSE);
+}
+
+}  // namespace quillomat

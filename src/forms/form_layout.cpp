@@ -1,0 +1,110 @@
+// Where a form stands on the screen and how large it is there.
+
+#include <algorithm>
+
+#include "forms/application.h"
+#include "forms/form.h"
+
+namespace quillomat {
+namespace {
+
+RECT free_area(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
+}
+
+}  // namespace
+
+RECT Form::outer() const {
+    // A minimised window reports a place far outside of the screen; what counts is where it goes back to.
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    if (IsIconic(window_) && GetWindowPlacement(window_, &placement)) return placement.rcNormalPosition;
+    RECT area{};
+    GetWindowRect(window_, &area);
+    return area;
+}
+
+double Form::left() const {
+    return to_twips(outer().left, dpi_);
+}
+
+double Form::top() const {
+    return to_twips(outer().top, dpi_);
+}
+
+double Form::width() const {
+    return to_twips(outer().right - outer().left, dpi_);
+}
+
+double Form::height() const {
+    return to_twips(outer().bottom - outer().top, dpi_);
+}
+
+void Form::set_width(double twips) {
+    SetWindowPos(window_, nullptr, 0, 0, to_pixels(std::max(twips, 0.0), dpi_), outer().bottom - outer().top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::set_height(double twips) {
+    SetWindowPos(window_, nullptr, 0, 0, outer().right - outer().left, to_pixels(std::max(twips, 0.0), dpi_),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::move_to(double left, double top) {
+    SetWindowPos(window_, nullptr, to_pixels(left, dpi_), to_pixels(top, dpi_), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+double Form::inner_width() const {
+    RECT client{};
+    GetClientRect(window_, &client);
+    return to_twips(client.right, dpi_);
+}
+
+double Form::inner_height() const {
+    RECT client{};
+    GetClientRect(window_, &client);
+    return to_twips(client.bottom, dpi_);
+}
+
+void Form::centre_on_screen() {
+    const RECT screen = free_area(window_);
+    const RECT area = outer();
+    SetWindowPos(window_, nullptr, screen.left + (screen.right - screen.left - (area.right - area.left)) / 2,
+                 screen.top + (screen.bottom - screen.top - (area.bottom - area.top)) / 2, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::place_on_screen() {
+    // Whatever the settings said, the whole window is in reach of the user.
+    const RECT screen = free_area(window_);
+    const RECT area = outer();
+    const LONG width = std::min(area.right - area.left, screen.right - screen.left);
+    const LONG height = std::min(area.bottom - area.top, screen.bottom - screen.top);
+    const LONG left = std::clamp(area.left, screen.left, screen.right - width);
+    const LONG top = std::clamp(area.top, screen.top, screen.bottom - height);
+    SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::limit_sizing(WPARAM edge, RECT& area) const {
+    // The resize rules of a form would push the border back after the user has pulled it; here it never goes so far.
+    const LONG width = std::max<LONG>(area.right - area.left, to_pixels(minimum_width_, dpi_));
+    const LONG height = std::max<LONG>(area.bottom - area.top, to_pixels(minimum_height_, dpi_));
+    const bool pulls_left = edge == WMSZ_LEFT || edge == WMSZ_TOPLEFT || edge == WMSZ_BOTTOMLEFT;
+    const bool pulls_top = edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT;
+    pulls_left ? area.left = area.right - width : area.right = area.left + width;
+    pulls_top ? area.top = area.bottom - height : area.bottom = area.top + height;
+}
+
+void Form::resolution_changed(int dpi, const RECT& suggested) {
+    dpi_ = application_.forced_dpi() ? application_.forced_dpi() : dpi;
+    items_resolution_changed();
+    SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (shown_) raise(on_resize);
+}
+
+}  // namespace quillomat

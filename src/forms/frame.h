@@ -1,0 +1,31 @@
+#pragma once
+
+#include "forms/container.h"
+#include "forms/control.h"
+
+namespace quillomat {
+
+enum class FrameBorder { None, Captioned };
+
+/// A group of items that moves and hides as one, with or without a frame and a caption around it. Its window is the
+/// system's group box, which tells screen readers what belongs together.
+class Frame : public Control, public Container {
+  public:
+    Frame(Container& container, std::wstring_view caption, Bounds bounds, FrameBorder border);
+
+    HWND window() const override { return Control::window(); }
+    Form& owner_form() override { return form(); }
+    using Container::back_colour;
+    using Container::set_back_colour;
+    void resolution_changed() override;
+
+  protected:
+    MouseEvents& surface() override { return *this; }
+    void draw_background(HDC canvas, const RECT& client) override;
+    LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  private:
+    FrameBorder border_;
+};
+
+}  // namespace quillomat

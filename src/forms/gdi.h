@@ -1,0 +1,87 @@
+#pragma once
+
+#include <utility>
+
+#include "forms/colour.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+/// Owns a GDI object (brush, pen, font, bitmap, region) and deletes it.
+template <class Handle>
+class GdiObject {
+  public:
+    GdiObject() = default;
+    explicit GdiObject(Handle handle) : handle_(handle) {}
+    GdiObject(GdiObject&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+    GdiObject& operator=(GdiObject&& other) noexcept {
+        std::swap(handle_, other.handle_);
+        return *this;
+    }
+    ~GdiObject() {
+        if (handle_) DeleteObject(handle_);
+    }
+
+    Handle get() const { return handle_; }
+    explicit operator bool() const { return handle_ != nullptr; }
+
+  private:
+    Handle handle_ = nullptr;
+};
+
+/// Selects an object into a device context and puts the former one back at the end of the scope.
+class Selection {
+  public:
+    Selection(HDC canvas, HGDIOBJ object) : canvas_(canvas), former_(SelectObject(canvas, object)) {}
+    ~Selection() { SelectObject(canvas_, former_); }
+    Selection(const Selection&) = delete;
+    Selection& operator=(const Selection&) = delete;
+
+  private:
+    HDC canvas_;
+    HGDIOBJ former_;
+};
+
+/// The colour as the system wants it, with system colours looked up in the user's theme.
+inline COLORREF resolve(Colour colour) {
+    return colour.value & 0x80000000u ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;
+}
+
+/// Fills a rectangle of pixels without creating a brush.
+inline void fill(HDC canvas, const RECT& area, Colour colour) {
+    SetDCBrushColor(canvas, resolve(colour));
+    FillRect(canvas, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+}
+
+/// Collects the drawing of one area in memory and shows it at once at the end of the scope, so that nothing flickers.
+class BufferedCanvas {
+  public:
+    /// `area` is in pixels of `target`; drawing on `canvas()` uses the same coordinates.
+    BufferedCanvas(HDC target, const RECT& area)
+        : target_(target),
+          area_(area),
+          bitmap_(CreateCompatibleBitmap(target, area.right - area.left, area.bottom - area.top)),
+          memory_(CreateCompatibleDC(target)),
+          former_(SelectObject(memory_, bitmap_.get())) {
+        SetWindowOrgEx(memory_, area.left, area.top, nullptr);
+    }
+    ~BufferedCanvas() {
+        BitBlt(target_, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, memory_, area_.left,
+               area_.top, SRCCOPY);
+        SelectObject(memory_, former_);
+        DeleteDC(memory_);
+    }
+    BufferedCanvas(const BufferedCanvas&) = delete;
+    BufferedCanvas& operator=(const BufferedCanvas&) = delete;
+
+    HDC canvas() const { return memory_; }
+
+  private:
+    HDC target_;
+    RECT area_;
+    GdiObject<HBITMAP> bitmap_;
+    HDC memory_;
+    HGDIOBJ former_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <string>
+
+#include "forms/colour.h"
+#include "forms/font.h"
+#include "forms/item.h"
+#include "forms/picture.h"
+
+namespace quillomat {
+
+/// An item without a window: its container paints it, in the order of the items, and gives it its mouse events.
+class Graphic : public Item {
+  public:
+    ~Graphic() override;
+
+    void bring_to_front() override;
+    void refresh() override;
+
+    /// Draws the item; its place is `pixels()`. For the container.
+    virtual void draw(HDC canvas) const = 0;
+    /// Whether the mouse meets the item or what lies behind it.
+    virtual bool takes_mouse() const { return true; }
+    /// Where it stands in its container, in pixels.
+    const RECT& pixels() const { return pixels_; }
+    /// Has it painted again when the program is idle.
+    void invalidate() const;
+
+  protected:
+    Graphic(Container& container, Bounds bounds);
+    void apply_bounds() override;
+    void apply_visible() override;
+    void apply_enabled() override { invalidate(); }
+    /// Where it stands for these bounds, in pixels.
+    virtual RECT place() const;
+    void place_now() { pixels_ = place(); }
+
+  private:
+    RECT pixels_{};
+};
+
+enum class Alignment { Left, Centre, Right };
+enum class BackStyle { Transparent, Opaque };
+
+/// A painted text. Access keys and screen readers pass it by: the caption of an input is a `StaticLabel`.
+class Label : public Graphic {
+  public:
+    Label(Container& container, std::wstring caption, Bounds bounds);
+
+    const std::wstring& caption() const { return caption_; }
+    void set_caption(std::wstring caption);
+    void set_alignment(Alignment alignment);
+    void set_back_style(BackStyle style);
+    Colour back_colour() const { return back_colour_; }
+    void set_back_colour(Colour colour);
+    Colour fore_colour() const { return fore_colour_; }
+    void set_fore_colour(Colour colour);
+    void set_font(FontSpec font);
+
+    void draw(HDC canvas) const override;
+
+  private:
+    std::wstring caption_;
+    FontSpec font_;
+    Colour back_colour_ = colours::button_face;
+    Colour fore_colour_ = colours::button_text;
+    Alignment alignment_ = Alignment::Left;
+    BackStyle back_style_ = BackStyle::Transparent;
+};
+
+enum class ImageBorder { None, Single };
+
+/// A painted picture, by itself or pressed into a single-line border.
+class Image : public Graphic {
+  public:
+    Image(Container& container, Picture picture, Bounds bounds);
+
+    void set_picture(Picture picture);
+    /// Draws the picture this large, in twips, in the middle of the image instead of filling it.
+    void set_picture_size(double twips);
+    ImageBorder border() const { return border_; }
+    void set_border(ImageBorder border);
+
+    void draw(HDC canvas) const override;
+
+  private:
+    Picture picture_;
+    double picture_size_ = 0;
+    ImageBorder border_ = ImageBorder::None;
+};
+
+/// A painted rectangle. The mouse meets what lies behind it.
+class Shape : public Graphic {
+  public:
+    Shape(Container& container, Bounds bounds);
+
+    void set_border_colour(Colour colour);
+    Colour border_colour() const { return border_colour_; }
+
+    void draw(HDC canvas) const override;
+    bool takes_mouse() const override { return false; }
+
+  private:
+    Colour border_colour_ = colours::black;
+};
+
+/// A painted straight line along the upper or left edge of its bounds. The mouse meets what lies behind it.
+class Line : public Graphic {
+  public:
+    Line(Container& container, Bounds bounds);
+
+    void draw(HDC canvas) const override;
+    bool takes_mouse() const override { return false; }
+};
+
+}  // namespace quillomat

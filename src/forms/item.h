@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+
+#include "forms/events.h"
+#include "forms/geometry.h"
+
+namespace quillomat {
+
+class Container;
+class Form;
+
+/// Anything that stands on a form: a control with a window of its own, or a graphic that its container paints.
+///
+/// Sizes and positions are in twips from the container's inner left and top. They are kept as given; read back, they
+/// are what the whole pixels of the screen made of them.
+class Item : public MouseEvents {
+  public:
+    Item(Container& container, Bounds bounds);
+    virtual ~Item() = default;
+    Item(const Item&) = delete;
+    Item& operator=(const Item&) = delete;
+
+    Container& container() const { return container_; }
+    Form& form() const;
+
+    double left() const { return rounded(bounds_.left); }
+    double top() const { return rounded(bounds_.top); }
+    double width() const { return rounded(bounds_.width); }
+    double height() const { return rounded(bounds_.height); }
+    void set_left(double twips);
+    void set_top(double twips);
+    void set_width(double twips);
+    void set_height(double twips);
+    void move(Bounds bounds);
+
+    bool visible() const { return visible_; }
+    void set_visible(bool visible);
+    bool enabled() const { return enabled_; }
+    void set_enabled(bool enabled);
+
+    /// Puts the item in front of all others of its container that it can stand in front of: controls are always in
+    /// front of graphics.
+    virtual void bring_to_front() = 0;
+    /// Paints the item now instead of when the program is idle.
+    virtual void refresh() = 0;
+
+    /// Takes over a new resolution of the container; for the toolkit.
+    virtual void resolution_changed() { apply_bounds(); }
+
+  protected:
+    const Bounds& exact_bounds() const { return bounds_; }
+    int dpi() const;
+
+    virtual void apply_bounds() = 0;
+    virtual void apply_visible() = 0;
+    virtual void apply_enabled() = 0;
+
+  private:
+    double rounded(double twips) const;
+
+    Container& container_;
+    Bounds bounds_;
+    bool visible_ = true;
+    bool enabled_ = true;
+};
+
+}  // namespace quillomat

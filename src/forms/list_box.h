@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/control.h"
+
+namespace quillomat {
+
+/// A list of texts of which one can be selected, in the order they were added.
+class ListBox : public Control {
+  public:
+    ListBox(Container& container, Bounds bounds);
+
+    int count() const;
+    void clear();
+    void add(std::wstring_view text);
+    /// Keeps the list from painting while many texts are added.
+    class Filling {
+      public:
+        explicit Filling(ListBox& list);
+        ~Filling();
+        Filling(const Filling&) = delete;
+        Filling& operator=(const Filling&) = delete;
+
+      private:
+        ListBox& list_;
+    };
+
+    /// The text at a position; empty where there is none.
+    std::wstring item(int index) const;
+
+    /// The position of the selected text, or nothing.
+    std::optional<int> selected_index() const;
+    /// Selects the text at a position and raises the click. Throws `Error` with SubscriptOutOfRange when there is none.
+    void select_index(int index);
+    /// The selected text; empty when none is selected.
+    std::wstring text() const;
+    /// Selects the first text that equals this one to the letter, and raises the click; without one, nothing changes.
+    void select_text(std::wstring_view text);
+
+    /// Scrolls the text at a position to the top, as far as the list goes.
+    void set_top_index(int index);
+
+    /// What the system says lies at a point in pixels: a position, with a flag above its 16 bits when the point lies
+    /// outside of the list's texts.
+    int item_from_point(int x, int y) const;
+
+    void notified(WORD code) override;
+
+  private:
+    std::optional<int> find(std::wstring_view text) const;
+};
+
+}  // namespace quillomat

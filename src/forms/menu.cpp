@@ -1,0 +1,108 @@
+#include "forms/menu.h"
+
+#include <utility>
+
+#include "forms/form.h"
+#include "win/errors.h"
+
+namespace quillomat {
+
+MenuBar::MenuBar(Form& form) : form_(form), handle_(CreateMenu()) {
+    if (!handle_) throw_last_error();
+    form_.set_menu_bar(handle_);
+}
+
+Menu::Menu(MenuBar& bar, std::wstring caption)
+    : form_(bar.form()), handle_(CreatePopupMenu()), id_(form_.add_command(*this)), caption_(std::move(caption)) {
+    attach(bar.handle());
+    form_.menu_changed();
+}
+
+Menu::Menu(Form& form, std::wstring caption)
+    : form_(form), handle_(CreatePopupMenu()), id_(form_.add_command(*this)), caption_(std::move(caption)) {}
+
+Menu::Menu(Menu& parent, std::wstring caption)
+    : form_(parent.form_), parent_(&parent), id_(form_.add_command(*this)), caption_(std::move(caption)) {
+    parent.become_submenu();
+    attach(parent.handle_);
+}
+
+Menu::~Menu() {
+    form_.remove_command(id_);
+    // The bar and what hangs from it are gone when the window is.
+    const int place = position();
+    if (place >= 0) RemoveMenu(container_, static_cast<UINT>(place), MF_BYPOSITION);
+    if (handle_) DestroyMenu(handle_);
+}
+
+void Menu::attach(HMENU parent) {
+    container_ = parent;
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
+    info.wID = static_cast<UINT>(id_);
+    info.dwTypeData = caption_.data();
+    info.hSubMenu = handle_;
+    if (!InsertMenuItemW(parent, static_cast<UINT>(GetMenuItemCount(parent)), TRUE, &info)) throw_last_error();
+}
+
+void Menu::become_submenu() {
+    if (handle_) return;
+    handle_ = CreatePopupMenu();
+    if (!handle_) throw_last_error();
+    MENUITEMINFOW info{};
+    info.fMask = MIIM_SUBMENU;
+    info.hSubMenu = handle_;
+    update(info);
+}
+
+int Menu::position() const {
+    for (int i = 0; container_ && i < GetMenuItemCount(container_); ++i) {
+        MENUITEMINFOW info{};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_ID;
+        if (GetMenuItemInfoW(container_, static_cast<UINT>(i), TRUE, &info) && info.wID == static_cast<UINT>(id_)) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+void Menu::update(const MENUITEMINFOW& info) const {
+    if (!container_) return;
+    MENUITEMINFOW sized = info;
+    sized.cbSize = sizeof sized;
+    SetMenuItemInfoW(container_, static_cast<UINT>(id_), FALSE, &sized);
+}
+
+void Menu::set_caption(std::wstring caption) {
+    caption_ = std::move(caption);
+    MENUITEMINFOW info{};
+    info.fMask = MIIM_STRING;
+    info.dwTypeData = caption_.data();
+    update(info);
+}
+
+void Menu::set_checked(bool checked) {
+    checked_ = checked;
+    CheckMenuItem(container_, static_cast<UINT>(id_), checked ? MF_CHECKED : MF_UNCHECKED);
+}
+
+void Menu::set_enabled(bool enabled) {
+    enabled_ = enabled;
+    EnableMenuItem(container_, static_cast<UINT>(id_), enabled ? MF_ENABLED : MF_GRAYED);
+}
+
+void Menu::set_pictures(const Picture& unchecked, const Picture& checked) {
+    const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(form_.dpi()));
+    unchecked_picture_ = unchecked.bitmap(size);
+    checked_picture_ = checked.bitmap(size);
+    SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked_picture_.get(),
+                       checked_picture_.get());
+}
+
+void Menu::pick() {
+    if (enabled_) raise(on_click);
+}
+
+}  // namespace quillomat

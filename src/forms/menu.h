@@ -1,0 +1,79 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/picture.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+class Form;
+
+/// The menu bar of a form; it shows the menus made with it, in that order.
+class MenuBar {
+  public:
+    explicit MenuBar(Form& form);
+    MenuBar(const MenuBar&) = delete;
+    MenuBar& operator=(const MenuBar&) = delete;
+
+    Form& form() const { return form_; }
+    HMENU handle() const { return handle_; }
+
+  private:
+    Form& form_;
+    HMENU handle_;  // destroyed with the form's window
+};
+
+/// A menu or an entry of one. An entry comes at the end of its parent and leaves it when it is destroyed; with entries
+/// of its own it is a submenu.
+class Menu {
+  public:
+    /// A menu of the bar.
+    Menu(MenuBar& bar, std::wstring caption);
+    /// A menu that only pops up.
+    Menu(Form& form, std::wstring caption);
+    /// An entry of another menu.
+    Menu(Menu& parent, std::wstring caption);
+    ~Menu();
+    Menu(const Menu&) = delete;
+    Menu& operator=(const Menu&) = delete;
+
+    /// An entry was picked, or a menu is about to open.
+    std::function<void()> on_click;
+
+    const std::wstring& caption() const { return caption_; }
+    void set_caption(std::wstring caption);
+    bool checked() const { return checked_; }
+    void set_checked(bool checked);
+    bool enabled() const { return enabled_; }
+    void set_enabled(bool enabled);
+    /// The pictures shown beside the entry, without and with its check mark.
+    void set_pictures(const Picture& unchecked, const Picture& checked);
+
+    // For the toolkit.
+    HMENU handle() const { return handle_; }
+    int id() const { return id_; }
+    /// Raises the event, as if the user had picked the entry.
+    void pick();
+
+  private:
+    void attach(HMENU parent);
+    void become_submenu();
+    int position() const;
+    void update(const MENUITEMINFOW& info) const;
+
+    Form& form_;
+    Menu* parent_ = nullptr;
+    HMENU container_ = nullptr;  // the menu this is an entry of
+    HMENU handle_ = nullptr;     // the menu of its own entries
+    int id_;
+    std::wstring caption_;
+    bool checked_ = false;
+    bool enabled_ = true;
+    GdiObject<HBITMAP> unchecked_picture_;
+    GdiObject<HBITMAP> checked_picture_;
+};
+
+}  // namespace quillomat

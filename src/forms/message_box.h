@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "win/api.h"
+
+namespace quillomat {
+
+enum class MessageButtons { Ok, OkCancel, YesNo };
+enum class MessageIcon { None, Critical, Question, Information };
+enum class MessageAnswer { Ok, Cancel, Yes, No };
+
+/// A message box: its text, its title and what it offers.
+struct Message {
+    std::wstring text;
+    std::wstring title;
+    MessageButtons buttons = MessageButtons::Ok;
+    MessageIcon icon = MessageIcon::None;
+};
+
+/// Shows a message above `owner` (which may be null) and waits for the answer; none of the program's windows can be
+/// used meanwhile.
+MessageAnswer show_message(HWND owner, const Message& message);
+
+}  // namespace quillomat

@@ -1,0 +1,31 @@
+#include "forms/option_button.h"
+
+#include "forms/container.h"
+
+namespace quillomat {
+
+OptionButton::OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group)
+    : Control(container, bounds, L"BUTTON", caption,
+              BS_AUTORADIOBUTTON | WS_TABSTOP | (group == Group::Starts ? WS_GROUP : 0)) {}
+
+void OptionButton::take_back_others() {
+    for (Control* control : container().controls()) {
+        auto* other = dynamic_cast<OptionButton*>(control);
+        if (other && other != this) other->set_value(false);
+    }
+}
+
+void OptionButton::set_value(bool value) {
+    send(BM_SETCHECK, value ? BST_CHECKED : BST_UNCHECKED);
+    if (value == value_) return;
+    value_ = value;
+    if (!value) return;
+    take_back_others();
+    raise(on_click);
+}
+
+void OptionButton::notified(WORD code) {
+    if (code == BN_CLICKED) set_value(true);
+}
+
+}  // namespace quillomat

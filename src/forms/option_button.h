@@ -1,0 +1,27 @@
+#pragma once
+
+#include "forms/control.h"
+
+namespace quillomat {
+
+/// One of the choices of its container, of which at most one is set.
+class OptionButton : public Control {
+  public:
+    enum class Group { Starts, Continues };
+
+    /// The first option of a container starts the group that the arrow keys walk through.
+    OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group);
+
+    bool value() const { return value_; }
+    /// Sets the choice and raises the click when it becomes set; the container's other choices are taken back.
+    void set_value(bool value);
+
+    void notified(WORD code) override;
+
+  private:
+    void take_back_others();
+
+    bool value_ = false;
+};
+
+}  // namespace quillomat

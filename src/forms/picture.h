@@ -1,0 +1,26 @@
+#pragma once
+
+#include "forms/gdi.h"
+
+namespace quillomat {
+
+/// A picture of the program: an icon among its resources, drawn for several sizes.
+class Picture {
+  public:
+    /// No picture.
+    Picture() = default;
+    explicit Picture(int resource) : resource_(resource) {}
+
+    explicit operator bool() const { return resource_ != 0; }
+    friend bool operator==(const Picture&, const Picture&) = default;
+
+    /// Draws it into `area`, in pixels, from the size drawn for it.
+    void draw(HDC canvas, const RECT& area) const;
+    /// A square bitmap with transparency, as menus take it.
+    GdiObject<HBITMAP> bitmap(int pixels) const;
+
+  private:
+    int resource_ = 0;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "forms/control.h"
+
+namespace quillomat {
+
+/// The caption of the input made after it: screen readers name the input by it, and its access key moves the focus
+/// there. Without a size it names the input and shows nothing.
+class StaticLabel : public Control {
+  public:
+    StaticLabel(Container& container, std::wstring_view caption, Bounds bounds);
+
+    HBRUSH prepare_colours(HDC canvas) override;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,147 @@
+#include "forms/text_box.h"
+
+#include <algorithm>
+
+#include "forms/application.h"
+#include "forms/form.h"
+
+namespace quillomat {
+namespace {
+
+// The system's own limit of what can be typed is 32 K or 64 K characters.
+constexpr WPARAM no_limit = 0x7FFFFFFE;
+
+// The time to break one line grows with the square of its length in some versions of the system's control; a line as
+// long as this can still be shown at once.
+constexpr std::size_t longest_broken_line = 2000;
+
+DWORD style_of(TextBoxKind kind, bool breaks_lines) {
+    constexpr DWORD multi_line = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL | WS_TABSTOP | WS_GROUP;
+    const DWORD unbroken = breaks_lines ? 0 : ES_AUTOHSCROLL | WS_HSCROLL;
+    switch (kind) {
+        case TextBoxKind::SingleLine:
+            return ES_AUTOHSCROLL | WS_TABSTOP | WS_GROUP;
+        case TextBoxKind::MultiLine:
+            return multi_line | unbroken;
+        case TextBoxKind::Reading:
+            return multi_line | unbroken | ES_READONLY;
+        case TextBoxKind::Help:
+            return ES_READONLY | ES_AUTOHSCROLL | WS_BORDER;
+    }
+    return 0;
+}
+
+std::size_t longest_line(std::wstring_view text) {
+    std::size_t longest = 0;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(L'\n'), text.size());
+        longest = std::max(longest, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return longest;
+}
+
+}  // namespace
+
+TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
+    : Control(container, bounds, L"EDIT", {}, style_of(kind, kind == TextBoxKind::Reading),
+              kind == TextBoxKind::Help ? 0 : WS_EX_CLIENTEDGE),
+      kind_(kind),
+      breaks_lines_(kind == TextBoxKind::Reading) {
+    const bool help = kind == TextBoxKind::Help;
+    set_default_back_colour(help ? colours::tip_background : colours::window);
+    if (help) {
+        set_fore_colour(colours::tip_text);
+        set_visible(false);
+    }
+    send(EM_SETLIMITTEXT, no_limit);
+}
+
+void TextBox::set_text(std::wstring_view text) {
+    // The system reports a change by the program for some kinds of box and not for others; here it is always one event.
+    program_changes_ = true;
+    choose_line_breaks(text);
+    SetWindowTextW(window(), displayable(text).c_str());
+    program_changes_ = false;
+    raise(on_change);
+}
+
+void TextBox::choose_line_breaks(std::wstring_view text) {
+    if (kind_ != TextBoxKind::Reading) return;
+    const bool breaks_lines = longest_line(text) <= longest_broken_line;
+    if (breaks_lines == breaks_lines_) return;
+    breaks_lines_ = breaks_lines;
+    recreate(style_of(kind_, breaks_lines));
+    send(EM_SETLIMITTEXT, no_limit);
+}
+
+std::size_t TextBox::selection_start() const {
+    DWORD start = 0;
+    send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), 0);
+    return start;
+}
+
+std::size_t TextBox::selection_length() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return end - start;
+}
+
+std::wstring TextBox::selected_text() const {
+    const std::size_t start = selection_start();
+    const std::size_t length = selection_length();
+    return length == 0 ? std::wstring() : text().substr(start, length);
+}
+
+void TextBox::select(std::size_t start, std::size_t length) {
+    send(EM_SETSEL, start, static_cast<LPARAM>(start + length));
+    send(EM_SCROLLCARET);
+}
+
+void TextBox::fit_width_to_text() {
+    const SIZE text_size = text_extent(form().application().fonts().get(font(), dpi()), text());
+    RECT area{};
+    RECT formatting{};
+    GetWindowRect(window(), &area);
+    send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&formatting));
+    const LONG frame = (area.right - area.left) - (formatting.right - formatting.left);
+    // One more pixel than the text, or the box scrolls to make room for the caret.
+    set_width(to_twips(static_cast<int>(text_size.cx + frame + 1), dpi()));
+}
+
+void TextBox::notified(WORD code) {
+    if (code == EN_CHANGE && !program_changes_) raise(on_change);
+}
+
+LRESULT TextBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_LBUTTONUP: {
+            const LRESULT result = Control::handle_message(message, wparam, lparam);
+            raise(on_click);
+            return result;
+        }
+        case WM_LBUTTONDBLCLK: {
+            const LRESULT result = default_message(message, wparam, lparam);
+            raise(on_double_click);
+            return result;
+        }
+        case WM_CHAR:
+            // A box for one line would beep: Enter and Escape have done their work when the key went down.
+            if ((wparam == keys::enter || wparam == keys::escape) && kind_ != TextBoxKind::MultiLine) {
+                CharacterEvent event{.character = static_cast<wchar_t>(wparam)};
+                raise(on_key_press, event);
+                return 0;
+            }
+            break;
+        case WM_GETDLGCODE: {
+            // Unasked, a box for several lines takes itself for part of a dialog and closes its window on Escape.
+            LRESULT wanted = default_message(message, wparam, 0);
+            if (kind_ == TextBoxKind::Reading) wanted &= ~DLGC_WANTALLKEYS;
+            return wanted;
+        }
+    }
+    return Control::handle_message(message, wparam, lparam);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,49 @@
+#include "forms/timer.h"
+
+#include "forms/form.h"
+
+namespace quillomat {
+
+Timer::Timer(Form& form, int milliseconds, State state)
+    : form_(form), milliseconds_(milliseconds), enabled_(state == State::Enabled) {
+    form_.add(*this);
+    if (enabled_) start();
+}
+
+Timer::~Timer() {
+    stop();
+    form_.remove(*this);
+}
+
+void Timer::start() {
+    SetTimer(form_.window(), reinterpret_cast<UINT_PTR>(this), static_cast<UINT>(milliseconds_), nullptr);
+}
+
+void Timer::stop() {
+    if (form_.window()) KillTimer(form_.window(), reinterpret_cast<UINT_PTR>(this));
+}
+
+void Timer::set_enabled(bool enabled) {
+    if (enabled == enabled_) return;
+    enabled_ = enabled;
+    enabled ? start() : stop();
+}
+
+void Timer::set_interval(int milliseconds) {
+    if (milliseconds == milliseconds_) return;
+    milliseconds_ = milliseconds;
+    if (enabled_) start();
+}
+
+void Timer::tick() {
+    // A message that was under way when the timer was disabled is not an event any more.
+    if (!enabled_ || running_) return;
+    struct Running {
+        bool& flag;
+        explicit Running(bool& which) : flag(which) { flag = true; }
+        ~Running() { flag = false; }
+    } running(running_);
+    raise(on_timer);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+
+namespace quillomat {
+
+class Form;
+
+/// Raises an event again and again while it is enabled. It ends with its form.
+class Timer {
+  public:
+    enum class State { Disabled, Enabled };
+
+    Timer(Form& form, int milliseconds, State state = State::Enabled);
+    ~Timer();
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+
+    std::function<void()> on_timer;
+
+    bool enabled() const { return enabled_; }
+    void set_enabled(bool enabled);
+    int interval() const { return milliseconds_; }
+    void set_interval(int milliseconds);
+
+    /// Raises the event, unless its handler is still running below a dialog; for the toolkit.
+    void tick();
+
+  private:
+    void start();
+    void stop();
+
+    Form& form_;
+    int milliseconds_;
+    bool enabled_;
+    bool running_ = false;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,34 @@
+#include "forms/tool_tips.h"
+
+namespace quillomat {
+namespace {
+
+// Long texts, such as a long game name, break into lines instead of leaving the screen.
+constexpr int widest_line_pixels = 600;
+
+}  // namespace
+
+void ToolTips::create() {
+    window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
+                              0, form_, nullptr, nullptr, nullptr);
+    SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, widest_line_pixels);
+}
+
+void ToolTips::set(HWND control, const std::wstring& text) {
+    if (!window_) create();
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof tool;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = form_;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = const_cast<wchar_t*>(text.c_str());
+    const bool known = SendMessageW(window_, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0;
+    tool.lpszText = const_cast<wchar_t*>(text.c_str());
+    if (text.empty()) {
+        SendMessageW(window_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    } else {
+        SendMessageW(window_, known ? TTM_UPDATETIPTEXTW : TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    }
+}
+
+}  // namespace quillomat

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "win/api.h"
+
+namespace quillomat {
+
+/// The tool tips of one form. The window that shows them is made when the first one is set.
+class ToolTips {
+  public:
+    explicit ToolTips(HWND form) : form_(form) {}
+
+    /// Sets the text shown while the pointer rests on `control`; an empty one shows none.
+    void set(HWND control, const std::wstring& text);
+
+  private:
+    void create();
+
+    HWND form_;
+    HWND window_ = nullptr;  // owned by the form's window and destroyed with it
+};
+
+}  // namespace quillomat

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace quillomat {
+
+/// What can go wrong in the program, by the number users and support people know it by.
+enum class ErrorCode {
+    InvalidArgument = 5,
+    Overflow = 6,
+    OutOfMemory = 7,
+    SubscriptOutOfRange = 9,
+    TypeMismatch = 13,
+    DeviceError = 57,
+    FileNotFound = 53,
+    FileAlreadyOpen = 55,
+    DiskFull = 61,
+    PermissionDenied = 70,
+    DiskNotReady = 71,
+    PathNotFound = 76,
+    PrinterError = 482,
+};
+
+/// The one exception type of the program: a number and a sentence that can be shown to the user as it stands.
+class Error : public std::exception {
+  public:
+    /// An error with the standard description of its number, such as "File not found".
+    explicit Error(ErrorCode code);
+    /// An error whose description says more than the standard one.
+    Error(ErrorCode code, std::wstring description);
+
+    ErrorCode code() const noexcept { return code_; }
+    const std::wstring& description() const noexcept { return description_; }
+    /// The number in words for a debugger; users are shown `description`.
+    const char* what() const noexcept override { return "quillomat::Error"; }
+
+  private:
+    ErrorCode code_;
+    std::wstring description_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,348 @@
+// The rules that every window of the program relies on, held over every kind of control.
+
+#include <memory>
+
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/frame.h"
+#include "forms/graphics.h"
+#include "forms/list_box.h"
+#include "forms/menu.h"
+#include "forms/option_button.h"
+#include "forms/text_box.h"
+#include "forms/timer.h"
+#include "support.h"
+#include "text/error.h"
+
+namespace quillomat {
+namespace {
+
+struct Board : Form {
+    explicit Board(Application& application)
+        : Form(application, {.name = L"frmBoard", .caption = L"Board", .width = 6000, .height = 6000}) {}
+
+    Label Label1{*this, L"Label", {3000, 3000, 1500, 300}};
+    Image Image1{*this, Picture(), {3000, 3600, 600, 600}};
+    TextBox Text1{*this, {120, 120, 2000, 315}};
+    TextBox Text2{*this, {120, 600, 2000, 900}, TextBoxKind::MultiLine};
+    ListBox List1{*this, {120, 1600, 2000, 900}};
+    Frame Frame1{*this, L"Frame", {120, 2600, 2500, 900}, FrameBorder::Captioned};
+    OptionButton Option1{Frame1, L"&One", {60, 300, 1000, 255}, OptionButton::Group::Starts};
+    OptionButton Option2{Frame1, L"&Two", {1200, 300, 1000, 255}, OptionButton::Group::Continues};
+    Button Command1{*this, L"&Press", {120, 3600, 1200, 375}};
+    Button Command2{*this, L"&Later", {120, 4100, 1200, 375}};
+};
+
+class FormsTest : public WindowTest {
+  protected:
+    void show() {
+        board.show();
+        ASSERT_TRUE(pump_until([this] { return IsWindowVisible(board.window()) && GetFocus(); }));
+    }
+    /// Moves the real pointer to the middle of an item, in front of everything that could cover it.
+    void point_at(HWND window, const Item& item) {
+        const auto pixels = [this](double twips) { return to_pixels(twips, board.dpi()); };
+        move_pointer(window, pixels(item.left() + item.width() / 2), pixels(item.top() + item.height() / 2));
+    }
+
+    Board board{application};
+};
+
+TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
+    show();
+    for (TextBox* box : {&board.Text1, &board.Text2}) {
+        int changes = 0;
+        box->on_change = [&] { ++changes; };
+        box->set_text(L"a");
+        EXPECT_EQ(changes, 1);
+        box->set_focus();
+        press_key('B');
+        EXPECT_TRUE(pump_until([&] { return changes == 2; }));
+    }
+
+    int clicks = 0;
+    board.List1.on_click = [&] { ++clicks; };
+    board.List1.add(L"first");
+    board.List1.add(L"second");
+    EXPECT_EQ(clicks, 0);
+    board.List1.select_index(0);
+    EXPECT_EQ(clicks, 1);
+    board.List1.set_focus();
+    press_key(VK_DOWN);
+    EXPECT_TRUE(pump_until([&] { return clicks == 2; }));
+    EXPECT_EQ(board.List1.text(), L"second");
+
+    int settings = 0;
+    board.Option2.on_click = [&] { ++settings; };
+    board.Option2.set_value(true);
+    board.Option2.set_value(true);
+    EXPECT_EQ(settings, 1) << "a choice that is set already does not become set";
+    board.Option1.set_value(true);
+    EXPECT_FALSE(board.Option2.value());
+    board.Option1.set_focus();
+    press_key(VK_RIGHT);
+    EXPECT_TRUE(pump_until([&] { return settings == 2; }));
+    EXPECT_FALSE(board.Option1.value());
+
+    int presses = 0;
+    board.Command1.on_click = [&] { ++presses; };
+    board.Command1.click();
+    board.Command1.set_focus();
+    press_key(VK_SPACE);
+    EXPECT_TRUE(pump_until([&] { return presses == 2; }));
+}
+
+TEST_F(FormsTest, TextsOfEveryLengthAndCharacterComeBackUnchanged) {
+    std::wstring line(100'000, L'x');
+    for (int i = 0; i < 20; ++i) line += L"\r\n" + std::wstring(50'000, static_cast<wchar_t>(L'a' + i));
+    board.Text2.set_text(line);
+    EXPECT_EQ(board.Text2.text(), line);
+    board.List1.add(std::wstring(10'000, L'\u00e9'));
+    EXPECT_EQ(board.List1.item(0).size(), 10'000u);
+    board.Text1.set_text(std::wstring_view(L"a\0b", 3));
+    EXPECT_EQ(board.Text1.text(), L"a b") << "what stands behind a NUL is not lost";
+}
+
+TEST_F(FormsTest, AListIsSelectedByItsTextToTheLetter) {
+    for (const wchar_t* name : {L"Doom", L"doom", L"Doom", L"DOOM", L""}) board.List1.add(name);
+    const struct {
+        const wchar_t* text;
+        int index;
+    } cases[] = {{L"doom", 1}, {L"DOOM", 3}, {L"Doom", 0}, {L"dOOM", 0}, {L"", 4}, {L"Do", 4}};
+    for (const auto& [text, index] : cases) {
+        board.List1.select_text(text);
+        EXPECT_EQ(board.List1.selected_index(), index) << index;
+    }
+    EXPECT_THROW(board.List1.select_index(5), Error);
+}
+
+TEST_F(FormsTest, TheMouseMeetsPaintedItemsAsItMeetsControls) {
+    show();
+    std::wstring events;
+    board.Image1.on_mouse_down = [&](const MouseEvent& event) {
+        EXPECT_EQ(event.button, MouseButton::Left);
+        EXPECT_NEAR(event.x, 300, 15);
+        events += L"down ";
+    };
+    board.Image1.on_mouse_up = [&](const MouseEvent&) { events += L"up "; };
+    board.Image1.on_click = [&] { events += L"click "; };
+    board.Image1.on_double_click = [&] { events += L"double "; };
+    board.on_mouse_down = [&](const MouseEvent&) { events += L"surface "; };
+
+    point_at(board.window(), board.Image1);
+    click();
+    click();
+    EXPECT_TRUE(pump_until([&] { return events.ends_with(L"double up "); }));
+    EXPECT_EQ(events, L"down up click double up ") << "a double-click is released twice but pressed once";
+
+    events.clear();
+    board.Image1.set_visible(false);
+    click();
+    EXPECT_TRUE(pump_until([&] { return events == L"surface "; }));
+}
+
+TEST_F(FormsTest, ReleasingElsewhereIsNoClick) {
+    show();
+    bool released = false;
+    board.Label1.on_mouse_up = [&](const MouseEvent&) { released = true; };
+    board.Label1.on_click = [] { FAIL() << "clicked"; };
+    point_at(board.window(), board.Label1);
+    SendMessageW(
+        board.window(), WM_LBUTTONDOWN, MK_LBUTTON,
+        MAKELPARAM(to_pixels(board.Label1.left() + 60, board.dpi()), to_pixels(board.Label1.top() + 60, board.dpi())));
+    SendMessageW(board.window(), WM_LBUTTONUP, 0, MAKELPARAM(0, 0));
+    EXPECT_TRUE(released);
+}
+
+TEST_F(FormsTest, AnErrorNoHandlerCaughtIsReportedOnceAndTheProgramGoesOn) {
+    show();
+    int presses = 0;
+    board.Command1.on_click = [&] {
+        ++presses;
+        throw Error(ErrorCode::PermissionDenied);
+    };
+    expect_message(L"Quillomat", L"Permission denied");
+    board.Command1.set_focus();
+    press_key(VK_SPACE);
+    EXPECT_TRUE(pump_until([&] { return presses == 1 && IsWindowEnabled(board.window()); }));
+    press_key(VK_SPACE);
+    expect_message(L"Quillomat", L"Permission denied");
+    EXPECT_TRUE(pump_until([&] { return presses == 2; }));
+}
+
+TEST_F(FormsTest, GeometryIsKeptInTwipsAndReadBackInWholePixels) {
+    for (const int dpi : {96, 120, 144, 192}) {
+        const double pixel = 1440.0 / dpi;
+        const RECT suggested{0, 0, 500, 500};
+        SendMessageW(board.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+        EXPECT_EQ(board.dpi(), dpi);
+        board.Command1.set_left(1007);
+        EXPECT_NEAR(board.Command1.left(), 1007, pixel / 2);
+        EXPECT_DOUBLE_EQ(std::remainder(board.Command1.left(), pixel), 0);
+        RECT area{};
+        GetWindowRect(board.Command1.window(), &area);
+        MapWindowPoints(nullptr, board.window(), reinterpret_cast<POINT*>(&area), 2);
+        EXPECT_EQ(area.left, to_pixels(1007, dpi));
+        EXPECT_EQ(area.right - area.left, to_pixels(1200, dpi)) << "sizes follow the resolution";
+    }
+}
+
+TEST_F(FormsTest, TabWalksInTheOrderOfReadingWhateverComesToTheFront) {
+    board.Option1.set_value(true);
+    show();
+    board.Command2.bring_to_front();
+    board.List1.set_enabled(false);
+    HWND const order[] = {board.Text1.window(),    board.Text2.window(),    board.Option1.window(),
+                          board.Command1.window(), board.Command2.window(), board.Text1.window()};
+    board.Text1.set_focus();
+    for (const HWND expected : order) {
+        EXPECT_TRUE(pump_until([&] { return GetFocus() == expected; }));
+        press_key(VK_TAB);
+    }
+    EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text2.window(); }));
+    press_key(VK_TAB, {VK_SHIFT});
+    EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text1.window(); }));
+}
+
+TEST_F(FormsTest, KeysReachTheHandlerFirstThenTheDialogThenTheControl) {
+    show();
+    int defaults = 0;
+    int seen = 0;
+    board.set_default_button(&board.Command1);
+    board.Command1.on_click = [&] { ++defaults; };
+    board.Text1.on_key_down = [&](KeyEvent& event) {
+        if (event.key != keys::enter) return;
+        ++seen;
+        event.handled = seen == 1;
+    };
+    board.Text1.set_focus();
+    press_key(VK_RETURN);
+    press_key(VK_RETURN);
+    EXPECT_TRUE(pump_until([&] { return defaults == 1; }));
+    EXPECT_EQ(seen, 2) << "each press is one event";
+
+    board.Text1.on_key_press = [&](CharacterEvent& event) { event.handled = event.character == L'x'; };
+    press_key('X');
+    press_key('Y');
+    EXPECT_TRUE(pump_until([&] { return board.Text1.text() == L"y"; }));
+
+    board.Text2.set_focus();
+    press_key(VK_ESCAPE);
+    press_key('Z');
+    EXPECT_TRUE(pump_until([&] { return board.Text2.text() == L"z"; })) << "Escape in a long text closes nothing";
+    press_key('L', {VK_MENU});
+    bool other = false;
+    board.Command2.on_click = [&] { other = true; };
+    EXPECT_TRUE(pump_until([&] { return other; })) << "access keys press buttons";
+}
+
+TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
+    int ticks = 0;
+    Timer timer(board, 1);
+    show();
+    expect_message(L"Tick", L"tick");
+    timer.on_timer = [&] {
+        ++ticks;
+        show_message(board.window(), {.text = L"tick", .title = L"Tick"});
+        EXPECT_EQ(ticks, 1) << "ticked below its own message";
+        timer.set_enabled(false);
+    };
+    EXPECT_TRUE(pump_until([&] { return !timer.enabled(); }));
+    timer.on_timer = [] { FAIL() << "ticked after it was stopped"; };
+    int other_ticks = 0;
+    Timer other(board, 1);
+    other.on_timer = [&] { ++other_ticks; };
+    EXPECT_TRUE(pump_until([&] { return other_ticks == 5; }));
+}
+
+TEST_F(FormsTest, AFormClosedInItsOwnHandlerLivesUntilTheHandlerIsDone) {
+    auto form = std::make_unique<Board>(application);
+    bool handler_done = false;
+    bool closed = false;
+    form->Command1.on_click = [&] {
+        form->close();
+        application.let_pending_events_run();
+        EXPECT_TRUE(form) << "destroyed below a running handler";
+        handler_done = true;
+    };
+    form->on_closed = [&] {
+        closed = true;
+        form.reset();
+    };
+    form->show();
+    SendMessageW(form->Command1.window(), BM_CLICK, 0, 0);
+    EXPECT_TRUE(handler_done);
+    EXPECT_TRUE(pump_until([&] { return closed; }));
+    EXPECT_FALSE(form);
+}
+
+TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItCloses) {
+    show();
+    Board other(application);
+    other.show();
+    bool unloaded = false;
+    Board dialog(application);
+    Timer closer(dialog, 1);
+    closer.on_timer = [&] {
+        EXPECT_FALSE(IsWindowEnabled(board.window()));
+        EXPECT_FALSE(IsWindowEnabled(other.window()));
+        EXPECT_TRUE(IsWindowEnabled(dialog.window()));
+        EXPECT_EQ(GetWindow(dialog.window(), GW_OWNER), board.window());
+        dialog.close();
+    };
+    dialog.on_unload = [&] { unloaded = true; };
+    dialog.show_modal(&board);
+    EXPECT_TRUE(unloaded);
+    EXPECT_EQ(dialog.window(), nullptr);
+    EXPECT_TRUE(IsWindowEnabled(board.window()));
+    EXPECT_TRUE(IsWindowEnabled(other.window()));
+    EXPECT_EQ(GetActiveWindow(), board.window());
+}
+
+TEST_F(FormsTest, MenuEntriesComeAndGo) {
+    MenuBar bar(board);
+    Menu menu(bar, L"&Menu");
+    Menu first(menu, L"First");
+    int picks = 0;
+    {
+        Menu second(menu, L"Second");
+        second.on_click = [&] { ++picks; };
+        SendMessageW(board.window(), WM_COMMAND, static_cast<WPARAM>(second.id()), 0);
+        EXPECT_EQ(GetMenuItemCount(menu.handle()), 2);
+        second.set_enabled(false);
+        second.pick();
+        EXPECT_EQ(picks, 1) << "a disabled entry cannot be picked";
+    }
+    EXPECT_EQ(GetMenuItemCount(menu.handle()), 1);
+    first.set_checked(true);
+    first.set_caption(L"&Changed");
+    wchar_t caption[20]{};
+    GetMenuStringW(menu.handle(), 0, caption, 20, MF_BYPOSITION);
+    EXPECT_STREQ(caption, L"&Changed");
+    EXPECT_TRUE(GetMenuState(menu.handle(), 0, MF_BYPOSITION) & MF_CHECKED);
+}
+
+TEST_F(FormsTest, OpeningAndClosingLeavesNoObjectsBehind) {
+    const auto objects = [](DWORD kind) { return GetGuiResources(GetCurrentProcess(), kind); };
+    const auto open_and_close = [this] {
+        Board form(application);
+        MenuBar bar(form);
+        Menu menu(bar, L"Menu");
+        Menu entry(menu, L"Entry");
+        form.Command1.set_tool_tip(L"tip");
+        form.show();
+        pump();
+        form.Command1.set_back_colour(rgb(1, 2, 3));
+        form.Command1.set_underlined(true);
+        form.Command1.refresh();
+    };
+    open_and_close();
+    const DWORD gdi = objects(GR_GDIOBJECTS);
+    const DWORD user = objects(GR_USEROBJECTS);
+    for (int i = 0; i < 50; ++i) open_and_close();
+    EXPECT_LE(objects(GR_GDIOBJECTS), gdi + 2);
+    EXPECT_LE(objects(GR_USEROBJECTS), user + 2);
+}
+
+}  // namespace
+}  // namespace quillomat

@@ -1,0 +1,111 @@
+#include "support.h"
+
+namespace quillomat {
+namespace {
+
+std::wstring text_of(HWND window) {
+    std::wstring text(4096, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+std::wstring without_returns(std::wstring text) {
+    std::erase(text, L'\r');
+    return text;
+}
+
+bool is_message_box(HWND window) {
+    wchar_t name[16]{};
+    GetClassNameW(window, name, 16);
+    return std::wstring_view(name) == L"#32770";
+}
+
+void send_key(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+void send_mouse(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+}  // namespace
+
+WindowTest* WindowTest::running_ = nullptr;
+
+WindowTest::WindowTest() : hook_(SetWindowsHookExW(WH_CBT, on_window_event, nullptr, GetCurrentThreadId())) {
+    running_ = this;
+}
+
+WindowTest::~WindowTest() {
+    UnhookWindowsHookEx(hook_);
+    running_ = nullptr;
+    for (const Announced& missing : announced_) {
+        ADD_FAILURE() << "the announced message never came: " << std::string(missing.text.begin(), missing.text.end());
+    }
+}
+
+LRESULT CALLBACK WindowTest::on_window_event(int code, WPARAM wparam, LPARAM lparam) {
+    const auto window = reinterpret_cast<HWND>(wparam);
+    // A message box is complete when it is first activated; its answer is posted, so that it is really shown.
+    if (code == HCBT_ACTIVATE && running_ && is_message_box(window)) running_->answer(window);
+    return CallNextHookEx(nullptr, code, wparam, lparam);
+}
+
+void WindowTest::expect_message(std::wstring title, std::wstring text, int button) {
+    announced_.push_back({std::move(title), std::move(text), button});
+}
+
+void WindowTest::answer(HWND box) {
+    constexpr int text_control = 0xFFFF;
+    const std::wstring title = text_of(box);
+    const std::wstring text = text_of(GetDlgItem(box, text_control));
+    int button = IDCANCEL;
+    if (announced_.empty()) {
+        ADD_FAILURE() << "a message nobody announced: " << std::string(text.begin(), text.end());
+        button = GetDlgItem(box, IDNO) ? IDNO : GetDlgItem(box, IDCANCEL) ? IDCANCEL : IDOK;
+    } else {
+        EXPECT_EQ(announced_.front().title, title);
+        EXPECT_EQ(without_returns(announced_.front().text), without_returns(text));
+        button = announced_.front().button;
+        announced_.erase(announced_.begin());
+    }
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(box, button)));
+}
+
+bool WindowTest::pump_until(const std::function<bool()>& condition) {
+    const ULONGLONG deadline = GetTickCount64() + 10'000;
+    while (!condition()) {
+        if (GetTickCount64() > deadline) return false;
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+        pump();
+    }
+    return true;
+}
+
+void WindowTest::press_key(WORD key, std::initializer_list<WORD> held) {
+    for (const WORD modifier : held) send_key(modifier, 0);
+    send_key(key, 0);
+    send_key(key, KEYEVENTF_KEYUP);
+    for (const WORD modifier : held) send_key(modifier, KEYEVENTF_KEYUP);
+}
+
+void WindowTest::move_pointer(HWND window, int x, int y) {
+    POINT point{x, y};
+    ClientToScreen(window, &point);
+    SetCursorPos(point.x, point.y);
+}
+
+void WindowTest::click(DWORD down, DWORD up) {
+    send_mouse(down);
+    send_mouse(up);
+}
+
+}  // namespace quillomat
