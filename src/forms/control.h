@@ -85,8 +85,7 @@ class Control : public Item {
     void apply_enabled() override;
 
   private:
-    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR id,
-                                      DWORD_PTR control);
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     void create_window(std::wstring_view text, DWORD style);
     void detach();
     bool raise_key_down(int key);
@@ -95,6 +94,7 @@ class Control : public Item {
     const wchar_t* system_class_;
     DWORD extended_style_;
     HWND window_ = nullptr;
+    WNDPROC system_procedure_ = nullptr;
     Colour back_colour_ = colours::button_face;
     Colour fore_colour_ = colours::window_text;
     FontSpec font_;

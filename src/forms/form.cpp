@@ -191,6 +191,7 @@ void Form::show() {
     if (!loaded_) {
         load();
         if (closed_) return;
+        DrawMenuBar(window_);
         place_on_screen();
         shown_ = true;
         resized();

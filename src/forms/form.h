@@ -114,6 +114,8 @@ class Form : public Container, public MouseEvents {
     void remove(Timer& timer) { std::erase(timers_, &timer); }
     using Container::add;
     using Container::remove;
+    /// Gives the focus to a control, at once or when the window is first shown.
+    void focus(HWND control);
     ToolTips& tool_tips() { return tool_tips_; }
     /// Gives the dialog keys and key events of a message to where they belong; true when it needs nothing further.
     bool translate(MSG& message);

@@ -85,8 +85,15 @@ void Form::move_focus(bool backwards) {
     if (is_input && !(GetWindowLongPtrW(*next, GWL_STYLE) & ES_MULTILINE)) SendMessageW(*next, EM_SETSEL, 0, -1);
 }
 
+void Form::focus(HWND control) {
+    last_focus_ = control;
+    if (shown_) SetFocus(control);
+}
+
 void Form::restore_focus() {
-    if (last_focus_ && IsChild(window_, last_focus_) && IsWindowVisible(last_focus_) && IsWindowEnabled(last_focus_)) {
+    // The window itself may not be visible yet.
+    const auto style = last_focus_ ? GetWindowLongPtrW(last_focus_, GWL_STYLE) : 0;
+    if (IsChild(window_, last_focus_) && (style & WS_VISIBLE) && !(style & WS_DISABLED)) {
         SetFocus(last_focus_);
         return;
     }

@@ -15,6 +15,7 @@ class Frame : public Control, public Container {
 
     HWND window() const override { return Control::window(); }
     Form& owner_form() override { return form(); }
+    using Control::bring_to_front;
     using Container::back_colour;
     using Container::set_back_colour;
     void resolution_changed() override;

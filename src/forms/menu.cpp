@@ -7,6 +7,12 @@
 
 namespace quillomat {
 
+std::wstring without_access_keys(std::wstring_view text) {
+    std::wstring caption;
+    for (const wchar_t character : text) caption.append(character == L'&' ? 2 : 1, character);
+    return caption;
+}
+
 MenuBar::MenuBar(Form& form) : form_(form), handle_(CreateMenu()) {
     if (!handle_) throw_last_error();
     form_.set_menu_bar(handle_);

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/picture.h"
@@ -10,6 +11,9 @@
 namespace quillomat {
 
 class Form;
+
+/// A text for a caption in which an ampersand is an ampersand and no access key.
+std::wstring without_access_keys(std::wstring_view text);
 
 /// The menu bar of a form; it shows the menus made with it, in that order.
 class MenuBar {

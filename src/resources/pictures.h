@@ -2,3 +2,8 @@
 
 // Numbers of the pictures among the program's resources; the resource compiler reads this too.
 #define PICTURE_APPLICATION 1
+// The seven commands of the viewer's image bar, in their order, and its colour button.
+#define PICTURE_COMMAND_FIRST 10
+#define PICTURE_COLOUR 17
+// The eleven pictures beside the viewer's menu entries.
+#define PICTURE_MENU_FIRST 20

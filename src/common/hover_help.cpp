@@ -1,0 +1,66 @@
+#include "common/hover_help.h"
+
+#include <utility>
+
+#include "forms/text_box.h"
+#include "forms/timer.h"
+
+namespace quillomat {
+namespace {
+
+constexpr Colour lit{0xFF8080};
+
+// While the pointer moves, the timer ticks as fast as it can; once it has rested for a while, often enough that nobody
+// sees a delay and so rarely that nobody feels the cost.
+constexpr int awake_milliseconds = 1;
+constexpr int asleep_milliseconds = 50;
+constexpr int ticks_until_asleep = 20;
+
+}  // namespace
+
+void ShowTip(Control& control, TextBox& help_box, const std::wstring& text) {
+    help_box.set_text(text);
+    help_box.fit_width_to_text();
+    help_box.bring_to_front();
+    help_box.set_visible(true);
+    control.set_back_colour(lit);
+    control.set_underlined(true);
+}
+
+void HideTip(Control& control, TextBox& help_box) {
+    control.set_back_colour(colours::button_face);
+    control.set_underlined(false);
+    help_box.set_visible(false);
+}
+
+void HoverHelp::add(Control& control, std::wstring text) {
+    tips_.push_back({control, std::move(text)});
+}
+
+void HoverHelp::tick() {
+    UpdatePointer(pointer_);
+    pace();
+    // First what is left, then what is entered: going straight from one control to another ends with a text shown.
+    for (Tip& tip : tips_) {
+        if (tip.shown && pointer_.PointerWindow != tip.control.window()) {
+            tip.shown = false;
+            HideTip(tip.control, help_box_);
+        }
+    }
+    for (Tip& tip : tips_) {
+        if (!tip.shown && pointer_.PointerWindow == tip.control.window()) {
+            tip.shown = true;
+            ShowTip(tip.control, help_box_, tip.text);
+        }
+    }
+}
+
+void HoverHelp::pace() {
+    const POINT position = pointer_.PointerPos;
+    const bool moved = position.x != last_position_.x || position.y != last_position_.y;
+    last_position_ = position;
+    still_ticks_ = moved ? 0 : still_ticks_ + 1;
+    timer_.set_interval(still_ticks_ < ticks_until_asleep ? awake_milliseconds : asleep_milliseconds);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "common/pointer.h"
+
+namespace quillomat {
+
+class Control;
+class TextBox;
+class Timer;
+
+/// Shows a help text for a control: in the help box, made as wide as the text, with the control lit up and underlined.
+void ShowTip(Control& control, TextBox& help_box, const std::wstring& text);
+/// Takes the light off the control and hides the help box.
+void HideTip(Control& control, TextBox& help_box);
+
+/// The help texts of one window: each is shown exactly while the pointer is over its control. The window's hover timer
+/// calls `tick`; where the help box stands is the window's business.
+class HoverHelp {
+  public:
+    HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)
+        : pointer_(pointer), help_box_(help_box), timer_(timer) {}
+
+    void add(Control& control, std::wstring text);
+    /// Compares the pointer with the controls and shows or hides.
+    void tick();
+
+  private:
+    struct Tip {
+        Control& control;
+        std::wstring text;
+        bool shown = false;
+    };
+
+    void pace();
+
+    PointerState& pointer_;
+    TextBox& help_box_;
+    Timer& timer_;
+    std::vector<Tip> tips_;
+    POINT last_position_{};
+    int still_ticks_ = 0;
+};
+
+}  // namespace quillomat

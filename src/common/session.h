@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "common/pointer.h"
+#include "common/settings.h"
+#include "database/catalogue.h"
+#include "database/search_texts.h"
+#include "win/text_file.h"
+#include "win/upper_case.h"
+
+namespace quillomat {
+
+/// What the viewer remembers from one opening to the next.
+struct ViewerState {
+    std::int16_t open_count = 0;  ///< openings in this run; the first one reads the database
+    std::int16_t game_count = 0;
+    std::wstring current_title;    ///< name of the game shown last
+    std::wstring search_keyword;   ///< upper-cased text of the last search
+    std::int16_t next_letter = 0;  ///< code of the next letter of the alphabet bar
+};
+
+/// What outlives the windows of a run. Owned by the entry and handed down.
+struct Session {
+    std::wstring program_folder;  ///< without a separator at its end
+    Settings settings;
+    TextFileSlot text_file;
+    Catalogue catalogue;
+    SearchTexts search_texts{catalogue, upper_case};
+    PointerState pointer;
+    ViewerState viewer;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,17 @@
+#pragma once
+
+namespace quillomat::product {
+
+inline constexpr wchar_t title[] = L"Quillomat";
+inline constexpr wchar_t version[] = L"5.0";
+inline constexpr wchar_t author[] = L"Tobin Ferrand";
+
+/// The author's web site, as it is shown and printed; links put "http://" before it.
+inline constexpr wchar_t web_site[] = L"www.tobferrand.example";
+inline constexpr wchar_t guestbook_path[] = L"/cgi-bin/guestex.cgi";
+inline constexpr wchar_t downloads_path[] = L"/downloads.htm";
+inline constexpr wchar_t mail_address[] = L"tob@tobferrand.example";
+/// Where one joins the mailing list, a site of others.
+inline constexpr wchar_t mailing_list_page[] = L"http://lists.allvb.example/subscribe/allvb";
+
+}  // namespace quillomat::product

@@ -1,0 +1,40 @@
+#pragma once
+
+namespace quillomat {
+
+/// Sorts the entries `lower` to `upper`, both included, of something that can only be compared and swapped by index.
+///
+/// `is_less(a, b)` compares two entries, `swap(a, b)` exchanges them, `random()` gives a number in [0, 1) for the
+/// choice of the pivot. Equal entries may end up in any order. The smaller side is sorted first and the larger one in
+/// the same call, so that the depth stays logarithmic however the entries lie.
+template <typename IsLess, typename Swap, typename Random>
+void quick_sort(int lower, int upper, const IsLess& is_less, const Swap& swap, const Random& random) {
+    while (lower < upper) {
+        if (upper - lower == 1) {
+            if (is_less(upper, lower)) swap(lower, upper);
+            return;
+        }
+        swap(lower + static_cast<int>((upper - lower + 1) * random()), upper);  // the pivot waits at the end
+        int i = lower;
+        int j = upper;
+        while (i < j) {
+            while (i < j && !is_less(upper, i)) ++i;
+            while (j > i && !is_less(j, upper)) --j;
+            if (i < j) swap(i, j);
+        }
+        swap(i, upper);
+
+        // Entries equal to the pivot right below it are in place already; without this, equal entries take forever.
+        int left_end = i - 1;
+        while (left_end > lower && !is_less(left_end, i)) --left_end;
+        if (i - lower < upper - i) {
+            quick_sort(lower, left_end, is_less, swap, random);
+            lower = i + 1;
+        } else {
+            quick_sort(i + 1, upper, is_less, swap, random);
+            upper = left_end;
+        }
+    }
+}
+
+}  // namespace quillomat

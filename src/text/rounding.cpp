@@ -1,0 +1,20 @@
+#include "text/rounding.h"
+
+#include <cmath>
+#include <limits>
+
+#include "text/error.h"
+
+namespace quillomat {
+
+int round_half_even(double value) {
+    // The rounding mode is never changed from the standard one, which is to nearest, ties to even.
+    const double rounded = std::nearbyint(value);
+    // Written so that a NaN is refused, too.
+    if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max())) {
+        throw Error(ErrorCode::Overflow);
+    }
+    return static_cast<int>(rounded);
+}
+
+}  // namespace quillomat

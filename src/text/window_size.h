@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+
+namespace quillomat {
+
+/// The outer size of a window, in twips.
+struct WindowSize {
+    double width = 0;
+    double height = 0;
+
+    bool operator==(const WindowSize&) const = default;
+};
+
+/// The size a window must be given first because it is below its minimum: with the height corrected, or else with the
+/// width corrected, never both at once, since each correction resizes the window anew. Nothing when it is large enough.
+/// Lengths are compared in whole pixels, because a window set to its minimum may read back half a pixel smaller.
+std::optional<WindowSize> corrected_size(const WindowSize& actual, const WindowSize& minimum, double twips_per_pixel);
+
+inline constexpr WindowSize viewer_minimum_size{5970, 5340};
+
+/// The sizes of the viewer's controls that follow the size of its window, in twips.
+struct ViewerLayout {
+    double text_width = 0;
+    double text_height = 0;
+    double game_list_height = 0;
+    double result_list_height = 0;
+    double search_panel_height = 0;
+};
+
+ViewerLayout viewer_layout(const WindowSize& window);
+
+}  // namespace quillomat

@@ -1,0 +1,222 @@
+#include "viewer/frmCtlView.h"
+
+#include <algorithm>
+
+#include "forms/application.h"
+#include "forms/message_box.h"
+#include "resources/pictures.h"
+#include "text/game_list.h"
+#include "text/window_size.h"
+
+namespace quillomat {
+namespace {
+
+constexpr double picture_size = 360;
+constexpr double picture_button_size = 420;
+
+constexpr Colour label_idle_text = rgb(0, 0, 255);
+constexpr Colour label_idle_background = rgb(0, 255, 255);
+
+}  // namespace
+
+frmCtlView::frmCtlView(Application& application, Session& session, const ViewerWindows& windows)
+    : Form(application, {.name = L"frmCtlView",
+                         .caption = L"Cheat Codes!",
+                         .width = 8925,
+                         .height = 6660,
+                         .minimum_width = viewer_minimum_size.width,
+                         .minimum_height = viewer_minimum_size.height}),
+      Image1(*this, Picture(PICTURE_COLOUR), {3120, 30, picture_button_size, picture_button_size}),
+      session_(session),
+      windows_(windows) {
+    for (int i = 0; i < 7; ++i) {
+        Image2
+            .emplace_back(*this, Picture(PICTURE_COMMAND_FIRST + i),
+                          Bounds{90 + i * 430.0, 30, picture_button_size, picture_button_size})
+            .set_picture_size(picture_size);
+    }
+    Image1.set_picture_size(picture_size);
+    Shape1.bring_to_front();
+    Label1.emplace_back(*this, L"#", Bounds{120, 525, 195, 225});
+    Option1.set_value(true);
+    Option3.set_value(true);
+    Frame2.set_visible(false);
+    bind();
+    bind_search();
+    bind_list(List1);
+    bind_list(List2);
+    bind_hover_help();
+}
+
+void frmCtlView::bind() {
+    on_load = [this] { Form_Load(); };
+    on_resize = [this] { Form_Resize(); };
+    on_unload = [this] { Form_Unload(); };
+    on_mouse_move = [this](const MouseEvent&) { Form_MouseMove(); };
+    on_mouse_down = [this](const MouseEvent& event) {
+        if (event.button == MouseButton::Left) drag();
+    };
+    Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    Text1.on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    Text1.set_tool_tip(L"Double-click a word to search for it");
+    List2.on_click = [this] { List2_Click(); };
+    menus.mnuSave.on_click = [this] { raise(windows_.save); };
+    menus.mnuSelectedSave.on_click = [this] { raise(windows_.save); };
+    menus.mnuExit.on_click = [this] { close(); };
+    menus.mnuColour.on_click = [this] {
+        menus.mnuColour.set_checked(!menus.mnuColour.checked());
+        apply_colours();
+    };
+    menus.mnuAutoSelect.on_click = [this] { menus.mnuAutoSelect.set_checked(!menus.mnuAutoSelect.checked()); };
+}
+
+void frmCtlView::bind_list(ListBox& list) {
+    list.on_double_click = [this] { List_DblClick(); };
+    list.on_key_down = [this, &list](KeyEvent& event) { List_KeyDown(list, event); };
+    list.on_mouse_move = [this, &list](const MouseEvent& event) { List_MouseMove(list, event); };
+    list.on_mouse_down = [this, &list](const MouseEvent& event) { List_MouseDown(list, event); };
+}
+
+void frmCtlView::bind_hover_help() {
+    hover_help_.add(Command1, L"Click here to start the search!");
+    hover_help_.add(Option1, L"Click here to show the list of games");
+    hover_help_.add(Option2, L"Click here to search for a specific game");
+    hover_help_.add(Text3, L"Type what you want to search for here");
+    for (Control* control : {static_cast<Control*>(&Command1), static_cast<Control*>(&Option1),
+                             static_cast<Control*>(&Option2), static_cast<Control*>(&Text3)}) {
+        control->on_mouse_move = [this, control](const MouseEvent& event) { place_help_box(*control, event); };
+    }
+    // The help box never keeps the focus.
+    Text4.on_got_focus = [this] {
+        Text4.set_visible(false);
+        Text1.set_focus();
+    };
+    Timer1.on_timer = [this] { hover_help_.tick(); };
+}
+
+void frmCtlView::place_help_box(const Control& control, const MouseEvent& event) {
+    const bool in_panel = &control.container() == &Frame2;
+    const double left = control.left() + event.x + (in_panel ? Frame2.left() : 0) - Text4.width() / 2;
+    const double top = control.top() + event.y + (in_panel ? Frame2.top() : 0) + 500;
+    Text4.move(
+        {std::clamp(left, 0.0, std::max(0.0, inner_width() - Text4.width())), top, Text4.width(), Text4.height()});
+}
+
+void frmCtlView::show_game(int number) {
+    const std::wstring name(session_.catalogue.name(number));
+    Text1.set_text(session_.catalogue.cheats(number));
+    session_.viewer.current_title = name;
+    set_caption(name);
+    menus.mnuSave.set_enabled(true);
+    menus.mnuSave.set_caption(L"&Save " + without_access_keys(name));
+}
+
+void frmCtlView::Form_Resize() {
+    if (window_state() == WindowState::Minimised) {
+        session_.viewer.current_title = caption();
+        set_caption(minimised_caption(List1.text()));
+        return;
+    }
+    set_caption(session_.viewer.current_title);
+    const WindowSize size{width(), height()};
+    if (const auto corrected = corrected_size(size, viewer_minimum_size, to_twips(1, dpi()))) {
+        // Each correction resizes the window, and the layout comes with that.
+        corrected->height != size.height ? set_height(corrected->height) : set_width(corrected->width);
+        return;
+    }
+    const ViewerLayout layout = viewer_layout(size);
+    Text1.set_width(layout.text_width);
+    Text1.set_height(layout.text_height);
+    List2.set_height(layout.game_list_height);
+    List1.set_height(layout.result_list_height);
+    Frame2.set_height(layout.search_panel_height);
+}
+
+void frmCtlView::Form_MouseMove() {
+    Text4.set_visible(false);
+    Shape1.set_visible(false);
+    Label1_reset();
+}
+
+void frmCtlView::Label1_reset() {
+    for (Label& label : Label1) {
+        label.set_fore_colour(label_idle_text);
+        label.set_back_colour(label_idle_background);
+    }
+}
+
+void frmCtlView::Form_KeyDown(KeyEvent& event) {
+    if (event.key == keys::escape) {
+        event.handled = true;
+        close();
+    } else if (event.key == keys::f1) {
+        event.handled = true;
+        ask_for_help();
+    }
+}
+
+void frmCtlView::ask_for_help() {
+    const auto answer = show_message(window(), {.text = L"You pressed the F1 Key for help.\r\nYou can e-mail me for "
+                                                        L"help.\r\nDo you want to do so?",
+                                                .title = L"Help!",
+                                                .buttons = MessageButtons::YesNo});
+    if (answer == MessageAnswer::Yes) raise(windows_.mail_author, L"[Type your question here]");
+}
+
+void frmCtlView::List2_Click() {
+    if (const auto number = List2.selected_index()) show_game(*number);
+}
+
+void frmCtlView::List_DblClick() {
+    raise(windows_.save);
+}
+
+void frmCtlView::List_KeyDown(ListBox& list, KeyEvent& event) {
+    Form_KeyDown(event);
+    const bool upwards = event.key == keys::up;
+    if (event.handled || (!upwards && event.key != keys::down)) return;
+    const int count = list.count();
+    if (event.modifiers.only_control() && count > 0) {
+        event.handled = true;
+        list.select_index(upwards ? 0 : count - 1);
+    } else if (event.modifiers.only_alt()) {
+        event.handled = true;
+        const auto item_text = [&list](int index) { return list.item(index); };
+        const int selected = list.selected_index().value_or(-1);
+        const auto target =
+            upwards ? previous_group(selected, count, item_text) : next_group(selected, count, item_text);
+        if (target) list.select_index(*target);
+    }
+}
+
+std::wstring frmCtlView::hover_text(const ListBox& list, int index) const {
+    return &list == &List2 ? full_list_tooltip(list.item(index), index, list.count())
+                           : result_list_tooltip(list.item(index), index, list.count(), session_.viewer.search_keyword);
+}
+
+void frmCtlView::List_MouseMove(ListBox& list, const MouseEvent& event) {
+    if (event.button != MouseButton::None) return;
+    const int index = list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()));
+    list.set_tool_tip(hover_text(list, index));
+    if (menus.mnuAutoSelect.checked() && index < list.count() && list.selected_index() != index) {
+        list.select_index(index);
+    }
+}
+
+void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
+    if (event.button != MouseButton::Right) return;
+    list.select_text(list.item(list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()))));
+    pop_up(menus.mnuSelected, &menus.mnuSelectedSave);
+}
+
+void frmCtlView::apply_colours() {
+    const bool coloured = menus.mnuColour.checked();
+    Text1.set_back_colour(coloured ? rgb(255, 192, 255) : colours::white);
+    Text1.set_fore_colour(coloured ? rgb(128, 0, 128) : colours::black);
+    for (ListBox* list : {&List1, &List2}) {
+        list->set_back_colour(coloured ? rgb(192, 192, 255) : colours::white);
+        list->set_fore_colour(coloured ? rgb(0, 0, 255) : colours::black);
+    }
+}
+
+}  // namespace quillomat

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <deque>
+
+#include "common/hover_help.h"
+#include "common/session.h"
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/frame.h"
+#include "forms/graphics.h"
+#include "forms/list_box.h"
+#include "forms/option_button.h"
+#include "forms/static_label.h"
+#include "forms/text_box.h"
+#include "forms/timer.h"
+#include "viewer/viewer_menus.h"
+#include "viewer/viewer_windows.h"
+
+namespace quillomat {
+
+/// The cheat viewer: the full list of games beside the cheat text of the selected one, and the search panel that
+/// slides in over the list.
+class frmCtlView final : public Form {
+  public:
+    /// `session` and `windows` must outlive the form.
+    frmCtlView(Application& application, Session& session, const ViewerWindows& windows);
+
+    // The controls, by the names the whole program knows them by. Other windows read the current game from them.
+    Line Line1{*this, {0, 480, 100000, 30}};
+    std::deque<Image> Image2;
+    Image Image1;
+    std::deque<Label> Label1;
+    OptionButton Option1{*this, L"&List", {120, 825, 1140, 255}, OptionButton::Group::Starts};
+    OptionButton Option2{*this, L"&Search", {1320, 825, 1200, 255}, OptionButton::Group::Continues};
+    StaticLabel GamesLabel{*this, L"Games", {}};
+    ListBox List2{*this, {120, 1140, 2490, 4545}};
+    Frame Frame2{*this, L"Search", {2655, 1140, 2490, 4545}, FrameBorder::None};
+    StaticLabel KeywordLabel{Frame2, L"Keyword:", {0, 15, 1700, 225}};
+    TextBox Text3{Frame2, {0, 255, 1725, 315}};
+    Button Command1{Frame2, L"&Go!", {1800, 240, 690, 345}};
+    Frame Frame1{Frame2, L"Look in", {0, 645, 2490, 600}, FrameBorder::Captioned};
+    OptionButton Option3{Frame1, L"G&ame", {120, 255, 1050, 255}, OptionButton::Group::Starts};
+    OptionButton Option4{Frame1, L"&Cheats", {1230, 255, 1050, 255}, OptionButton::Group::Continues};
+    StaticLabel ResultsLabel{Frame2, L"Search results", {}};
+    ListBox List1{Frame2, {0, 1315, 2490, 3230}};
+    StaticLabel CheatsLabel{*this, L"Cheat codes", {}};
+    TextBox Text1{*this, {2680, 780, 5945, 4905}, TextBoxKind::Reading};
+    TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
+    Shape Shape1{*this, {0, 0, 420, 420}};
+    Timer Timer1{*this, 1};
+    ViewerMenus menus{*this};
+
+    /// Shows game `number`: its cheats, and its name as the caption. Throws `Error` with SubscriptOutOfRange for a
+    /// number no slot has.
+    void show_game(int number);
+    /// Slides the full list in over the search panel.
+    void ShowList();
+    /// Slides the search panel in over the full list.
+    void ShowFrame();
+    /// Prepares a search for the text selected in `Text1`.
+    void SearchFor(SearchScope scope);
+    /// Sorts the captions of the font menu's entries `lower` to `upper`, both included.
+    void QuickSort(int lower, int upper);
+    /// Colours the text and both lists by the check mark of the colour entry.
+    void apply_colours();
+
+  private:
+    void bind();
+    void bind_search();
+    void bind_list(ListBox& list);
+    void bind_hover_help();
+
+    void Form_Load();
+    void Form_Resize();
+    void Form_Unload();
+    void Form_MouseMove();
+    void Form_KeyDown(KeyEvent& event);
+    void Command1_Click();
+    void Text1_DblClick();
+    void List1_Click();
+    void List2_Click();
+    void List_DblClick();
+    void List_KeyDown(ListBox& list, KeyEvent& event);
+    void List_MouseMove(ListBox& list, const MouseEvent& event);
+    void List_MouseDown(ListBox& list, const MouseEvent& event);
+    void Option1_Click();
+    void Option2_Click();
+    void Label1_reset();
+    void show_slide_step();
+
+    // The steps of opening the window, in their order.
+    void start_up();
+    void fill_full_list();
+    void restore_settings();
+    void restore_size();
+    void list_cached_fonts();
+    void build_alphabet_bar();
+
+    void save_settings();
+    void ask_for_help();
+    std::wstring hover_text(const ListBox& list, int index) const;
+    void place_help_box(const Control& control, const MouseEvent& event);
+
+    Session& session_;
+    const ViewerWindows& windows_;
+    HoverHelp hover_help_{session_.pointer, Text4, Timer1};
+};
+
+}  // namespace quillomat

@@ -1,0 +1,142 @@
+// Searching the catalogue, and the two panels that take turns at the left of the viewer.
+
+#include <chrono>
+#include <random>
+
+#include "common/desktop.h"
+#include "common/pointer.h"
+#include "forms/application.h"
+#include "forms/message_box.h"
+#include "text/animation.h"
+#include "text/quick_sort.h"
+#include "text/search_text.h"
+#include "viewer/frmCtlView.h"
+#include "win/upper_case.h"
+
+namespace quillomat {
+
+void frmCtlView::bind_search() {
+    Command1.on_click = [this] { Command1_Click(); };
+    Text3.on_change = [this] { Command1.set_enabled(!Text3.empty()); };
+    Option1.on_click = [this] { Option1_Click(); };
+    Option2.on_click = [this] { Option2_Click(); };
+    Option3.on_click = [this] { Text3.set_focus(); };
+    Option4.on_click = [this] { Text3.set_focus(); };
+    Option3.set_tool_tip(L"Searches list of games for required keywords.");
+    Option4.set_tool_tip(L"Searches all cheat codes for required keywords.");
+    List1.on_click = [this] { List1_Click(); };
+    Text1.on_double_click = [this] { Text1_DblClick(); };
+    menus.mnuTextBoxInGames.on_click = [this] { SearchFor(SearchScope::Names); };
+    menus.mnuTextBoxInCheats.on_click = [this] { SearchFor(SearchScope::Cheats); };
+    menus.mnuSelectedSearch.on_click = [this] {
+        Option2.set_value(true);
+        CenterMouseOn(Command1.window());
+    };
+}
+
+void frmCtlView::Command1_Click() {
+    {
+        const Hourglass hourglass(*this);
+        session_.viewer.search_keyword = upper_cased(Text3.text());
+        const ListBox::Filling filling(List1);
+        List1.clear();
+        session_.search_texts.find(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
+                                   session_.viewer.search_keyword, session_.viewer.game_count, [this](int number) {
+                                       List1.add(session_.catalogue.name(number));
+                                       Line1.invalidate();
+                                   });
+    }
+    if (List1.count() == 0) {
+        show_message(window(),
+                     {.text = L"Nothing was found! Try searching for something else.", .title = L"Nothing there."});
+        List1.set_tool_tip({});
+    }
+    SelectAllText(Text3);
+}
+
+void frmCtlView::List1_Click() {
+    List2.select_text(List1.text());
+    if (!Option4.value()) return;
+    const std::wstring& keyword = session_.viewer.search_keyword;
+    const std::size_t position = upper_cased(Text1.text()).find(keyword);
+    Text1.set_focus();
+    Text1.select(position == std::wstring::npos ? 0 : position, keyword.size());
+}
+
+void frmCtlView::Text1_DblClick() {
+    const auto caption = search_menu_caption(Text1.selected_text());
+    if (!caption) return;
+    menus.mnuTextBoxSearch.set_caption(*caption);
+    pop_up(menus.mnuTextBox);
+}
+
+void frmCtlView::SearchFor(SearchScope scope) {
+    (scope == SearchScope::Names ? Option3 : Option4).set_value(true);
+    Option2.set_value(true);
+    Text3.set_text(keyword_of(Text1.selected_text()));
+    CenterMouseOn(Command1.window());
+}
+
+void frmCtlView::Option1_Click() {
+    ShowList();
+    List2.set_focus();
+}
+
+void frmCtlView::Option2_Click() {
+    ShowFrame();
+    Text3.set_focus();
+    set_default_button(&Command1);
+}
+
+void frmCtlView::ShowFrame() {
+    Frame2.set_left(search_panel_start_left);
+    Frame2.set_visible(true);
+    Frame2.bring_to_front();
+    Text1.bring_to_front();
+    Text4.bring_to_front();
+    while (const auto next = next_search_panel_left(Frame2.left())) {
+        Frame2.set_left(*next);
+        show_slide_step();
+    }
+    Frame2.set_left(panel_resting_left);
+    // The panel covers the list; nothing of it is to be reached by the keyboard.
+    List2.set_visible(false);
+}
+
+void frmCtlView::ShowList() {
+    List2.set_left(game_panel_start_left);
+    List2.set_visible(true);
+    List2.bring_to_front();
+    Text4.bring_to_front();
+    while (const auto next = next_game_panel_left(List2.left())) {
+        List2.set_left(*next);
+        show_slide_step();
+    }
+    List2.set_left(panel_resting_left);
+    Frame2.set_visible(false);
+}
+
+void frmCtlView::show_slide_step() {
+    RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    Line1.refresh();
+    pause_milliseconds(1);
+}
+
+void frmCtlView::QuickSort(int lower, int upper) {
+    std::mt19937 generator(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
+    std::uniform_real_distribution<double> random(0, 1);
+    auto& fonts = menus.mnuFontName;
+    quick_sort(
+        lower, upper,
+        [&fonts](int a, int b) {
+            return fonts[static_cast<std::size_t>(a)]->caption() < fonts[static_cast<std::size_t>(b)]->caption();
+        },
+        [&fonts](int a, int b) {
+            const std::wstring caption = fonts[static_cast<std::size_t>(a)]->caption();
+            fonts[static_cast<std::size_t>(a)]->set_caption(fonts[static_cast<std::size_t>(b)]->caption());
+            fonts[static_cast<std::size_t>(b)]->set_caption(caption);
+        },
+        [&] { return random(generator); });
+}
+
+}  // namespace quillomat

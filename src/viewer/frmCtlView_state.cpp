@@ -1,0 +1,131 @@
+// Opening and closing the viewer: the database, the settings, and what is built from them.
+
+#include <algorithm>
+#include <limits>
+
+#include "forms/message_box.h"
+#include "text/error.h"
+#include "text/font_list.h"
+#include "text/numbers.h"
+#include "viewer/frmCtlView.h"
+#include "win/database_file.h"
+
+namespace quillomat {
+namespace {
+
+WindowState window_state_of(std::int32_t stored) {
+    return stored == 1 ? WindowState::Minimised : stored == 2 ? WindowState::Maximised : WindowState::Normal;
+}
+
+// A window on a very large screen can be larger than the settings can say; the largest size they can is nearest.
+std::int16_t stored_size(double twips) {
+    return static_cast<std::int16_t>(std::min<double>(twips, std::numeric_limits<std::int16_t>::max()));
+}
+
+}  // namespace
+
+void frmCtlView::Form_Load() {
+    List2.set_focus();
+    try {
+        const Hourglass hourglass(*this);
+        start_up();
+    } catch (const Error& error) {
+        show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+    }
+    centre_on_screen();
+}
+
+void frmCtlView::start_up() {
+    fill_full_list();
+    restore_settings();
+    restore_size();
+    apply_colours();
+    if (const auto selected = List2.selected_index()) List2.set_top_index(*selected);
+    if (List2.text().empty()) menus.mnuSave.set_enabled(false);
+    if (Text3.empty()) Command1.set_enabled(false);
+    session_.viewer.game_count = static_cast<std::int16_t>(List2.count());
+    Shape1.set_visible(false);
+    session_.viewer.next_letter = L'A';
+    list_cached_fonts();
+    build_alphabet_bar();
+    menus.attach_pictures();
+}
+
+void frmCtlView::fill_full_list() {
+    ViewerState& state = session_.viewer;
+    state.open_count = checked_add_16(state.open_count, 1);
+    const ListBox::Filling filling(List2);
+    const auto list_name = [this](std::wstring_view name) { List2.add(name); };
+    if (state.open_count == 1) {
+        load_catalogue(session_.text_file, session_.program_folder + L"\\Cheats.dat", session_.catalogue, list_name);
+    } else {
+        session_.catalogue.relist(list_name);
+    }
+}
+
+void frmCtlView::restore_settings() {
+    const Settings& stored = session_.settings;
+    FontSpec font = Text1.font();
+    font.name = stored.read(settings::Font);
+    Text1.set_font(font);
+    menus.mnuColour.set_checked(stored.read(settings::Colour));
+    menus.mnuAutoSelect.set_checked(stored.read(settings::AutoSelect));
+    Image1.set_border(menus.mnuColour.checked() ? ImageBorder::Single : ImageBorder::None);
+    set_window_state(window_state_of(stored.read(settings::FrmCtlViewWindowState)));
+    Text1.set_text(stored.read(settings::Text1));
+    Text3.set_text(stored.read(settings::SearchText));
+    if (const std::wstring game = stored.read(settings::DefaultGame); !game.empty()) List2.select_text(game);
+    if (const std::wstring title = stored.read(settings::FrmCtlViewCaption); !title.empty()) set_caption(title);
+}
+
+void frmCtlView::restore_size() {
+    if (window_state() != WindowState::Normal) return;
+    set_height(session_.settings.read(settings::FrmCtlViewHeight));
+    set_width(session_.settings.read(settings::FrmCtlViewWidth));
+}
+
+void frmCtlView::list_cached_fonts() {
+    const std::wstring path = session_.program_folder + L"\\Fonts.dat";
+    if (!file_exists(path)) return;
+    session_.text_file.open_for_reading(path);
+    const DecodedText text = session_.text_file.read_all();
+    session_.text_file.close();
+    menus.list_fonts(font_names(text.view()));
+}
+
+void frmCtlView::build_alphabet_bar() {
+    for (int n = 1; n <= 26; ++n) {
+        const Label& last = Label1.back();
+        const wchar_t letter = static_cast<wchar_t>(session_.viewer.next_letter);
+        Label1.emplace_back(*this, std::wstring(1, letter),
+                            Bounds{last.left() + last.width(), last.top(), last.width(), last.height()});
+        session_.viewer.next_letter = checked_add_16(session_.viewer.next_letter, 1);
+    }
+    for (Label& label : Label1) {
+        label.set_alignment(Alignment::Centre);
+        label.set_back_style(BackStyle::Opaque);
+    }
+    Label1_reset();
+}
+
+void frmCtlView::Form_Unload() {
+    save_settings();
+    raise(windows_.restore_main_screen);
+}
+
+void frmCtlView::save_settings() {
+    const Settings& store = session_.settings;
+    store.write(settings::Font, Text1.font().name);
+    store.write(settings::Colour, menus.mnuColour.checked());
+    store.write(settings::AutoSelect, menus.mnuAutoSelect.checked());
+    store.write(settings::FrmCtlViewWindowState, static_cast<std::int32_t>(window_state()));
+    store.write(settings::Text1, Text1.text());
+    store.write(settings::SearchText, Text3.text());
+    store.write(settings::DefaultGame, List2.text());
+    store.write(settings::FrmCtlViewCaption, caption());
+    if (window_state() != WindowState::Normal) return;
+    store.write(settings::FrmCtlViewHeight, stored_size(height()));
+    store.write(settings::FrmCtlViewWidth, stored_size(width()));
+}
+
+}  // namespace quillomat

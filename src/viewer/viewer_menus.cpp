@@ -1,0 +1,28 @@
+#include "viewer/viewer_menus.h"
+
+#include "resources/pictures.h"
+
+namespace quillomat {
+
+ViewerMenus::ViewerMenus(Form& form) : bar(form), mnuSelected(form, L"Selected"), mnuTextBox(form, L"TextBox") {
+    mnuFontName.push_back(std::make_unique<Menu>(mnuFont, L"Click &here to get font list..."));
+}
+
+void ViewerMenus::attach_pictures() {
+    // The elements of the picture array Image3.
+    const auto Image3 = [](int index) { return Picture(PICTURE_MENU_FIRST + index); };
+    Menu* const first_menu[] = {&mnuSave, &mnuAddNew, &mnuMailCheats, &mnuExit};
+    for (int k = 0; k < 4; ++k) first_menu[k]->set_pictures(Image3(k), Image3(k));
+    mnuCopy.set_pictures(Image3(5), Image3(5));
+    mnuColour.set_pictures(Image3(7), Image3(6));
+    mnuAutoSelect.set_pictures(Image3(10), Image3(9));
+    mnuPrint.set_pictures(Image3(8), Image3(8));
+    mnuPrintGames.set_pictures(Image3(8), Image3(8));
+}
+
+void ViewerMenus::list_fonts(const std::vector<std::wstring>& names) {
+    mnuFontName.resize(1);
+    for (const std::wstring& name : names) mnuFontName.push_back(std::make_unique<Menu>(mnuFont, name));
+}
+
+}  // namespace quillomat

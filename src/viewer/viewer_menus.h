@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "forms/menu.h"
+
+namespace quillomat {
+
+/// The viewer's menus: its bar, and the two that pop up on a right click and on a double-clicked word.
+struct ViewerMenus {
+    explicit ViewerMenus(Form& form);
+
+    MenuBar bar;
+
+    Menu mnuMenu{bar, L"&Menu"};
+    Menu mnuSave{mnuMenu, L"&Save..."};
+    Menu mnuAddNew{mnuMenu, L"&Add new game"};
+    Menu mnuMailCheats{mnuMenu, L"&E-mail Cheat Codes"};
+    Menu mnuExit{mnuMenu, L"E&xit"};
+
+    Menu mnuOptions{bar, L"&Options"};
+    Menu mnuPrintOptions{mnuOptions, L"&Print"};
+    Menu mnuPrint{mnuPrintOptions, L"&Cheat Codes"};
+    Menu mnuPrintGames{mnuPrintOptions, L"&List of games..."};
+    Menu mnuCopy{mnuOptions, L"&Copy"};
+    Menu mnuColour{mnuOptions, L"C&olour"};
+    Menu mnuAutoSelect{mnuOptions, L"&Auto Select Game"};
+
+    Menu mnuFont{bar, L"&Font"};
+    /// Entry 0 collects the fonts; the others each carry the name of one.
+    std::vector<std::unique_ptr<Menu>> mnuFontName;
+
+    Menu mnuSelected;
+    Menu mnuSelectedSave{mnuSelected, L"&Save..."};
+    Menu mnuSelectedPrint{mnuSelected, L"&Print Cheats"};
+    Menu mnuSelectedPrintList{mnuSelected, L"Print &List of Games"};
+    Menu mnuSelectedCopy{mnuSelected, L"&Copy Cheats"};
+    Menu mnuSelectedSearch{mnuSelected, L"Sea&rch..."};
+    Menu mnuSelectedFind{mnuSelected, L"&Find..."};
+    Menu mnuSelectedAddNew{mnuSelected, L"&Add New Game"};
+    Menu mnuSelectedMailCheats{mnuSelected, L"&E-mail Cheat Codes"};
+
+    Menu mnuTextBox;
+    Menu mnuTextBoxSearch{mnuTextBox, L"&Search for"};
+    Menu mnuTextBoxInGames{mnuTextBoxSearch, L"In &Games"};
+    Menu mnuTextBoxInCheats{mnuTextBoxSearch, L"In &Cheats"};
+    Menu mnuTextBoxFind{mnuTextBox, L"&Find..."};
+
+    /// Puts the pictures beside the entries of the first two menus.
+    void attach_pictures();
+    /// Makes the font menu hold these names behind its first entry.
+    void list_fonts(const std::vector<std::wstring>& names);
+};
+
+}  // namespace quillomat

@@ -1,0 +1,16 @@
+#include "win/links.h"
+
+#include "win/api.h"
+// Needs the above.
+#include <shellapi.h>
+
+namespace quillomat {
+
+bool open_link(const std::wstring& address) {
+    const auto result =
+        reinterpret_cast<INT_PTR>(ShellExecuteW(nullptr, nullptr, address.c_str(), nullptr, L"C:\\", SW_SHOWNORMAL));
+    constexpr INT_PTR last_error = 32;
+    return result > last_error;
+}
+
+}  // namespace quillomat
