@@ -68,6 +68,8 @@ class Form : public Container, public MouseEvents {
     /// Runs `on_unload`, hides the window and has it destroyed as soon as no handler of it is running.
     void close();
     bool closed() const { return closed_; }
+    /// Whether the window has been shown, so that it exists for the user.
+    bool shown() const { return shown_; }
 
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption);

@@ -25,7 +25,8 @@ RECT Graphic::place() const {
 }
 
 void Graphic::invalidate() const {
-    if (container().window()) InvalidateRect(container().window(), &pixels_, FALSE);
+    // Before the first painting there is nothing to paint again; dozens of labels are set up meanwhile.
+    if (form().shown()) InvalidateRect(container().window(), &pixels_, FALSE);
 }
 
 void Graphic::apply_bounds() {

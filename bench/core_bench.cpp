@@ -1,0 +1,141 @@
+// Loading and searching without a window, each against the least that any program would have to do.
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "database/catalogue.h"
+#include "database/search_texts.h"
+#include "measure.h"
+#include "support/decoded_text.h"
+#include "support/synthetic_database.h"
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace quillomat::bench {
+namespace {
+
+constexpr std::size_t rounds = 41;
+
+/// What a measured routine found: printed at the end, so that no compiler may leave the work out.
+std::size_t checksum = 0;
+
+/// Gives freed memory back to the system. A database is loaded once in a run, into memory that was never used before;
+/// a C library that keeps freed blocks would make it look otherwise from the second round on.
+void return_freed_memory() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
+/// A file that lasts as long as the object.
+class TemporaryFile {
+  public:
+    explicit TemporaryFile(const std::string& bytes)
+        : path_(std::filesystem::temp_directory_path() / "quillomat_core_bench.dat") {
+        std::ofstream(path_, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
+
+    DecodedText read_and_decode() const {
+        const auto size = static_cast<std::size_t>(std::filesystem::file_size(path_));
+        const auto bytes = std::make_unique_for_overwrite<char[]>(size);
+        std::ifstream(path_, std::ios::binary).read(bytes.get(), static_cast<std::streamsize>(size));
+        return widened({bytes.get(), size});
+    }
+
+  private:
+    std::filesystem::path path_;
+};
+
+void bench_loading(std::size_t bytes) {
+    const TemporaryFile file(synthetic_database(Catalogue::slot_count, bytes));
+    DecodedText decoded;
+    std::optional<Catalogue> catalogue;
+    const auto read_and_decode = [&] { decoded = file.read_and_decode(); };
+    const auto load = [&] {
+        catalogue.emplace();
+        catalogue->load(file.read_and_decode(), [](std::wstring_view name) { checksum += name.size(); });
+    };
+    const auto forget = [&] {
+        decoded = {};
+        catalogue.reset();
+        return_freed_memory();
+    };
+    const std::vector<double> seconds = medians(rounds, {{read_and_decode, forget}, {load, forget}});
+    print_row("load " + std::to_string(bytes / 1'000'000) + " MB / read and decode", seconds[1], seconds[0], 1.3);
+}
+
+void upper_case(wchar_t* characters, std::size_t length) {
+    for (std::size_t i = 0; i < length; ++i) {
+        if (characters[i] >= L'a' && characters[i] <= L'z') characters[i] = static_cast<wchar_t>(characters[i] - 0x20);
+    }
+}
+
+void bench_searching(std::size_t bytes) {
+    Catalogue catalogue;
+    catalogue.load(widened(synthetic_database(Catalogue::slot_count, bytes)), [](std::wstring_view) {});
+    std::wstring all;
+    for (int number = 0; number < Catalogue::slot_count; ++number) all += catalogue.cheats(number);
+    const std::size_t byte_count = all.size() * sizeof(wchar_t);
+
+    SearchTexts texts(catalogue, upper_case);
+    const auto find = [&](std::wstring_view keyword) {
+        texts.find(SearchScope::Cheats, keyword, Catalogue::slot_count,
+                   [](int number) { checksum += static_cast<std::size_t>(number); });
+    };
+    find(L"");  // the first search makes the texts
+
+    const std::pair<const char*, const wchar_t*> keywords[] = {
+        {"rare letters, nowhere", L"ZQX"},
+        {"one letter, nowhere", L"#"},
+        {"common letters, nowhere", L"ETERNAL"},
+        {"two common letters, nowhere", L"ES T"},
+        {"words in every game", L"THE LEVEL"},
+        {"a word in few games", L"PLAYER KEY FILE MAP"},
+        {"a long sentence, nowhere", L"HOLD THE MENU AND THE GAME TO GET ALL THE MONEYS"},
+    };
+    for (const auto& [what, keyword] : keywords) {
+        const std::vector<double> seconds =
+            medians(rounds, {{.run =
+                                  [&] {
+                                      // No character has this byte, so the pass goes to the end.
+                                      checksum += std::memchr(all.data(), 0x7F, byte_count) != nullptr ? 1 : 0;
+                                  }},
+                             {.run = [&, keyword = keyword] { find(keyword); }}});
+        print_row("search " + std::to_string(bytes / 1'000'000) + " MB / memchr: " + what, seconds[1], seconds[0], 3);
+    }
+}
+
+}  // namespace
+}  // namespace quillomat::bench
+
+int main() {
+    using namespace quillomat::bench;
+    try {
+        print_heading();
+        bench_loading(3'000'000);
+        bench_loading(20'000'000);
+        bench_searching(3'000'000);
+        std::printf("(checksum %zu)\n", checksum);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "core_bench: %s\n", error.what());
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}

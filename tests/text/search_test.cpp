@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "database/catalogue.h"
+#include "database/record.h"
+#include "database/search_texts.h"
+#include "support/decoded_text.h"
+#include "text/error.h"
+
+namespace quillomat {
+namespace {
+
+/// Latin letters with their accents, which is enough to tell whether the conversion is used.
+void upper_case(wchar_t* characters, std::size_t length) {
+    for (std::size_t i = 0; i < length; ++i) {
+        const wchar_t character = characters[i];
+        const bool lower = (character >= L'a' && character <= L'z') || (character >= 0xE0 && character <= 0xFE);
+        if (lower) characters[i] = static_cast<wchar_t>(character - 0x20);
+    }
+}
+
+struct Game {
+    std::wstring name;
+    std::wstring cheats;
+};
+
+struct Library {
+    explicit Library(const std::vector<Game>& games) {
+        std::wstring text;
+        for (const Game& game : games) text += record_text(game.name, game.cheats);
+        catalogue.load(decoded(text), [](std::wstring_view) {});
+        count = static_cast<int>(games.size());
+    }
+
+    std::vector<int> find(SearchScope scope, std::wstring_view keyword) {
+        std::vector<int> found;
+        texts.find(scope, keyword, count, [&](int number) { found.push_back(number); });
+        return found;
+    }
+
+    Catalogue catalogue;
+    SearchTexts texts{catalogue, upper_case};
+    int count = 0;
+};
+
+using Numbers = std::vector<int>;
+
+TEST(Search, FindsNamesAndCheatsInCatalogueOrder) {
+    Library library({{L"Super MARIO", L"press A"},
+                     {L"Tetris", L"hold mario\r\nand wait"},
+                     {L"mario", L""},
+                     {L"\u00dcber Game", L"caf\u00e9  au lait"},
+                     {L"mario", L"x"}});
+    struct Case {
+        SearchScope scope;
+        const wchar_t* keyword;
+        Numbers found;
+    };
+    constexpr SearchScope names = SearchScope::Names;
+    constexpr SearchScope cheats = SearchScope::Cheats;
+    const Case cases[] = {
+        {names, L"MARIO", {0, 2, 4}},
+        {names, L"R MARIO", {0}},
+        {names, L"MARIO ", {}},
+        {names, L"\u00dcBER", {3}},
+        {names, L"PRESS", {}},
+        {names, L"MARIOS", {}},
+        {names, L"A", {0, 2, 3, 4}},
+        {names, L"XMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIOMARIO", {}},
+        {cheats, L"MARIO", {1}},
+        {cheats, L"CAF\u00c9  AU", {3}},
+        {cheats, L"CAF\u00c9 AU", {}},
+        {cheats, L"MARIO\r\nAND", {1}},
+        {cheats, L"\nPRESS", {0}},  // the line end before each text belongs to it
+        {cheats, L"\r\nX", {4}},
+        {cheats, L"AX", {}},  // a keyword never spans two texts
+        {cheats, L"A\r\nHOLD", {}},
+        {cheats, L"", {0, 1, 2, 3, 4}},
+    };
+    for (const Case& expected : cases) {
+        EXPECT_EQ(library.find(expected.scope, expected.keyword), expected.found)
+            << testing::PrintToString(expected.keyword);
+    }
+}
+
+TEST(Search, LooksOnlyAtTheGamesCounted) {
+    Library library({{L"one", L"same"}, {L"two", L"same"}, {L"three", L"same"}});
+    EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), (Numbers{0, 1, 2}));
+    library.count = 2;
+    EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), (Numbers{0, 1}));
+    library.count = 2502;
+    EXPECT_THROW(library.find(SearchScope::Cheats, L"SAME"), Error);
+}
+
+TEST(Search, FindsGamesAddedSinceTheLastSearch) {
+    Library library(std::vector<Game>{{L"one", L"same"}});
+    EXPECT_EQ(library.find(SearchScope::Names, L"TWO"), Numbers{});
+    for (const wchar_t* name : {L"two", L"three", L"two again"})
+        library.catalogue.store(library.count++, name, L"same");
+    EXPECT_EQ(library.find(SearchScope::Names, L"TWO"), (Numbers{1, 3}));
+    EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), (Numbers{0, 1, 2, 3}));
+}
+
+/// Few different characters, so that beginnings of the keyword are everywhere and matches lie across block borders.
+TEST(Search, AgreesWithPlainSubstringSearch) {
+    std::mt19937 random(4);
+    const auto letters = [&](std::size_t length, unsigned alphabet) {
+        std::wstring text(length, L'A');
+        for (wchar_t& character : text) character = static_cast<wchar_t>(L'A' + random() % alphabet);
+        return text;
+    };
+    for (int run = 0; run < 300; ++run) {
+        const unsigned alphabet = 1 + random() % 4;
+        std::vector<Game> games;
+        for (int count = 1 + static_cast<int>(random() % 6); count > 0; --count) {
+            games.push_back({L"name", letters(random() % 300, alphabet)});
+        }
+        Library library(games);
+        for (int search = 0; search < 20; ++search) {
+            const std::wstring keyword = letters(1 + random() % 12, alphabet);
+            Numbers expected;
+            for (std::size_t number = 0; number < games.size(); ++number) {
+                const bool found = (L"\r\n" + games[number].cheats).find(keyword) != std::wstring::npos;
+                if (found) expected.push_back(static_cast<int>(number));
+            }
+            ASSERT_EQ(library.find(SearchScope::Cheats, keyword), expected) << testing::PrintToString(keyword);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace quillomat
