@@ -1,52 +1,71 @@
 #include "common/settings.h"
 
+#include <optional>
+#include <utility>
+
 #include "text/numbers.h"
 #include "win/registry.h"
 
 namespace quillomat {
+namespace {
 
-Settings::Settings(std::wstring_view application, std::wstring_view section) : place_(L"Software\\") {
-    place_.append(application).append(L"\\").append(section);
+std::wstring key_path(std::wstring_view application, std::wstring_view section) {
+    return std::wstring(L"Software\\").append(application).append(L"\\").append(section);
 }
 
-std::wstring Settings::GetSetting(const wchar_t* key, std::wstring_view fallback) const {
-    return read_user_text(place_, key).value_or(std::wstring(fallback));
+}  // namespace
+
+std::wstring GetSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
+                        std::wstring_view fallback) {
+    std::optional<std::wstring> text = read_user_text(key_path(application, section), key);
+    return text ? *std::move(text) : std::wstring(fallback);
 }
 
-void Settings::SaveSetting(const wchar_t* key, std::wstring_view text) const {
-    write_user_text(place_, key, std::wstring(text));
+void SaveSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
+                 const std::wstring& text) {
+    write_user_text(key_path(application, section), key, text);
 }
 
-std::int16_t Settings::read(const Setting<std::int16_t>& setting) const {
-    return to_int16(GetSetting(setting.key, {})).value_or(setting.fallback);
+std::wstring Settings::stored_text(const wchar_t* key, std::wstring_view fallback) const {
+    return GetSetting(application_, section_, key, fallback);
 }
 
-std::int32_t Settings::read(const Setting<std::int32_t>& setting) const {
-    return to_int32(GetSetting(setting.key, {})).value_or(setting.fallback);
+void Settings::store_text(const wchar_t* key, const std::wstring& text) const {
+    SaveSetting(application_, section_, key, text);
 }
 
-bool Settings::read(const Setting<bool>& setting) const {
-    return to_boolean(GetSetting(setting.key, {})).value_or(setting.fallback);
+// An absent number or word reads as an empty text, which stands for neither.
+
+std::int16_t Settings::read(const SettingKey<std::int16_t>& setting, std::int16_t fallback) const {
+    return to_int16(stored_text(setting.key, {})).value_or(fallback);
 }
 
-std::wstring Settings::read(const Setting<std::wstring_view>& setting) const {
-    return GetSetting(setting.key, setting.fallback);
+std::int32_t Settings::read(const SettingKey<std::int32_t>& setting, std::int32_t fallback) const {
+    return to_int32(stored_text(setting.key, {})).value_or(fallback);
 }
 
-void Settings::write(const Setting<std::int16_t>& setting, std::int16_t value) const {
-    SaveSetting(setting.key, std::to_wstring(value));
+bool Settings::read(const SettingKey<bool>& setting, bool fallback) const {
+    return to_boolean(stored_text(setting.key, {})).value_or(fallback);
 }
 
-void Settings::write(const Setting<std::int32_t>& setting, std::int32_t value) const {
-    SaveSetting(setting.key, std::to_wstring(value));
+std::wstring Settings::read(const SettingKey<std::wstring_view>& setting, std::wstring_view fallback) const {
+    return stored_text(setting.key, fallback);
 }
 
-void Settings::write(const Setting<bool>& setting, bool value) const {
-    SaveSetting(setting.key, boolean_text(value));
+void Settings::write(const SettingKey<std::int16_t>& setting, std::int16_t value) const {
+    store_text(setting.key, std::to_wstring(value));
 }
 
-void Settings::write(const Setting<std::wstring_view>& setting, std::wstring_view value) const {
-    SaveSetting(setting.key, value);
+void Settings::write(const SettingKey<std::int32_t>& setting, std::int32_t value) const {
+    store_text(setting.key, std::to_wstring(value));
+}
+
+void Settings::write(const SettingKey<bool>& setting, bool value) const {
+    store_text(setting.key, boolean_text(value));
+}
+
+void Settings::write(const SettingKey<std::wstring_view>& setting, std::wstring_view value) const {
+    store_text(setting.key, std::wstring(value));
 }
 
 }  // namespace quillomat

@@ -4,21 +4,28 @@
 #include <string>
 #include <string_view>
 
+#include "text/product.h"
+
 namespace quillomat {
 
-/// A remembered value: its key, its type, and what stands for it until it was first stored.
+/// The key and the type of a remembered value.
 template <class Value>
-struct Setting {
+struct SettingKey {
     const wchar_t* key;
+};
+
+/// A remembered value that something stands for until it was first stored.
+template <class Value>
+struct Setting : SettingKey<Value> {
     Value fallback;
 };
 
-/// Every value the program remembers. Spellings are part of the stored format: the height of the message to the author
-/// is read under another key than it is written to, and two keys carry an apostrophe.
+/// Every value the program remembers. The spellings are part of the stored format.
 namespace settings {
 
 inline constexpr Setting<std::int16_t> Counter{L"Counter", 0};
-inline constexpr Setting<std::wstring_view> Directory{L"Directory", L""};
+/// For other programs; this one never reads it.
+inline constexpr SettingKey<std::wstring_view> Directory{L"Directory"};
 
 inline constexpr Setting<std::wstring_view> Font{L"Font", L"MS Sans Serif"};
 inline constexpr Setting<bool> Colour{L"Colour", true};
@@ -32,17 +39,19 @@ inline constexpr Setting<std::wstring_view> FrmCtlViewCaption{L"FrmCtlViewCaptio
 inline constexpr Setting<std::int16_t> FrmCtlViewHeight{L"FrmCtlViewHeight", 6660};
 inline constexpr Setting<std::int16_t> FrmCtlViewWidth{L"FrmCtlViewWidth", 8925};
 
-/// Without a stored value, the print list takes one more than there are games.
-inline constexpr Setting<std::int16_t> UpperLimit{L"UpperLimit", 0};
+/// What stands for it depends on the number of games, which only the print list knows.
+inline constexpr SettingKey<std::int16_t> UpperLimit{L"UpperLimit"};
 inline constexpr Setting<std::wstring_view> LowerLimit{L"LowerLimit", L"1"};
 
 inline constexpr Setting<std::int32_t> frmAddNewWindowState{L"frmAddNewWindowState", 0};
 inline constexpr Setting<std::int16_t> frmAddNewHeight{L"frmAddNewHeight", 4320};
 inline constexpr Setting<std::int16_t> frmAddNewWidth{L"frmAddNewWidth", 5535};
 
+/// The height of the message to the author is read under another key than it is written to, so that window always
+/// opens at the height it was designed with.
 inline constexpr Setting<std::int32_t> frmMailMeWindowState{L"frmMailMeWindowState", 0};
 inline constexpr Setting<std::int16_t> frmMailMeHeght{L"frmMailMeHeght", 6045};
-inline constexpr Setting<std::int16_t> frmMailMeHeight{L"frmMailMeHeight", 6045};
+inline constexpr SettingKey<std::int16_t> frmMailMeHeight{L"frmMailMeHeight"};
 inline constexpr Setting<std::int16_t> frmMailMeWidth{L"frmMailMeWidth", 7125};
 
 inline constexpr Setting<bool> MailOption{L"Mail-Option", true};
@@ -50,36 +59,52 @@ inline constexpr Setting<std::wstring_view> MailYourName{L"Mail-YourName", L""};
 inline constexpr Setting<std::wstring_view> MailFriendsName{L"Mail-Friend'sName", L""};
 inline constexpr Setting<std::wstring_view> MailMessage{
     L"Mail-Message",
-    L"Hi [FRIEND'S NAME] !\r\n\r\nI found a great new program called Quillomat. It has thecheat codes for a whole lot "
-    L"of "
-    L"games (over 2000 to be precise).I have included the cheat codes for some of them in this message. Enjoy!\r\n\r\n"
+    L"Hi [FRIEND'S NAME] !\r\n"
+    L"\r\n"
+    L"I found a great new program called Quillomat. It has thecheat codes for a whole lot of games (over 2000 to be "
+    L"precise).I have included the cheat codes for some of them in this message. Enjoy!\r\n"
+    L"\r\n"
     L"[YOUR NAME]"};
 inline constexpr Setting<std::wstring_view> MailFriendsEmail{L"Mail-Friend'sEmail", L""};
 
 }  // namespace settings
 
-/// The user's remembered values, each stored as a text under the program's name.
+/// The text that is stored for this user under an application's name, a section and a key; `fallback` when there is
+/// none.
+std::wstring GetSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
+                        std::wstring_view fallback);
+/// Stores a text over any older one. Throws `Error` when the system refuses.
+void SaveSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
+                 const std::wstring& text);
+
+/// The user's remembered values, each stored as a text.
 class Settings {
   public:
-    explicit Settings(std::wstring_view application = L"Quillomat", std::wstring_view section = L"Settings");
+    explicit Settings(std::wstring_view application = product::title, std::wstring_view section = L"Settings")
+        : application_(application), section_(section) {}
 
     /// The stored value; the fallback when there is none or its text does not stand for a value of this type.
-    std::int16_t read(const Setting<std::int16_t>& setting) const;
-    std::int32_t read(const Setting<std::int32_t>& setting) const;
-    bool read(const Setting<bool>& setting) const;
-    std::wstring read(const Setting<std::wstring_view>& setting) const;
+    std::int16_t read(const SettingKey<std::int16_t>& setting, std::int16_t fallback) const;
+    std::int32_t read(const SettingKey<std::int32_t>& setting, std::int32_t fallback) const;
+    bool read(const SettingKey<bool>& setting, bool fallback) const;
+    std::wstring read(const SettingKey<std::wstring_view>& setting, std::wstring_view fallback) const;
+    template <class Value>
+    auto read(const Setting<Value>& setting) const {
+        return read(setting, setting.fallback);
+    }
 
     /// Stores a value over any older one. Throws `Error` when the system refuses.
-    void write(const Setting<std::int16_t>& setting, std::int16_t value) const;
-    void write(const Setting<std::int32_t>& setting, std::int32_t value) const;
-    void write(const Setting<bool>& setting, bool value) const;
-    void write(const Setting<std::wstring_view>& setting, std::wstring_view value) const;
+    void write(const SettingKey<std::int16_t>& setting, std::int16_t value) const;
+    void write(const SettingKey<std::int32_t>& setting, std::int32_t value) const;
+    void write(const SettingKey<bool>& setting, bool value) const;
+    void write(const SettingKey<std::wstring_view>& setting, std::wstring_view value) const;
 
   private:
-    std::wstring GetSetting(const wchar_t* key, std::wstring_view fallback) const;
-    void SaveSetting(const wchar_t* key, std::wstring_view text) const;
+    std::wstring stored_text(const wchar_t* key, std::wstring_view fallback) const;
+    void store_text(const wchar_t* key, const std::wstring& text) const;
 
-    std::wstring place_;
+    std::wstring application_;
+    std::wstring section_;
 };
 
 }  // namespace quillomat

@@ -9,6 +9,12 @@
 #include "win/errors.h"
 
 namespace quillomat {
+namespace {
+
+// Leads from a window to its control, and from any other window to none.
+constexpr wchar_t control_property[] = L"QuillomatControl";
+
+}  // namespace
 
 Control::Control(Container& container, Bounds bounds, const wchar_t* system_class, std::wstring_view text, DWORD style,
                  DWORD extended_style)
@@ -19,9 +25,14 @@ Control::Control(Container& container, Bounds bounds, const wchar_t* system_clas
 
 Control::~Control() {
     container().remove(*this);
-    if (!window_) return;
-    detach();
-    DestroyWindow(window_);
+    destroy_window();
+}
+
+void Control::destroy_window() {
+    // What the destruction sends is no event: the handlers may be gone already.
+    silent_ = true;
+    if (window_) DestroyWindow(window_);
+    silent_ = false;
 }
 
 void Control::create_window(std::wstring_view text, DWORD style) {
@@ -37,41 +48,38 @@ void Control::create_window(std::wstring_view text, DWORD style) {
     if (!window_) throw_last_error();
     // Not the common controls' way of subclassing: it looks its chain up for every single message, which makes filling a
     // list a hundred times slower.
+    SetPropW(window_, control_property, this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     system_procedure_ =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     apply_font();
 }
 
-void Control::detach() {
-    SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_procedure_));
-}
-
 void Control::recreate(DWORD style) {
-    const HWND former = window_;
-    const bool focused = has_focus();
-    form().tool_tips().set(former, {});
-    detach();
-    create_window({}, style);
     // The order of the windows is kept, as screen readers go by it.
-    SetWindowPos(window_, former, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    const HWND above = GetWindow(window_, GW_HWNDPREV);
+    const bool focused = has_focus();
+    form().tool_tips().set(window_, {});
+    destroy_window();
+    create_window({}, style);
+    SetWindowPos(window_, above ? above : HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     if (!visible()) apply_visible();
     if (!enabled()) apply_enabled();
     if (!tool_tip_.empty()) form().tool_tips().set(window_, tool_tip_);
     if (focused) set_focus();
-    DestroyWindow(former);
 }
 
 Control* Control::from(HWND window) {
-    if (GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(procedure)) return nullptr;
-    return reinterpret_cast<Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    return static_cast<Control*>(GetPropW(window, control_property));
 }
 
 LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     auto& control = *reinterpret_cast<Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message == WM_NCDESTROY) {
-        control.detach();
+        RemovePropW(window, control_property);
         control.window_ = nullptr;
+    }
+    if (message == WM_NCDESTROY || control.silent_) {
         return CallWindowProcW(control.system_procedure_, window, message, wparam, lparam);
     }
     return control.form().guarded([&] { return control.handle_message(message, wparam, lparam); });

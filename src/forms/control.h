@@ -87,7 +87,7 @@ class Control : public Item {
   private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     void create_window(std::wstring_view text, DWORD style);
-    void detach();
+    void destroy_window();
     bool raise_key_down(int key);
     void apply_font();
 
@@ -100,6 +100,7 @@ class Control : public Item {
     FontSpec font_;
     std::wstring tool_tip_;
     bool key_previewed_ = false;
+    bool silent_ = false;
 };
 
 }  // namespace quillomat

@@ -2,83 +2,110 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <limits>
+#include <memory>
 
 #include "win/errors.h"
 
 namespace quillomat {
 namespace {
 
-constexpr std::size_t most_at_once = std::numeric_limits<int>::max() / 4;
+static_assert(system_code_page == CP_ACP);
 
-bool is_utf8() {
-    return GetACP() == CP_UTF8;
+/// Bytes that are decoded in one call. The system counts bytes in 32 bits inside, and a character has two.
+constexpr std::size_t most_decoded_at_once = std::size_t{1} << 30;
+/// Characters whose bytes can surely be counted in an int.
+constexpr std::size_t most_encoded = std::numeric_limits<int>::max() / 4;
+
+/// How many bytes can be decoded on their own without cutting a character in two.
+std::size_t piece_length(std::string_view bytes) {
+    if (bytes.size() <= most_decoded_at_once) return bytes.size();
+    // Line ends, blanks and all others before the digits are no part of a longer character in any code page. Where a
+    // piece has none of them it is no text, and there is no harm in cutting anywhere.
+    const auto begin = bytes.rend() - most_decoded_at_once;
+    const auto last = std::find_if(begin, bytes.rend(), [](char byte) { return byte >= '\0' && byte < '0'; });
+    return last == bytes.rend() ? most_decoded_at_once : static_cast<std::size_t>(bytes.rend() - last);
 }
 
-int encode_piece(std::wstring_view text, char* bytes, int size) {
-    // The code page's own nearest letters are another text, and UTF-8 knows neither these flags nor the report.
-    BOOL replaced = FALSE;
-    const int length = is_utf8() ? WideCharToMultiByte(CP_ACP, WC_ERR_INVALID_CHARS, text.data(),
-                                                       static_cast<int>(text.size()), bytes, size, nullptr, nullptr)
-                                 : WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.data(),
-                                                       static_cast<int>(text.size()), bytes, size, nullptr, &replaced);
-    return replaced ? 0 : length;
+bool holds_every_character(unsigned code_page) {
+    constexpr unsigned gb_18030 = 54936;
+    const unsigned actual = code_page == system_code_page ? GetACP() : code_page;
+    return actual == CP_UTF8 || actual == gb_18030;
 }
 
-bool is_pair(std::wstring_view text, std::size_t index) {
-    return index + 1 < text.size() && IS_SURROGATE_PAIR(text[index], text[index + 1]);
-}
-
-[[noreturn]] void refuse(std::wstring_view text) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::wstring_view character = text.substr(i, is_pair(text, i) ? 2 : 1);
-        char bytes[8];
-        if (encode_piece(character, bytes, static_cast<int>(sizeof bytes)) > 0) {
-            i += character.size() - 1;
-            continue;
-        }
-        const unsigned code = character.size() == 2
-                                  ? 0x10000u + ((character[0] - 0xD800u) << 10) + (character[1] - 0xDC00u)
-                                  : static_cast<unsigned>(character[0]);
-        wchar_t number[16];
-        std::swprintf(number, std::size(number), L"U+%04X", code);
-        throw Error(ErrorCode::InvalidArgument,
-                    L"The character \"" + std::wstring(character) + L"\" (" + number +
-                        L") cannot be saved in this system's character set. Please replace it and try again.");
+/// How many bytes a text was written as, or, for no room at all, would be; 0 when the code page lacks a character of
+/// it.
+int encode_into(char* bytes, int room, std::wstring_view text, unsigned code_page) {
+    const auto length = static_cast<int>(text.size());
+    // Half a surrogate pair is all that these lack, and they report it in another way.
+    if (holds_every_character(code_page)) {
+        return WideCharToMultiByte(code_page, WC_ERR_INVALID_CHARS, text.data(), length, bytes, room, nullptr, nullptr);
     }
-    throw_last_error();
+    // Left to itself the system writes a letter that looks alike, and the text would come back as another one.
+    BOOL lacking = FALSE;
+    const int size =
+        WideCharToMultiByte(code_page, WC_NO_BEST_FIT_CHARS, text.data(), length, bytes, room, nullptr, &lacking);
+    return lacking ? 0 : size;
+}
+
+/// The character at the beginning of a text: two places when it is a surrogate pair.
+std::wstring_view first_character(std::wstring_view text) {
+    return text.substr(0, text.size() > 1 && IS_SURROGATE_PAIR(text[0], text[1]) ? 2 : 1);
+}
+
+unsigned code_point(std::wstring_view character) {
+    if (character.size() == 1) return character[0];
+    return 0x10000u + ((character[0] - 0xD800u) << 10) + (character[1] - 0xDC00u);
+}
+
+[[noreturn]] void refuse(std::wstring_view character) {
+    wchar_t number[16];
+    std::swprintf(number, std::size(number), L"U+%04X", code_point(character));
+    throw Error(ErrorCode::InvalidArgument,
+                std::wstring(L"The character \"")
+                    .append(character)
+                    .append(L"\" (")
+                    .append(number)
+                    .append(L") cannot be written to a text file in this system's character "
+                            L"set. Please replace it and try again."));
+}
+
+void refuse_first_lacking(std::wstring_view text, unsigned code_page) {
+    while (!text.empty()) {
+        const std::wstring_view character = first_character(text);
+        if (encode_into(nullptr, 0, character, code_page) == 0) refuse(character);
+        text.remove_prefix(character.size());
+    }
 }
 
 }  // namespace
 
-DecodedText decode(std::string_view bytes) {
+DecodedText decode(std::string_view bytes, unsigned code_page) {
     DecodedText text;
-    // No code page needs more characters than bytes, so there is no pass for measuring.
-    text.characters = std::make_unique_for_overwrite<wchar_t[]>(std::max<std::size_t>(bytes.size(), 1));
+    // No code page has more characters than bytes, so there is no pass for counting them first.
+    text.characters = std::make_unique_for_overwrite<wchar_t[]>(bytes.size());
     while (!bytes.empty()) {
-        std::size_t piece = bytes.size();
-        if (piece > most_at_once) {
-            // Ends behind a line end, where no character is cut in two.
-            const std::size_t line_end = bytes.rfind('\n', most_at_once);
-            piece = line_end == std::string_view::npos ? most_at_once : line_end + 1;
-        }
-        const int length = MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(piece),
-                                               text.characters.get() + text.length, static_cast<int>(piece));
-        if (length == 0) throw_last_error();
-        text.length += static_cast<std::size_t>(length);
-        bytes.remove_prefix(piece);
+        const std::size_t length = piece_length(bytes);
+        const int decoded = MultiByteToWideChar(code_page, 0, bytes.data(), static_cast<int>(length),
+                                                text.characters.get() + text.length, static_cast<int>(length));
+        if (decoded == 0) throw_last_error();
+        text.length += static_cast<std::size_t>(decoded);
+        bytes.remove_prefix(length);
     }
     return text;
 }
 
-std::string encode(std::wstring_view text) {
+std::string encode(std::wstring_view text, unsigned code_page) {
     if (text.empty()) return {};
-    if (text.size() > most_at_once) throw Error(ErrorCode::OutOfMemory);
-    constexpr std::size_t most_bytes_per_character = 4;
-    std::string bytes(text.size() * most_bytes_per_character, '\0');
-    const int length = encode_piece(text, bytes.data(), static_cast<int>(bytes.size()));
-    if (length == 0) refuse(text);
-    bytes.resize(static_cast<std::size_t>(length));
+    if (text.size() > most_encoded) throw Error(ErrorCode::OutOfMemory);
+    const int size = encode_into(nullptr, 0, text, code_page);
+    if (size == 0) {
+        refuse_first_lacking(text, code_page);
+        throw_last_error();
+    }
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    if (encode_into(bytes.data(), size, text, code_page) != size) throw_last_error();
     return bytes;
 }
 

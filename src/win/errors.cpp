@@ -1,15 +1,17 @@
 #include "win/errors.h"
 
+#include <iterator>
+
 namespace quillomat {
 namespace {
 
+/// The system's sentence for a code, in the user's language; empty when it has none.
 std::wstring system_description(DWORD code) {
     wchar_t text[512];
-    const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0,
-                                        text, static_cast<DWORD>(std::size(text)), nullptr);
-    std::wstring description(text, length);
-    while (!description.empty() && (description.back() == L'\n' || description.back() == L'\r')) description.pop_back();
-    return description;
+    DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text,
+                                  static_cast<DWORD>(std::size(text)), nullptr);
+    while (length > 0 && text[length - 1] <= L' ') --length;
+    return std::wstring(text, length);
 }
 
 }  // namespace
@@ -19,27 +21,37 @@ Error error_from_code(DWORD code) {
         case ERROR_FILE_NOT_FOUND:
             return Error(ErrorCode::FileNotFound);
         case ERROR_PATH_NOT_FOUND:
+        case ERROR_BAD_PATHNAME:
+        case ERROR_DIRECTORY:
+        case ERROR_INVALID_DRIVE:
         case ERROR_BAD_NETPATH:
         case ERROR_BAD_NET_NAME:
-        case ERROR_INVALID_DRIVE:
             return Error(ErrorCode::PathNotFound);
         case ERROR_ACCESS_DENIED:
+        case ERROR_NETWORK_ACCESS_DENIED:
         case ERROR_SHARING_VIOLATION:
         case ERROR_LOCK_VIOLATION:
         case ERROR_WRITE_PROTECT:
         case ERROR_USER_MAPPED_FILE:
+        case ERROR_DELETE_PENDING:
             return Error(ErrorCode::PermissionDenied);
         case ERROR_DISK_FULL:
         case ERROR_HANDLE_DISK_FULL:
+        case ERROR_DISK_QUOTA_EXCEEDED:
             return Error(ErrorCode::DiskFull);
         case ERROR_NOT_READY:
+        case ERROR_NO_MEDIA_IN_DRIVE:
             return Error(ErrorCode::DiskNotReady);
         case ERROR_NOT_ENOUGH_MEMORY:
         case ERROR_OUTOFMEMORY:
             return Error(ErrorCode::OutOfMemory);
+        case ERROR_SUCCESS:
+            // The call failed without saying why; "completed successfully" would be the wrong thing to show.
+            return Error(ErrorCode::DeviceError);
+        default:
+            const std::wstring description = system_description(code);
+            return description.empty() ? Error(ErrorCode::DeviceError) : Error(ErrorCode::DeviceError, description);
     }
-    const std::wstring description = system_description(code);
-    return description.empty() ? Error(ErrorCode::DeviceError) : Error(ErrorCode::DeviceError, description);
 }
 
 void throw_last_error() {

@@ -1,12 +1,31 @@
 #include "win/links.h"
 
 #include "win/api.h"
-// Needs the above.
+// Need the above.
+#include <objbase.h>
 #include <shellapi.h>
 
 namespace quillomat {
+namespace {
+
+/// Some browsers are started through COM, which the thread must have ready.
+class ComApartment {
+  public:
+    ComApartment() : result_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)) {}
+    ~ComApartment() {
+        if (SUCCEEDED(result_)) CoUninitialize();
+    }
+    ComApartment(const ComApartment&) = delete;
+    ComApartment& operator=(const ComApartment&) = delete;
+
+  private:
+    HRESULT result_;
+};
+
+}  // namespace
 
 bool open_link(const std::wstring& address) {
+    const ComApartment apartment;
     const auto result =
         reinterpret_cast<INT_PTR>(ShellExecuteW(nullptr, nullptr, address.c_str(), nullptr, L"C:\\", SW_SHOWNORMAL));
     constexpr INT_PTR last_error = 32;

@@ -6,22 +6,24 @@
 namespace quillomat {
 
 std::optional<std::wstring> read_user_text(const std::wstring& key, const std::wstring& name) {
+    RegistryKey opened;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, KEY_QUERY_VALUE, opened.receive()) != ERROR_SUCCESS) {
+        return std::nullopt;
+    }
+    std::wstring text(128, L'\0');
     for (;;) {
-        DWORD bytes = 0;
-        if (RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &bytes) !=
-            ERROR_SUCCESS) {
-            return std::nullopt;
-        }
-        std::wstring text(bytes / sizeof(wchar_t) + 1, L'\0');
-        bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+        DWORD type = REG_NONE;
+        auto size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
         const LSTATUS status =
-            RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &bytes);
-        // Another program has stored a longer text in between.
-        if (status == ERROR_MORE_DATA) continue;
-        if (status != ERROR_SUCCESS) return std::nullopt;
-        text.resize(bytes / sizeof(wchar_t));
-        text.resize(text.find(L'\0') == std::wstring::npos ? text.size() : text.find(L'\0'));
-        return text;
+            RegQueryValueExW(opened.get(), name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(text.data()), &size);
+        if (status == ERROR_MORE_DATA) {
+            text.resize(size / sizeof(wchar_t) + 1);
+            continue;
+        }
+        if (status != ERROR_SUCCESS || type != REG_SZ) return std::nullopt;
+        // Anyone can store bytes as a text: without a zero at the end, with several, or with half a character.
+        text.resize(size / sizeof(wchar_t));
+        return text.substr(0, text.find(L'\0'));
     }
 }
 

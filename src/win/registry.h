@@ -5,10 +5,11 @@
 
 namespace quillomat {
 
-/// A text among the user's settings in the registry; nothing when there is none or it is no text.
+/// A text among the current user's values in the registry, up to its first zero; nothing when it cannot be read or is
+/// no text. `key` is the path below the user's own root.
 std::optional<std::wstring> read_user_text(const std::wstring& key, const std::wstring& name);
 
-/// Stores a text among the user's settings, making the key as needed. Throws `Error`.
+/// Stores a text among the current user's values, making the key as needed. Throws `Error` when the system refuses.
 void write_user_text(const std::wstring& key, const std::wstring& name, const std::wstring& text);
 
 }  // namespace quillomat

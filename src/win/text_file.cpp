@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 
 #include "win/code_page.h"
 #include "win/errors.h"
@@ -9,27 +10,31 @@
 namespace quillomat {
 namespace {
 
-// The system reads and writes at most this many bytes at once.
-constexpr std::size_t most_at_once = 1u << 30;
+/// Bytes of the largest file that is read: the system counts what it decodes in an int.
+constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
 
-std::size_t size_of(HANDLE file) {
+LONGLONG size_of(HANDLE file) {
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file, &size)) throw_last_error();
-    return static_cast<std::size_t>(size.QuadPart);
+    return size.QuadPart;
 }
 
-void write_whole(HANDLE file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        DWORD written = 0;
-        const auto piece = static_cast<DWORD>(std::min(bytes.size(), most_at_once));
-        if (!WriteFile(file, bytes.data(), piece, &written, nullptr)) throw_last_error();
-        if (written == 0) throw Error(ErrorCode::DiskFull);
-        bytes.remove_prefix(written);
-    }
+/// In one call, so that a program that is ended meanwhile has written either nothing or everything.
+void write_to_disk(HANDLE file, std::string_view bytes) {
+    DWORD written = 0;
+    if (!WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) throw_last_error();
+    if (written != bytes.size()) throw Error(ErrorCode::DiskFull);
+    // A disk behind a cache may refuse only now.
     if (!FlushFileBuffers(file)) throw_last_error();
 }
 
-// Closes the slot at the end of a write, whichever way it ends: only reading leaves it open.
+void set_position(HANDLE file, LONGLONG position) {
+    LARGE_INTEGER distance{};
+    distance.QuadPart = position;
+    if (!SetFilePointerEx(file, distance, nullptr, FILE_BEGIN)) throw_last_error();
+}
+
+/// Closes the slot when a write ends, whichever way: only reading leaves it open.
 class Closing {
   public:
     explicit Closing(FileHandle& file) : file_(file) {}
@@ -41,6 +46,23 @@ class Closing {
     FileHandle& file_;
 };
 
+/// Deletes a file that turned out to be for nothing.
+class Deletion {
+  public:
+    explicit Deletion(const std::wstring& path) : path_(path) {}
+    ~Deletion() {
+        if (wanted_) DeleteFileW(path_.c_str());
+    }
+    Deletion(const Deletion&) = delete;
+    Deletion& operator=(const Deletion&) = delete;
+
+    void cancel() { wanted_ = false; }
+
+  private:
+    const std::wstring& path_;
+    bool wanted_ = true;
+};
+
 }  // namespace
 
 bool file_exists(const std::wstring& path) {
@@ -48,43 +70,63 @@ bool file_exists(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-void TextFileSlot::open(const std::wstring& path, DWORD access, DWORD share, DWORD creation) {
+void TextFileSlot::open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
     if (is_open()) throw Error(ErrorCode::FileAlreadyOpen);
-    file_ = FileHandle(CreateFileW(path.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr));
+    file_ = FileHandle(CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file_) throw_last_error();
 }
 
 void TextFileSlot::open_for_reading(const std::wstring& path) {
-    open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
+    // The slot may stay open for long; that must not keep the user from mending the file.
+    open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
 }
 
-DecodedText TextFileSlot::read_all() {
-    const std::size_t size = size_of(file_.get());
-    const auto bytes = std::make_unique_for_overwrite<char[]>(std::max<std::size_t>(size, 1));
+DecodedText TextFileSlot::read_all() try {
+    const LONGLONG file_size = size_of(file_.get());
+    if (file_size > largest_file) {
+        throw Error(ErrorCode::OutOfMemory, L"The file is too large: it can have at most 2 GB");
+    }
+    const auto size = static_cast<std::size_t>(file_size);
+    const auto bytes = std::make_unique_for_overwrite<char[]>(size);
     std::size_t length = 0;
     while (length < size) {
         DWORD read = 0;
-        const auto piece = static_cast<DWORD>(std::min(size - length, most_at_once));
-        if (!ReadFile(file_.get(), bytes.get() + length, piece, &read, nullptr)) throw_last_error();
-        if (read == 0) break;
+        const auto wanted = static_cast<DWORD>(size - length);
+        if (!ReadFile(file_.get(), bytes.get() + length, wanted, &read, nullptr)) throw_last_error();
+        if (read == 0) break;  // another program has shortened the file
         length += read;
     }
     return decode({bytes.get(), length});
+} catch (const std::bad_alloc&) {
+    throw Error(ErrorCode::OutOfMemory);
 }
 
 void TextFileSlot::append(const std::wstring& path, std::wstring_view text) {
     const std::string bytes = encode(text);
+    const bool is_new = !file_exists(path);
     open(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+    Deletion deletion(path);
+    if (!is_new) deletion.cancel();
     const Closing closing(file_);
-    LARGE_INTEGER old_end{};
-    old_end.QuadPart = static_cast<LONGLONG>(size_of(file_.get()));
-    if (!SetFilePointerEx(file_.get(), old_end, nullptr, FILE_BEGIN)) throw_last_error();
+    const LONGLONG old_size = size_of(file_.get());
+    set_position(file_.get(), old_size);
     try {
-        write_whole(file_.get(), bytes);
+        write_to_disk(file_.get(), bytes);
     } catch (const Error&) {
-        SetFilePointerEx(file_.get(), old_end, nullptr, FILE_BEGIN);
+        set_position(file_.get(), old_size);
         SetEndOfFile(file_.get());
         throw;
+    }
+    deletion.cancel();
+}
+
+std::wstring TextFileSlot::open_new_file_beside(const std::wstring& path) {
+    const std::wstring folder = path.substr(0, path.find_last_of(L"\\/") + 1);
+    for (int number = 1;; ++number) {
+        std::wstring name = folder + L"~quillomat" + std::to_wstring(number) + L".tmp";
+        if (file_exists(name)) continue;
+        open(name, GENERIC_WRITE, 0, CREATE_NEW);
+        return name;
     }
 }
 
@@ -95,20 +137,16 @@ void TextFileSlot::replace(const std::wstring& path, std::wstring_view text) {
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) {
         throw Error(ErrorCode::PermissionDenied);
     }
-    const std::wstring unfinished = path + L".new";
-    open(unfinished, GENERIC_WRITE, 0, CREATE_ALWAYS);
-    try {
+    const std::wstring unfinished = open_new_file_beside(path);
+    Deletion deletion(unfinished);
+    {
         const Closing closing(file_);
-        write_whole(file_.get(), bytes);
-    } catch (const Error&) {
-        DeleteFileW(unfinished.c_str());
-        throw;
+        write_to_disk(file_.get(), bytes);
     }
     if (!MoveFileExW(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-        const Error error = error_from_code(GetLastError());
-        DeleteFileW(unfinished.c_str());
-        throw error;
+        throw_last_error();
     }
+    deletion.cancel();
 }
 
 }  // namespace quillomat

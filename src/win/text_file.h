@@ -11,8 +11,8 @@ namespace quillomat {
 /// Whether there is a file (not a folder) at a path.
 bool file_exists(const std::wstring& path);
 
-/// "File number 1": the one slot through which the program opens its text files, in the system's code page. A load that
-/// fails in the middle keeps it open for the rest of the run, and every later use then fails with FileAlreadyOpen.
+/// "File number 1": the one slot through which the program opens its text files, which are in the system's code page.
+/// A load that fails in the middle keeps it for the rest of the run; every later use then throws FileAlreadyOpen.
 class TextFileSlot {
   public:
     bool is_open() const { return static_cast<bool>(file_); }
@@ -20,20 +20,22 @@ class TextFileSlot {
     /// Throws `Error`: FileAlreadyOpen when the slot is in use, else what the system says (FileNotFound, PathNotFound,
     /// PermissionDenied, ...).
     void open_for_reading(const std::wstring& path);
-    /// The whole file, from its beginning. Throws `Error` and leaves the slot open.
+    /// The whole file that is open. Throws `Error`, OutOfMemory for one of 2 GB and more, and leaves the slot open.
     DecodedText read_all();
     void close() { file_.close(); }
 
-    /// Adds a text to the end of a file, which is made if there is none. All or nothing: what cannot be written whole
-    /// is cut off again. Throws `Error` as opening does, or InvalidArgument for a character the code page does not
-    /// have.
+    /// Adds a text to the end of a file, which is made if there is none; nothing is put between the two. All or
+    /// nothing, even if the program is ended meanwhile: the file keeps its bytes or has all of the new ones behind
+    /// them. Throws `Error` as `open_for_reading` does, DiskFull, or InvalidArgument for a character the code page
+    /// lacks.
     void append(const std::wstring& path, std::wstring_view text);
-    /// Makes a text the whole content of a file. All or nothing: the file is the old one or the new one at any moment.
-    /// Throws as `append` does.
+    /// Makes a text the whole content of a file, new or not. All or nothing: at any moment the file is the old one or
+    /// the new one. Throws as `append` does.
     void replace(const std::wstring& path, std::wstring_view text);
 
   private:
-    void open(const std::wstring& path, DWORD access, DWORD share, DWORD creation);
+    void open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition);
+    std::wstring open_new_file_beside(const std::wstring& path);
 
     FileHandle file_;
 };

@@ -19,7 +19,10 @@ namespace {
 
 struct Board : Form {
     explicit Board(Application& application)
-        : Form(application, {.name = L"frmBoard", .caption = L"Board", .width = 6000, .height = 6000}) {}
+        : Form(application, {.name = L"frmBoard", .caption = L"Board", .width = 6000, .height = 6000}) {
+        // A tool tip hooks itself into its control; nothing of the contract may change by that.
+        for (Control* control : controls()) control->set_tool_tip(L"tip");
+    }
 
     Label Label1{*this, L"Label", {3000, 3000, 1500, 300}};
     Image Image1{*this, Picture(), {3000, 3600, 600, 600}};

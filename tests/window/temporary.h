@@ -1,0 +1,51 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "common/settings.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+/// A folder of a test's own, removed with all that is in it.
+class TemporaryFolder {
+  public:
+    TemporaryFolder() {
+        static int count = 0;
+        path_ = std::filesystem::temp_directory_path() /
+                (L"quillomat-test-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count));
+        std::filesystem::create_directories(path_);
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+
+  private:
+    std::filesystem::path path_;
+};
+
+/// Settings of a test's own, empty at its beginning and gone at its end.
+class TemporarySettings {
+  public:
+    TemporarySettings() { remove(); }
+    ~TemporarySettings() { remove(); }
+    TemporarySettings(const TemporarySettings&) = delete;
+    TemporarySettings& operator=(const TemporarySettings&) = delete;
+
+    Settings settings() const { return Settings(application_); }
+    /// Where they are, below the user's part of the registry.
+    std::wstring key() const { return L"Software\\" + application_ + L"\\Settings"; }
+
+  private:
+    void remove() const { RegDeleteTreeW(HKEY_CURRENT_USER, (L"Software\\" + application_).c_str()); }
+
+    std::wstring application_ = L"QuillomatTest" + std::to_wstring(GetCurrentProcessId());
+};
+
+}  // namespace quillomat
