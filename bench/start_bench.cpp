@@ -23,7 +23,8 @@ class Program {
         std::wstring command = L"\"" + path + L"\"";
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
-        if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process_)) {
+        if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                            &process_)) {
             std::printf("cannot start %ls\n", path.c_str());
             std::exit(1);
         }
@@ -48,7 +49,8 @@ class Program {
         FILETIME created{}, ended{}, kernel{}, user{};
         GetProcessTimes(process_.hProcess, &created, &ended, &kernel, &user);
         const auto value = [](FILETIME time) {
-            return static_cast<double>((static_cast<unsigned long long>(time.dwHighDateTime) << 32 | time.dwLowDateTime)) /
+            return static_cast<double>(
+                       (static_cast<unsigned long long>(time.dwHighDateTime) << 32 | time.dwLowDateTime)) /
                    1e7;
         };
         return value(kernel) + value(user);

@@ -18,6 +18,7 @@ constexpr Colour rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
 
 namespace colours {
 
+inline constexpr Colour menu{0x80000004};
 inline constexpr Colour window{0x80000005};
 inline constexpr Colour window_text{0x80000008};
 inline constexpr Colour highlight{0x8000000D};

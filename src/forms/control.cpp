@@ -46,8 +46,8 @@ void Control::create_window(std::wstring_view text, DWORD style) {
         to_pixels(bounds.height, resolution), container().window(),
         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(form().next_control_id())), GetModuleHandleW(nullptr), nullptr);
     if (!window_) throw_last_error();
-    // Not the common controls' way of subclassing: it looks its chain up for every single message, which makes filling a
-    // list a hundred times slower.
+    // Not the common controls' way of subclassing: it looks its chain up for every single message, which makes filling
+    // a list a hundred times slower.
     SetPropW(window_, control_property, this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     system_procedure_ =

@@ -15,9 +15,9 @@ class Frame : public Control, public Container {
 
     HWND window() const override { return Control::window(); }
     Form& owner_form() override { return form(); }
-    using Control::bring_to_front;
     using Container::back_colour;
     using Container::set_back_colour;
+    using Control::bring_to_front;
     void resolution_changed() override;
 
   protected:

@@ -101,8 +101,8 @@ void Menu::set_enabled(bool enabled) {
 
 void Menu::set_pictures(const Picture& unchecked, const Picture& checked) {
     const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(form_.dpi()));
-    unchecked_picture_ = unchecked.bitmap(size);
-    checked_picture_ = checked.bitmap(size);
+    unchecked_picture_ = unchecked.bitmap(size, colours::menu);
+    checked_picture_ = checked.bitmap(size, colours::menu);
     SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked_picture_.get(),
                        checked_picture_.get());
 }

@@ -19,22 +19,18 @@ void Picture::draw(HDC canvas, const RECT& area) const {
     DestroyIcon(icon);
 }
 
-GdiObject<HBITMAP> Picture::bitmap(int pixels) const {
-    BITMAPINFO description{};
-    description.bmiHeader.biSize = sizeof description.bmiHeader;
-    description.bmiHeader.biWidth = pixels;
-    description.bmiHeader.biHeight = -pixels;
-    description.bmiHeader.biPlanes = 1;
-    description.bmiHeader.biBitCount = 32;
-    description.bmiHeader.biCompression = BI_RGB;
-    void* bits = nullptr;
-    GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &description, DIB_RGB_COLORS, &bits, nullptr, 0));
-    const HDC memory = CreateCompatibleDC(nullptr);
+GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    GdiObject<HBITMAP> bitmap(CreateCompatibleBitmap(screen, pixels, pixels));
     {
         const Selection selected(memory, bitmap.get());
-        draw(memory, {0, 0, pixels, pixels});
+        const RECT area{0, 0, pixels, pixels};
+        fill(memory, area, background);
+        draw(memory, area);
     }
     DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
     return bitmap;
 }
 

@@ -16,8 +16,8 @@ class Picture {
 
     /// Draws it into `area`, in pixels, from the size drawn for it.
     void draw(HDC canvas, const RECT& area) const;
-    /// A square bitmap with transparency, as menus take it.
-    GdiObject<HBITMAP> bitmap(int pixels) const;
+    /// A square bitmap of it on a background, as menus take it: they do not blend what they show.
+    GdiObject<HBITMAP> bitmap(int pixels, Colour background) const;
 
   private:
     int resource_ = 0;

@@ -21,7 +21,7 @@ void ToolTips::set(HWND control, const std::wstring& text) {
     tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
     tool.hwnd = form_;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
-    tool.lpszText = const_cast<wchar_t*>(text.c_str());
+    // Asked with a text, the system would write its own into it.
     const bool known = SendMessageW(window_, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0;
     tool.lpszText = const_cast<wchar_t*>(text.c_str());
     if (text.empty()) {

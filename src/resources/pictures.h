@@ -7,3 +7,9 @@
 #define PICTURE_COLOUR 17
 // The eleven pictures beside the viewer's menu entries.
 #define PICTURE_MENU_FIRST 20
+// The main screen's picture of a letter to the author, and its decoration.
+#define PICTURE_AUTHOR_MAIL 40
+#define PICTURE_GAME_PAD 41
+// The author dialog's spinning coin, and the three pictures that take turns as its icon.
+#define PICTURE_COIN 42
+#define PICTURE_QUILL_FIRST 43

@@ -37,7 +37,6 @@ Error error_from_code(DWORD code) {
             return Error(ErrorCode::PermissionDenied);
         case ERROR_DISK_FULL:
         case ERROR_HANDLE_DISK_FULL:
-        case ERROR_DISK_QUOTA_EXCEEDED:
             return Error(ErrorCode::DiskFull);
         case ERROR_NOT_READY:
         case ERROR_NO_MEDIA_IN_DRIVE:

@@ -34,6 +34,14 @@ void set_position(HANDLE file, LONGLONG position) {
     if (!SetFilePointerEx(file, distance, nullptr, FILE_BEGIN)) throw_last_error();
 }
 
+/// A file that may not be changed stays as it is, even where a folder or an administrator's rights would allow it.
+void check_changeable(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) {
+        throw Error(ErrorCode::PermissionDenied);
+    }
+}
+
 /// Closes the slot when a write ends, whichever way: only reading leaves it open.
 class Closing {
   public:
@@ -46,22 +54,13 @@ class Closing {
     FileHandle& file_;
 };
 
-/// Deletes a file that turned out to be for nothing.
-class Deletion {
-  public:
-    explicit Deletion(const std::wstring& path) : path_(path) {}
-    ~Deletion() {
-        if (wanted_) DeleteFileW(path_.c_str());
-    }
-    Deletion(const Deletion&) = delete;
-    Deletion& operator=(const Deletion&) = delete;
+enum class AtClosing { Keep, Delete };
 
-    void cancel() { wanted_ = false; }
-
-  private:
-    const std::wstring& path_;
-    bool wanted_ = true;
-};
+/// What the system does with a file as soon as it is closed, even if that is because the program was ended.
+void set_fate(HANDLE file, AtClosing fate) {
+    FILE_DISPOSITION_INFO info{fate == AtClosing::Delete};
+    if (!SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info)) throw_last_error();
+}
 
 }  // namespace
 
@@ -84,7 +83,7 @@ void TextFileSlot::open_for_reading(const std::wstring& path) {
 DecodedText TextFileSlot::read_all() try {
     const LONGLONG file_size = size_of(file_.get());
     if (file_size > largest_file) {
-        throw Error(ErrorCode::OutOfMemory, L"The file is too large: it can have at most 2 GB");
+        throw Error(ErrorCode::OutOfMemory, L"The file is too large: at most 2 GB can be read");
     }
     const auto size = static_cast<std::size_t>(file_size);
     const auto bytes = std::make_unique_for_overwrite<char[]>(size);
@@ -102,11 +101,10 @@ DecodedText TextFileSlot::read_all() try {
 }
 
 void TextFileSlot::append(const std::wstring& path, std::wstring_view text) {
+    if (!file_exists(path)) return replace(path, text);
     const std::string bytes = encode(text);
-    const bool is_new = !file_exists(path);
-    open(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
-    Deletion deletion(path);
-    if (!is_new) deletion.cancel();
+    check_changeable(path);
+    open(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
     const Closing closing(file_);
     const LONGLONG old_size = size_of(file_.get());
     set_position(file_.get(), old_size);
@@ -117,7 +115,6 @@ void TextFileSlot::append(const std::wstring& path, std::wstring_view text) {
         SetEndOfFile(file_.get());
         throw;
     }
-    deletion.cancel();
 }
 
 std::wstring TextFileSlot::open_new_file_beside(const std::wstring& path) {
@@ -125,28 +122,26 @@ std::wstring TextFileSlot::open_new_file_beside(const std::wstring& path) {
     for (int number = 1;; ++number) {
         std::wstring name = folder + L"~quillomat" + std::to_wstring(number) + L".tmp";
         if (file_exists(name)) continue;
-        open(name, GENERIC_WRITE, 0, CREATE_NEW);
+        open(name, GENERIC_WRITE | DELETE, 0, CREATE_NEW);
         return name;
     }
 }
 
 void TextFileSlot::replace(const std::wstring& path, std::wstring_view text) {
     const std::string bytes = encode(text);
-    // A file that may not be changed is not replaced either, although its folder would allow it.
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) {
-        throw Error(ErrorCode::PermissionDenied);
-    }
+    check_changeable(path);
     const std::wstring unfinished = open_new_file_beside(path);
-    Deletion deletion(unfinished);
     {
         const Closing closing(file_);
+        set_fate(file_.get(), AtClosing::Delete);
         write_to_disk(file_.get(), bytes);
+        set_fate(file_.get(), AtClosing::Keep);
     }
     if (!MoveFileExW(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-        throw_last_error();
+        const Error error = error_from_code(GetLastError());
+        DeleteFileW(unfinished.c_str());
+        throw error;
     }
-    deletion.cancel();
 }
 
 }  // namespace quillomat

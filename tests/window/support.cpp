@@ -100,7 +100,13 @@ void WindowTest::press_key(WORD key, std::initializer_list<WORD> held) {
 void WindowTest::move_pointer(HWND window, int x, int y) {
     POINT point{x, y};
     ClientToScreen(window, &point);
-    SetCursorPos(point.x, point.y);
+    // Real input: just setting the position does not tell the window under it.
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+    input.mi.dy = MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    SendInput(1, &input, sizeof input);
 }
 
 void WindowTest::click(DWORD down, DWORD up) {

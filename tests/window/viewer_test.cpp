@@ -28,7 +28,8 @@ class ViewerTest : public WindowTest {
     }
 
     void write(const char* name, std::string_view bytes) const {
-        std::ofstream(folder.path() / name, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(folder.path() / name, std::ios::binary)
+            .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     }
     void open() {
         viewer = std::make_unique<frmCtlView>(application, session, windows);
@@ -65,6 +66,248 @@ TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
     EXPECT_TRUE(viewer->menus.mnuSave.enabled());
     EXPECT_EQ(viewer->menus.mnuSave.caption(), L"&Save Amber && Ash") << "the name's own ampersand is no access key";
+}
+
+TEST_F(ViewerTest, RemembersTenSettingsFromOneRunToTheNext) {
+    open();
+    viewer->List2.select_index(2);
+    viewer->Text3.set_text(L"keyword");
+    viewer->menus.mnuColour.on_click();
+    viewer->menus.mnuAutoSelect.on_click();
+    viewer->set_height(7200);
+    viewer->set_width(9000);
+    close();
+    EXPECT_EQ(session.settings.read(settings::FrmCtlViewCaption), L"Beta");
+
+    session.viewer = {};
+    open();
+    EXPECT_EQ(viewer->List2.text(), L"Beta");
+    EXPECT_EQ(viewer->caption(), L"Beta");
+    EXPECT_EQ(viewer->Text1.text(), L"mario once");
+    EXPECT_EQ(viewer->Text3.text(), L"keyword");
+    EXPECT_TRUE(viewer->Command1.enabled());
+    EXPECT_FALSE(viewer->menus.mnuColour.checked());
+    EXPECT_EQ(viewer->Image1.border(), ImageBorder::None);
+    EXPECT_EQ(viewer->Text1.back_colour(), colours::white);
+    EXPECT_TRUE(viewer->menus.mnuAutoSelect.checked());
+    EXPECT_NEAR(viewer->height(), 7200, 15);
+    EXPECT_NEAR(viewer->width(), 9000, 15);
+    viewer->set_window_state(WindowState::Maximised);
+    close();
+    EXPECT_EQ(session.settings.read(settings::FrmCtlViewWindowState), 2);
+    EXPECT_EQ(session.settings.read(settings::FrmCtlViewWidth), 9000) << "a maximised window keeps the size it had";
+}
+
+TEST_F(ViewerTest, ASecondOpeningListsFromMemory) {
+    open();
+    close();
+    std::filesystem::remove(folder.path() / "Cheats.dat");
+    session.catalogue.store(5, L"Added", L"in between");
+    open();
+    EXPECT_EQ(viewer->List2.count(), 6);
+    EXPECT_EQ(session.viewer.game_count, 6);
+    EXPECT_EQ(viewer->List2.item(5), L"Added");
+}
+
+TEST_F(ViewerTest, AFailedLoadShowsWhyAndKeepsWhatWasRead) {
+    const struct {
+        std::string bytes;
+        const wchar_t* description;
+        int games;
+    } cases[] = {
+        {"a\r\n$$$$$$$$$$$$$$$$$$$$ One\r\n$$$$$$$$$$$$$$$$$$$$\r\n", L"Invalid procedure call or argument", 1},
+        {[] {
+             std::string many;
+             for (int i = 0; i < 2502; ++i) many += "$$$$$$$$$$$$$$$$$$$$ Game\r\n";
+             return many;
+         }(),
+         L"Subscript out of range", 2501},
+    };
+    for (const auto& [bytes, description, games] : cases) {
+        session.viewer = {};
+        write("Cheats.dat", bytes);
+        expect_message(L"Error!", description);
+        open();
+        EXPECT_EQ(viewer->List2.count(), games);
+        EXPECT_TRUE(session.text_file.is_open()) << "file number 1 stays open";
+        EXPECT_TRUE(IsWindowVisible(viewer->window()));
+        viewer->List2.select_index(0);
+        EXPECT_FALSE(viewer->caption().empty()) << "what was read can be used";
+        close();
+        session.text_file.close();
+    }
+    session.viewer = {};
+    std::filesystem::remove(folder.path() / "Cheats.dat");
+    expect_message(L"Error!", L"File not found");
+    open();
+    EXPECT_FALSE(session.text_file.is_open());
+    close();
+    session.viewer.open_count = 32767;
+    expect_message(L"Error!", L"Overflow");
+    open();
+}
+
+TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
+    open();
+    viewer->List2.set_focus();
+    const auto expect_selected = [this](int index) {
+        EXPECT_TRUE(pump_until([&] { return viewer->List2.selected_index() == index; })) << index;
+    };
+    press_key(VK_DOWN, {VK_CONTROL});
+    expect_selected(4);
+    press_key(VK_UP, {VK_MENU});
+    expect_selected(3);
+    press_key(VK_UP, {VK_MENU});
+    expect_selected(2);
+    press_key(VK_UP, {VK_MENU});
+    expect_selected(1);
+    press_key(VK_UP, {VK_MENU});
+    press_key(VK_DOWN, {VK_MENU});
+    expect_selected(2);
+    press_key(VK_UP, {VK_CONTROL});
+    expect_selected(0);
+    press_key(VK_DOWN);
+    expect_selected(1);
+    EXPECT_EQ(viewer->caption(), L"Amber & Ash");
+
+    std::wstring asked;
+    windows.mail_author = [&](const std::wstring& text) { asked = text; };
+    expect_message(L"Help!",
+                   L"You pressed the F1 Key for help.\r\nYou can e-mail me for help.\r\nDo you want to do so?", IDYES);
+    press_key(VK_F1);
+    EXPECT_TRUE(pump_until([&] { return asked == L"[Type your question here]"; }));
+    bool main_screen_restored = false;
+    windows.restore_main_screen = [&] { main_screen_restored = true; };
+    press_key(VK_ESCAPE);
+    EXPECT_TRUE(pump_until([this] { return !viewer; }));
+    EXPECT_TRUE(main_screen_restored);
+}
+
+TEST_F(ViewerTest, HoveringNamesTheGameAndSelectsItWhenAsked) {
+    open();
+    move_pointer(viewer->List2.window(), 20, 8);
+    EXPECT_TRUE(pump_until([this] { return viewer->List2.tool_tip() == L"Alpha (Game No. 1 of 5 games.)"; }));
+    move_pointer(viewer->List2.window(), 20, 250);
+    EXPECT_TRUE(pump_until([this] { return viewer->List2.tool_tip().starts_with(L" (Game No. "); }))
+        << "below the last game the system's raw answer is the number";
+    EXPECT_FALSE(viewer->List2.selected_index());
+    viewer->menus.mnuAutoSelect.set_checked(true);
+    move_pointer(viewer->List2.window(), 25, 8);
+    EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Alpha"; }));
+}
+
+TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
+    open();
+    viewer->Option2.set_value(true);
+    EXPECT_TRUE(viewer->Frame2.visible());
+    EXPECT_FALSE(viewer->List2.visible());
+    EXPECT_NEAR(viewer->Frame2.left(), 120, 15);
+    const auto search = [this](const wchar_t* keyword) {
+        viewer->Text3.set_text(keyword);
+        viewer->Command1.click();
+        std::wstring names;
+        for (int i = 0; i < viewer->List1.count(); ++i) names += viewer->List1.item(i) + L"|";
+        return names;
+    };
+    EXPECT_EQ(search(L"mario"), L"Super MARIO|");
+    EXPECT_EQ(search(L"bETA"), L"Beta|beta|");
+    viewer->Option4.set_value(true);
+    EXPECT_EQ(search(L"mario"), L"Amber & Ash|Beta|");
+    EXPECT_EQ(search(L"\u00e9T\u00c9"), L"Super MARIO|");
+    EXPECT_EQ(viewer->Text3.selected_text(), L"\u00e9T\u00c9") << "a new keyword is typed over the old one";
+    expect_message(L"Nothing there.", L"Nothing was found! Try searching for something else.");
+    EXPECT_EQ(search(L"mario  "), L"");
+
+    search(L"CODE");
+    viewer->List1.select_index(0);
+    EXPECT_EQ(viewer->caption(), L"Super MARIO");
+    EXPECT_EQ(viewer->Text1.selected_text(), L"code");
+    viewer->Option1.set_value(true);
+    EXPECT_FALSE(viewer->Frame2.visible());
+    EXPECT_TRUE(viewer->List2.has_focus());
+}
+
+TEST_F(ViewerTest, SearchesForAWordOfTheText) {
+    open();
+    viewer->Text1.set_text(L" warps mario ");
+    viewer->Text1.select(0, 7);
+    viewer->SearchFor(SearchScope::Cheats);
+    EXPECT_TRUE(viewer->Option2.value());
+    EXPECT_TRUE(viewer->Option4.value());
+    EXPECT_EQ(viewer->Text3.text(), L"warps");
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    EXPECT_EQ(WindowFromPoint(pointer), viewer->Command1.window());
+    EXPECT_EQ(viewer->default_button(), &viewer->Command1);
+}
+
+TEST_F(ViewerTest, TheSmallestSizeIsGivenBackHeightFirst) {
+    open();
+    std::vector<std::pair<bool, bool>> seen;
+    const auto resize = viewer->on_resize;
+    viewer->on_resize = [&] {
+        seen.emplace_back(viewer->height() < 5340 - 8, viewer->width() < 5970 - 8);
+        resize();
+    };
+    SetWindowPos(viewer->window(), nullptr, 0, 0, 100, 100, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_NEAR(viewer->height(), 5340, 8);
+    EXPECT_NEAR(viewer->width(), 5970, 8);
+    const std::vector<std::pair<bool, bool>> expected{{true, true}, {false, true}, {false, false}};
+    EXPECT_EQ(seen, expected);
+}
+
+TEST_F(ViewerTest, MinimisedItNamesTheResultAndRestoredTheGame) {
+    open();
+    viewer->List2.select_index(0);
+    viewer->List1.add(L"Result");
+    SendMessageW(viewer->List1.window(), LB_SETCURSEL, 0, 0);
+    viewer->set_window_state(WindowState::Minimised);
+    EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Quillomat - Result"; }));
+    viewer->set_window_state(WindowState::Normal);
+    EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Alpha"; }));
+}
+
+TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
+    const std::pair<const wchar_t*, const wchar_t*> corrupt[] = {
+        {L"FrmCtlViewHeight", L"-5000"},
+        {L"FrmCtlViewWidth", L"32767"},
+        {L"FrmCtlViewWindowState", L"7"},
+        {L"Font", L"No Such Font At All With A Very Long Name Indeed"},
+        {L"Colour", L"purple"},
+        {L"DefaultGame", L"No such game"},
+        {L"FrmCtlViewHeight", L"99999999999"}};
+    const Settings raw(registry.settings());
+    for (const auto& [key, text] : corrupt) {
+        raw.write(Setting<std::wstring_view>{key, L""}, text);
+        session.viewer = {};
+        open();
+        RECT area{};
+        GetWindowRect(viewer->window(), &area);
+        const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+        RECT visible{};
+        IntersectRect(&visible, &area, &screen);
+        EXPECT_TRUE(EqualRect(&visible, &area)) << "all of it is on the screen";
+        EXPECT_GE(area.bottom - area.top, 300);
+        EXPECT_TRUE(IsWindowVisible(viewer->window()) && !IsIconic(viewer->window()));
+        viewer->List2.select_index(1);
+        EXPECT_EQ(viewer->Text1.text(), L"MARIO warps");
+        viewer.reset();
+    }
+}
+
+TEST_F(ViewerTest, HelpFollowsThePointerFromControlToControl) {
+    open();
+    move_pointer(viewer->Option1.window(), 10, 8);
+    EXPECT_TRUE(pump_until([this] { return viewer->Text4.text() == L"Click here to show the list of games"; }));
+    EXPECT_TRUE(viewer->Text4.visible());
+    EXPECT_TRUE(viewer->Option1.font().underline);
+    move_pointer(viewer->Option2.window(), 10, 8);
+    EXPECT_TRUE(pump_until([this] { return viewer->Text4.text() == L"Click here to search for a specific game"; }));
+    EXPECT_TRUE(viewer->Text4.visible());
+    EXPECT_FALSE(viewer->Option1.font().underline);
+    EXPECT_EQ(viewer->Option1.back_colour(), colours::button_face);
+    move_pointer(viewer->Text1.window(), 50, 50);
+    EXPECT_TRUE(pump_until([this] { return !viewer->Text4.visible(); }));
 }
 
 }  // namespace

@@ -1,0 +1,244 @@
+#include "win/text_file.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "text/error.h"
+#include "win/database_file.h"
+#include "win/program_folder.h"
+
+namespace quillomat {
+namespace {
+
+using namespace std::string_literals;
+
+/// A character that no single-byte code page has, and no UTF-8 text either: half a pair.
+constexpr wchar_t unwritable[] = L"half \xD83D";
+
+/// The number of the error that something throws, if it throws one.
+std::optional<ErrorCode> error_of(const std::function<void()>& something) {
+    try {
+        something();
+        return std::nullopt;
+    } catch (const Error& error) {
+        return error.code();
+    }
+}
+
+/// A folder of its own for every test, where files are looked at byte by byte.
+class TextFile : public testing::Test {
+  protected:
+    TextFile() {
+        std::filesystem::remove_all(folder_);
+        std::filesystem::create_directories(folder_);
+    }
+    ~TextFile() override {
+        slot_.close();
+        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+            SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+        }
+        std::filesystem::remove_all(folder_);
+    }
+
+    std::wstring path(const wchar_t* name) const { return (folder_ / name).wstring(); }
+
+    std::wstring make(const wchar_t* name, std::string_view bytes) const {
+        std::ofstream(folder_ / name, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        return path(name);
+    }
+
+    static std::string bytes_of(const std::wstring& file) {
+        std::ifstream stream(std::filesystem::path(file), std::ios::binary);
+        EXPECT_TRUE(stream.is_open());
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+    std::set<std::wstring> names() const {
+        std::set<std::wstring> found;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_)) found.insert(entry.path().filename());
+        return found;
+    }
+
+    /// The file as another program holds it that lets nobody write.
+    static FileHandle held_by_another(const std::wstring& file) {
+        FileHandle handle(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        EXPECT_TRUE(handle);
+        return handle;
+    }
+
+    std::filesystem::path folder_ =
+        std::filesystem::temp_directory_path() / (L"quillomat text files " + std::to_wstring(GetCurrentProcessId()));
+    TextFileSlot slot_;
+};
+
+/// The two ways of writing, which share their promises.
+using Write = void (TextFileSlot::*)(const std::wstring&, std::wstring_view);
+class TextFileWriting : public TextFile, public testing::WithParamInterface<Write> {
+  protected:
+    std::optional<ErrorCode> write(const std::wstring& file, std::wstring_view text) {
+        return error_of([&] { (slot_.*GetParam())(file, text); });
+    }
+};
+INSTANTIATE_TEST_SUITE_P(BothWays, TextFileWriting, testing::Values(&TextFileSlot::append, &TextFileSlot::replace),
+                         [](const auto& info) { return info.index == 0 ? "Append" : "Replace"; });
+
+TEST_F(TextFile, ReadsTheWholeFile) {
+    const std::string line(100'000, 'x');
+    const std::wstring file = make(L"a.txt", line + "\r\n\0end"s);
+    slot_.open_for_reading(file);
+    EXPECT_TRUE(slot_.is_open());
+    EXPECT_EQ(slot_.read_all().view(), std::wstring(100'000, L'x') + L"\r\n\0end"s);
+    slot_.close();
+    EXPECT_FALSE(slot_.is_open());
+
+    slot_.open_for_reading(make(L"empty.txt", ""));
+    EXPECT_EQ(slot_.read_all().view(), L"");
+}
+
+TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
+    const std::wstring locked = make(L"locked.txt", "x");
+    const FileHandle lock(CreateFileW(locked.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    const struct {
+        std::wstring file;
+        ErrorCode code;
+    } cases[] = {
+        {path(L"none.txt"), ErrorCode::FileNotFound},
+        {path(L"none\\none.txt"), ErrorCode::PathNotFound},
+        {folder_.wstring(), ErrorCode::PermissionDenied},
+        {locked, ErrorCode::PermissionDenied},
+    };
+    for (const auto& [file, code] : cases) {
+        EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), code) << testing::PrintToString(file);
+        EXPECT_FALSE(slot_.is_open());
+    }
+}
+
+TEST_F(TextFile, ReadingKeepsNobodyFromWriting) {
+    const std::wstring file = make(L"a.txt", "old");
+    slot_.open_for_reading(file);
+    TextFileSlot other_program;
+    other_program.append(file, L" and new");
+    EXPECT_EQ(bytes_of(file), "old and new");
+    // Only the one slot is taken, not the file.
+    EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), ErrorCode::FileAlreadyOpen);
+}
+
+TEST_F(TextFile, AFileTooLargeForMemoryIsRefused) {
+    const std::wstring file = make(L"large.txt", "");
+    std::filesystem::resize_file(file, (std::uintmax_t{1} << 32) + 5);
+    slot_.open_for_reading(file);
+    EXPECT_EQ(error_of([&] { slot_.read_all(); }), ErrorCode::OutOfMemory);
+}
+
+TEST_F(TextFile, AppendingPutsNothingInBetween) {
+    const std::wstring file = make(L"a.txt", "no line end");
+    slot_.append(file, L" here\r\n");
+    slot_.append(file, L"");
+    slot_.append(file, L"last\r\n");
+    EXPECT_EQ(bytes_of(file), "no line end here\r\nlast\r\n");
+    EXPECT_FALSE(slot_.is_open());
+}
+
+TEST_F(TextFile, ReplacingForgetsTheOldContent) {
+    const std::wstring file = make(L"a.txt", "a long old content");
+    slot_.replace(file, L"new\r\n");
+    EXPECT_EQ(bytes_of(file), "new\r\n");
+    slot_.replace(file, L"");
+    EXPECT_EQ(bytes_of(file), "");
+    EXPECT_FALSE(slot_.is_open());
+    EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
+}
+
+TEST_F(TextFile, ReplacingSparesOtherFilesInTheFolder) {
+    const std::wstring foreign = make(L"~quillomat1.tmp", "somebody else's");
+    slot_.replace(path(L"a.txt"), L"new");
+    EXPECT_EQ(bytes_of(foreign), "somebody else's");
+    EXPECT_EQ(bytes_of(path(L"a.txt")), "new");
+}
+
+TEST_P(TextFileWriting, MakesTheFileWhenThereIsNone) {
+    EXPECT_EQ(write(path(L"new.txt"), L"text\r\n"), std::nullopt);
+    EXPECT_EQ(bytes_of(path(L"new.txt")), "text\r\n");
+    EXPECT_EQ(write(path(L"none\\new.txt"), L"text"), ErrorCode::PathNotFound);
+    EXPECT_FALSE(slot_.is_open());
+}
+
+TEST_P(TextFileWriting, AFailureChangesNothing) {
+    const std::wstring file = make(L"a.txt", "old\r\n");
+    const auto expect_unchanged = [&] {
+        EXPECT_EQ(bytes_of(file), "old\r\n");
+        EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
+    };
+
+    EXPECT_EQ(write(file, unwritable), ErrorCode::InvalidArgument);
+    EXPECT_EQ(write(path(L"new.txt"), unwritable), ErrorCode::InvalidArgument);
+    expect_unchanged();
+    EXPECT_EQ(write(folder_.wstring(), L"new"), ErrorCode::PermissionDenied);
+    expect_unchanged();
+    {
+        const FileHandle lock = held_by_another(file);
+        EXPECT_EQ(write(file, L"new"), ErrorCode::PermissionDenied);
+        expect_unchanged();
+    }
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(write(file, L"new"), ErrorCode::PermissionDenied);
+    expect_unchanged();
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+    EXPECT_FALSE(slot_.is_open());
+
+    slot_.open_for_reading(file);
+    EXPECT_EQ(write(file, L"new"), ErrorCode::FileAlreadyOpen);
+    EXPECT_EQ(write(path(L"new.txt"), L"new"), ErrorCode::FileAlreadyOpen);
+    EXPECT_TRUE(slot_.is_open());
+    expect_unchanged();
+}
+
+class DatabaseFile : public TextFile {
+  protected:
+    std::optional<ErrorCode> load(const std::wstring& file) {
+        return error_of([&] {
+            load_catalogue(slot_, file, catalogue_, [this](std::wstring_view name) { listed_.emplace_back(name); });
+        });
+    }
+
+    const std::string marker_ = std::string(20, '$');
+    Catalogue catalogue_;
+    std::vector<std::wstring> listed_;
+};
+
+TEST_F(DatabaseFile, LoadsAndClosesTheFile) {
+    EXPECT_EQ(load(make(L"Cheats.dat", "one\r\ntwo\r\n" + marker_ + " First\r\n" + marker_ + " Second\r\n")),
+              std::nullopt);
+    EXPECT_EQ(listed_, (std::vector<std::wstring>{L"First", L"Second"}));
+    EXPECT_EQ(catalogue_.cheats(0), L"one\r\ntwo");
+    EXPECT_FALSE(slot_.is_open());
+}
+
+TEST_F(DatabaseFile, AFailureInTheMiddleKeepsTheSlot) {
+    EXPECT_EQ(load(path(L"Cheats.dat")), ErrorCode::FileNotFound);
+    EXPECT_FALSE(slot_.is_open());
+
+    const std::wstring file = make(L"Cheats.dat", "one\r\n" + marker_ + " First\r\ntwo\r\n" + marker_ + "\r\n");
+    EXPECT_EQ(load(file), ErrorCode::InvalidArgument);
+    EXPECT_EQ(listed_, std::vector<std::wstring>{L"First"});
+    EXPECT_TRUE(slot_.is_open());
+    EXPECT_EQ(load(file), ErrorCode::FileAlreadyOpen);
+}
+
+TEST(ProgramFolder, IsWhereTheProgramIs) {
+    const std::wstring folder = program_folder();
+    EXPECT_NE(folder.back(), L'\\');
+    EXPECT_TRUE(file_exists(folder + L"\\window_tests.exe")) << testing::PrintToString(folder);
+}
+
+}  // namespace
+}  // namespace quillomat
