@@ -1,6 +1,5 @@
 #include "win/text_file.h"
 
-#include <algorithm>
 #include <memory>
 #include <new>
 
@@ -10,7 +9,7 @@
 namespace quillomat {
 namespace {
 
-/// Bytes of the largest file that is read: the system counts what it decodes in an int.
+/// Bytes of the largest file that is read. No text is larger, and reading takes three times as much memory.
 constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
 
 LONGLONG size_of(HANDLE file) {

@@ -42,6 +42,8 @@ WindowTest* WindowTest::running_ = nullptr;
 
 WindowTest::WindowTest() : hook_(SetWindowsHookExW(WH_CBT, on_window_event, nullptr, GetCurrentThreadId())) {
     running_ = this;
+    // No window of a test opens under the pointer of the one before.
+    move_pointer(GetDesktopWindow(), GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2);
 }
 
 WindowTest::~WindowTest() {
@@ -107,6 +109,20 @@ void WindowTest::move_pointer(HWND window, int x, int y) {
     input.mi.dy = MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
     input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     SendInput(1, &input, sizeof input);
+}
+
+bool WindowTest::point_until(HWND window, int x, int y, const std::function<bool()>& condition) {
+    constexpr ULONGLONG patience = 500;
+    ULONGLONG moved = 0;
+    int nudge = 0;
+    return pump_until([&] {
+        if (GetTickCount64() > moved + patience) {
+            move_pointer(window, x + nudge, y);
+            nudge = 1 - nudge;
+            moved = GetTickCount64();
+        }
+        return condition();
+    });
 }
 
 void WindowTest::click(DWORD down, DWORD up) {

@@ -31,6 +31,9 @@ class WindowTest : public ::testing::Test {
     static void press_key(WORD key, std::initializer_list<WORD> held = {});
     /// Moves the pointer to a place of a window, in pixels from its inner left and top.
     static void move_pointer(HWND window, int x, int y);
+    /// Moves the pointer there until the condition holds; false when it does not within ten seconds. The movement is
+    /// made again now and then, because a window that has just opened may miss one.
+    bool point_until(HWND window, int x, int y, const std::function<bool()>& condition);
     /// Presses and releases a mouse button where the pointer is.
     static void click(DWORD down = MOUSEEVENTF_LEFTDOWN, DWORD up = MOUSEEVENTF_LEFTUP);
 

@@ -60,7 +60,9 @@ TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
 
     RECT item{};
     SendMessageW(viewer->List2.window(), LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&item));
-    move_pointer(viewer->List2.window(), 20, (item.top + item.bottom) / 2);
+    const int middle = (item.top + item.bottom) / 2;
+    ASSERT_TRUE(point_until(viewer->List2.window(), 20, middle,
+                            [this] { return viewer->List2.tool_tip().starts_with(L"Amber"); }));
     click();
     ASSERT_TRUE(pump_until([this] { return viewer->Text1.text() == L"MARIO warps"; }));
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
@@ -185,15 +187,14 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
 
 TEST_F(ViewerTest, HoveringNamesTheGameAndSelectsItWhenAsked) {
     open();
-    move_pointer(viewer->List2.window(), 20, 8);
-    EXPECT_TRUE(pump_until([this] { return viewer->List2.tool_tip() == L"Alpha (Game No. 1 of 5 games.)"; }));
-    move_pointer(viewer->List2.window(), 20, 250);
-    EXPECT_TRUE(pump_until([this] { return viewer->List2.tool_tip().starts_with(L" (Game No. "); }))
-        << "below the last game the system's raw answer is the number";
+    EXPECT_TRUE(point_until(viewer->List2.window(), 20, 8,
+                            [this] { return viewer->List2.tool_tip() == L"Alpha (Game No. 1 of 5 games.)"; }));
+    EXPECT_TRUE(point_until(viewer->List2.window(), 20, 250, [this] {
+        return viewer->List2.tool_tip().starts_with(L" (Game No. ");
+    })) << "below the last game the system's raw answer is the number";
     EXPECT_FALSE(viewer->List2.selected_index());
     viewer->menus.mnuAutoSelect.set_checked(true);
-    move_pointer(viewer->List2.window(), 25, 8);
-    EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Alpha"; }));
+    EXPECT_TRUE(point_until(viewer->List2.window(), 25, 8, [this] { return viewer->caption() == L"Alpha"; }));
 }
 
 TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
@@ -235,9 +236,11 @@ TEST_F(ViewerTest, SearchesForAWordOfTheText) {
     EXPECT_TRUE(viewer->Option2.value());
     EXPECT_TRUE(viewer->Option4.value());
     EXPECT_EQ(viewer->Text3.text(), L"warps");
-    POINT pointer{};
-    GetCursorPos(&pointer);
-    EXPECT_EQ(WindowFromPoint(pointer), viewer->Command1.window());
+    EXPECT_TRUE(pump_until([this] {
+        POINT pointer{};
+        GetCursorPos(&pointer);
+        return WindowFromPoint(pointer) == viewer->Command1.window();
+    })) << "the pointer is on the button that starts the search";
     EXPECT_EQ(viewer->default_button(), &viewer->Command1);
 }
 
@@ -297,17 +300,16 @@ TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
 
 TEST_F(ViewerTest, HelpFollowsThePointerFromControlToControl) {
     open();
-    move_pointer(viewer->Option1.window(), 10, 8);
-    EXPECT_TRUE(pump_until([this] { return viewer->Text4.text() == L"Click here to show the list of games"; }));
+    EXPECT_TRUE(point_until(viewer->Option1.window(), 10, 8,
+                            [this] { return viewer->Text4.text() == L"Click here to show the list of games"; }));
     EXPECT_TRUE(viewer->Text4.visible());
     EXPECT_TRUE(viewer->Option1.font().underline);
-    move_pointer(viewer->Option2.window(), 10, 8);
-    EXPECT_TRUE(pump_until([this] { return viewer->Text4.text() == L"Click here to search for a specific game"; }));
+    EXPECT_TRUE(point_until(viewer->Option2.window(), 10, 8,
+                            [this] { return viewer->Text4.text() == L"Click here to search for a specific game"; }));
     EXPECT_TRUE(viewer->Text4.visible());
     EXPECT_FALSE(viewer->Option1.font().underline);
     EXPECT_EQ(viewer->Option1.back_colour(), colours::button_face);
-    move_pointer(viewer->Text1.window(), 50, 50);
-    EXPECT_TRUE(pump_until([this] { return !viewer->Text4.visible(); }));
+    EXPECT_TRUE(point_until(viewer->Text1.window(), 50, 50, [this] { return !viewer->Text4.visible(); }));
 }
 
 }  // namespace
