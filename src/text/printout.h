@@ -1,0 +1,25 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/game_list.h"
+
+namespace quillomat {
+
+/// What is printed of one game: its name, its cheats and where the program comes from.
+std::wstring cheats_printout(std::wstring_view name, std::wstring_view cheats);
+
+inline constexpr std::wstring_view game_list_heading = L"List of Games";
+
+/// What is printed of the list of games below its heading.
+std::wstring game_list_printout(std::span<const std::wstring> names);
+
+/// The lines for all games of a list of `count`: the names and one empty line, as if the list had one entry more.
+std::vector<std::wstring> all_game_names(int count, const ItemText& item_text);
+/// The names of the games with the numbers `first` to `last`, which count from 1 and are in the list.
+std::vector<std::wstring> game_names_in_range(int first, int last, const ItemText& item_text);
+
+}  // namespace quillomat

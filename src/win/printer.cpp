@@ -1,0 +1,213 @@
+#include "win/printer.h"
+
+#include <algorithm>
+
+#include "text/rounding.h"
+#include "win/errors.h"
+
+namespace quillomat {
+namespace {
+
+/// What text is printed in where a printer has no wishes of its own.
+constexpr wchar_t font_name[] = L"Arial";
+constexpr double font_points = 10;
+
+/// Print queues show a few dozen characters, and some drivers take no more than a path's length.
+constexpr std::size_t longest_document_name = 100;
+
+constexpr wchar_t no_printer[] =
+    L"No printer is set up. Install or choose a printer in the Windows settings and try again.";
+
+[[noreturn]] void throw_cancelled() {
+    throw Error(ErrorCode::PrinterError, L"Printing was cancelled.");
+}
+
+[[noreturn]] void throw_print_error(DWORD code) {
+    switch (code) {
+        case ERROR_CANCELLED:
+        case ERROR_PRINT_CANCELLED:
+            throw_cancelled();
+        case ERROR_SUCCESS:
+            throw Error(ErrorCode::PrinterError);
+        default:
+            const Error error = error_from_code(code);
+            throw Error(error.code() == ErrorCode::DeviceError ? ErrorCode::PrinterError : error.code(),
+                        error.description());
+    }
+}
+
+/// Makes a call of the printing system and throws when that answers with one of its error numbers.
+template <class Call>
+void printed(const Call& call) {
+    SetLastError(ERROR_SUCCESS);
+    const int result = call();
+    if (result > 0) return;
+    switch (result) {
+        case SP_APPABORT:
+        case SP_USERABORT:
+            throw_cancelled();
+        case SP_OUTOFDISK:
+            throw Error(ErrorCode::DiskFull);
+        case SP_OUTOFMEMORY:
+            throw Error(ErrorCode::OutOfMemory);
+        default:
+            throw_print_error(GetLastError());
+    }
+}
+
+/// The name of the default printer; empty when there is none.
+std::wstring default_printer_name() {
+    // Loaded when it is needed: with the program, this library and all it looks for would slow down every start.
+    const std::unique_ptr<std::remove_pointer_t<HMODULE>, decltype(&FreeLibrary)> spooler(
+        LoadLibraryExW(L"winspool.drv", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32), &FreeLibrary);
+    if (!spooler) return {};
+    using GetDefaultPrinterFunction = BOOL(WINAPI*)(wchar_t*, DWORD*);
+    const auto get_default_printer = reinterpret_cast<GetDefaultPrinterFunction>(
+        reinterpret_cast<void*>(GetProcAddress(spooler.get(), "GetDefaultPrinterW")));
+    if (!get_default_printer) return {};
+
+    DWORD size = 0;
+    get_default_printer(nullptr, &size);
+    std::wstring name(size, L'\0');
+    if (size == 0 || !get_default_printer(name.data(), &size)) return {};
+    name.resize(name.find(L'\0'));
+    return name;
+}
+
+}  // namespace
+
+DefaultPrinter::DefaultPrinter() {
+    const std::wstring name = default_printer_name();
+    if (name.empty()) throw Error(ErrorCode::PrinterError, no_printer);
+    canvas_ = CreateDCW(L"WINSPOOL", name.c_str(), nullptr, nullptr);
+    if (!canvas_) {
+        throw Error(
+            ErrorCode::PrinterError,
+            L"The printer \"" + name + L"\" cannot be used. Check it in the Windows settings and try again.");
+    }
+}
+
+DefaultPrinter::~DefaultPrinter() {
+    DeleteDC(canvas_);
+}
+
+void DefaultPrinter::start_document(const std::wstring& name) {
+    DOCINFOW document{};
+    document.cbSize = sizeof document;
+    document.lpszDocName = name.c_str();
+    printed([&] { return StartDocW(canvas_, &document); });
+}
+
+HDC DefaultPrinter::start_page() {
+    printed([this] { return StartPage(canvas_); });
+    return canvas_;
+}
+
+void DefaultPrinter::end_page() {
+    printed([this] { return EndPage(canvas_); });
+}
+
+void DefaultPrinter::end_document() {
+    printed([this] { return EndDoc(canvas_); });
+}
+
+void DefaultPrinter::abort_document() noexcept {
+    AbortDoc(canvas_);
+}
+
+PrintJob::PrintJob(PrintDevice& device, const std::wstring& document_name) : device_(device) {
+    device_.start_document(document_name.substr(0, longest_document_name));
+    try {
+        start_page();
+    } catch (...) {
+        // The destructor does not run for a job that was never complete.
+        abort();
+        throw;
+    }
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(canvas_, &metrics);
+    flow_ = LineFlow(GetDeviceCaps(canvas_, VERTRES), metrics.tmHeight + metrics.tmExternalLeading);
+}
+
+PrintJob::~PrintJob() {
+    if (!ended_) abort();
+}
+
+void PrintJob::set_position(double left, double top) {
+    left_ = dots_across(left);
+    flow_.set_top(dots_down(top));
+}
+
+void PrintJob::print(std::wstring_view text) {
+    for (const std::wstring& line : printed_lines(text, [this](std::wstring_view part) { return fitting_length(part); }))
+        print_line(line);
+}
+
+void PrintJob::draw_line(double left, double top, double right, double bottom) {
+    const HPEN pen = CreatePen(PS_SOLID, line_width_, RGB(0, 0, 0));
+    const HGDIOBJ former = SelectObject(canvas_, pen);
+    const bool drawn = MoveToEx(canvas_, dots_across(left), dots_down(top), nullptr) &&
+                       LineTo(canvas_, dots_across(right), dots_down(bottom));
+    SelectObject(canvas_, former);
+    DeleteObject(pen);
+    if (!drawn) throw Error(ErrorCode::PrinterError);
+}
+
+void PrintJob::end() {
+    end_page();
+    device_.end_document();
+    ended_ = true;
+}
+
+void PrintJob::start_page() {
+    canvas_ = device_.start_page();
+    if (!font_) {
+        LOGFONTW description{};
+        description.lfHeight = -round_half_even(font_points * GetDeviceCaps(canvas_, LOGPIXELSY) / 72);
+        description.lfCharSet = DEFAULT_CHARSET;
+        std::copy(std::begin(font_name), std::end(font_name), description.lfFaceName);
+        font_.reset(CreateFontIndirectW(&description));
+    }
+    former_font_ = SelectObject(canvas_, font_.get());
+    // Text must not wipe out the rules it comes close to.
+    SetBkMode(canvas_, TRANSPARENT);
+}
+
+void PrintJob::end_page() {
+    SelectObject(std::exchange(canvas_, nullptr), former_font_);
+    device_.end_page();
+}
+
+void PrintJob::print_line(const std::wstring& line) {
+    const LineFlow::Place place = flow_.next();
+    if (place.page == LineFlow::Page::Next) {
+        end_page();
+        start_page();
+    }
+    if (!ExtTextOutW(canvas_, left_, place.top, 0, nullptr, line.c_str(), static_cast<UINT>(line.size()), nullptr))
+        throw Error(ErrorCode::PrinterError);
+}
+
+std::size_t PrintJob::fitting_length(std::wstring_view text) const {
+    const int width = std::max(GetDeviceCaps(canvas_, HORZRES) - left_, 0);
+    int fitting = 0;
+    SIZE size{};
+    if (!GetTextExtentExPointW(canvas_, text.data(), static_cast<int>(text.size()), width, &fitting, nullptr, &size))
+        throw Error(ErrorCode::PrinterError);
+    return static_cast<std::size_t>(fitting);
+}
+
+int PrintJob::dots_across(double twips) const {
+    return round_half_even(twips * GetDeviceCaps(canvas_, LOGPIXELSX) / twips_per_inch);
+}
+
+int PrintJob::dots_down(double twips) const {
+    return round_half_even(twips * GetDeviceCaps(canvas_, LOGPIXELSY) / twips_per_inch);
+}
+
+void PrintJob::abort() noexcept {
+    if (canvas_) SelectObject(canvas_, former_font_);
+    device_.abort_document();
+}
+
+}  // namespace quillomat

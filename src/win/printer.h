@@ -1,0 +1,99 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "text/print_page.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+/// What prints a document page by page. A document that was started is either ended or aborted.
+class PrintDevice {
+  public:
+    virtual ~PrintDevice() = default;
+
+    /// Begins a document that the print queue shows under a name. Throws `Error`, as the others do.
+    virtual void start_document(const std::wstring& name) = 0;
+    /// Begins a page; what is drawn on the canvas until its end is printed. The canvas is the device's.
+    virtual HDC start_page() = 0;
+    virtual void end_page() = 0;
+    /// Hands the document to the printer.
+    virtual void end_document() = 0;
+    /// Takes the document back; nothing more of it is printed.
+    virtual void abort_document() noexcept = 0;
+};
+
+/// The printer that the user has chosen as the default one.
+class DefaultPrinter final : public PrintDevice {
+  public:
+    /// Throws `Error` with PrinterError when there is none or it can't be used.
+    DefaultPrinter();
+    ~DefaultPrinter() override;
+    DefaultPrinter(const DefaultPrinter&) = delete;
+    DefaultPrinter& operator=(const DefaultPrinter&) = delete;
+
+    /// Throws `Error`: PrinterError, also when the user thinks better of it, DiskFull or OutOfMemory.
+    void start_document(const std::wstring& name) override;
+    HDC start_page() override;
+    void end_page() override;
+    void end_document() override;
+    void abort_document() noexcept override;
+
+  private:
+    HDC canvas_;
+};
+
+/// A document while it is printed: a page in twips, on which text goes from a print position downward and on to as many
+/// pages as it needs. Positions count from the corner of the printable area, so that nothing is cut off.
+///
+/// Every operation throws `Error` with PrinterError (or what the device throws) when the printer refuses. A job that is
+/// destroyed before its `end` prints nothing.
+class PrintJob {
+  public:
+    /// Starts a document on a device, which must outlive the job.
+    PrintJob(PrintDevice& device, const std::wstring& document_name);
+    ~PrintJob();
+    PrintJob(const PrintJob&) = delete;
+    PrintJob& operator=(const PrintJob&) = delete;
+
+    /// Where the next line of text begins, in twips. Lines on further pages begin at the same place.
+    void set_position(double left, double top);
+    /// Prints a text from the print position on, every line of its own, and moves the position below it. What is too
+    /// wide for the page goes on in further lines.
+    void print(std::wstring_view text);
+
+    /// In the printer's dots.
+    void set_line_width(int dots) { line_width_ = dots; }
+    /// Draws a line on the current page, in twips; the print position stays.
+    void draw_line(double left, double top, double right, double bottom);
+
+    /// Hands the document to the printer.
+    void end();
+
+  private:
+    struct FontDeleter {
+        using pointer = HFONT;
+        void operator()(HFONT font) const { DeleteObject(font); }
+    };
+
+    void start_page();
+    void end_page();
+    void print_line(const std::wstring& line);
+    std::size_t fitting_length(std::wstring_view text) const;
+    int dots_across(double twips) const;
+    int dots_down(double twips) const;
+    void abort() noexcept;
+
+    PrintDevice& device_;
+    HDC canvas_ = nullptr;  ///< null outside of a page
+    HGDIOBJ former_font_ = nullptr;
+    std::unique_ptr<HFONT, FontDeleter> font_;
+    LineFlow flow_{0, 0};
+    int left_ = 0;
+    int line_width_ = 1;
+    bool ended_ = false;
+};
+
+}  // namespace quillomat
