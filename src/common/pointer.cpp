@@ -1,6 +1,7 @@
 #include "common/pointer.h"
 
 #include "text/pointer_arithmetic.h"
+#include "text/twips.h"
 
 namespace quillomat {
 
@@ -13,7 +14,6 @@ void GetScreenSize(int& width, int& height, ScreenUnit unit) {
     width = GetSystemMetrics(SM_CXSCREEN);
     height = GetSystemMetrics(SM_CYSCREEN);
     if (unit == ScreenUnit::Twips) {
-        constexpr int twips_per_inch = 1440;
         const int dots_per_inch = static_cast<int>(GetDpiForSystem());
         width = MulDiv(width, twips_per_inch, dots_per_inch);
         height = MulDiv(height, twips_per_inch, dots_per_inch);

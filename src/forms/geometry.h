@@ -2,10 +2,9 @@
 
 #include <cmath>
 
-namespace quillomat {
+#include "text/twips.h"
 
-/// Twips are 1/1440 inch: 15 to a pixel at 96 dots per inch.
-inline constexpr double twips_per_inch = 1440.0;
+namespace quillomat {
 
 /// Where an item stands in its container, or a size with left and top of 0, in twips.
 struct Bounds {
@@ -22,7 +21,7 @@ inline int to_pixels(double twips, int dpi) {
 
 /// Pixels at `dpi` to twips.
 inline double to_twips(int pixels, int dpi) {
-    return pixels * twips_per_inch / dpi;
+    return static_cast<double>(pixels) * twips_per_inch / dpi;
 }
 
 }  // namespace quillomat

@@ -1,8 +1,10 @@
 #include "win/printer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/rounding.h"
+#include "text/twips.h"
 #include "win/errors.h"
 
 namespace quillomat {
@@ -81,9 +83,8 @@ DefaultPrinter::DefaultPrinter() {
     if (name.empty()) throw Error(ErrorCode::PrinterError, no_printer);
     canvas_ = CreateDCW(L"WINSPOOL", name.c_str(), nullptr, nullptr);
     if (!canvas_) {
-        throw Error(
-            ErrorCode::PrinterError,
-            L"The printer \"" + name + L"\" cannot be used. Check it in the Windows settings and try again.");
+        throw Error(ErrorCode::PrinterError,
+                    L"The printer \"" + name + L"\" cannot be used. Check it in the Windows settings and try again.");
     }
 }
 
@@ -139,7 +140,8 @@ void PrintJob::set_position(double left, double top) {
 }
 
 void PrintJob::print(std::wstring_view text) {
-    for (const std::wstring& line : printed_lines(text, [this](std::wstring_view part) { return fitting_length(part); }))
+    for (const std::wstring& line :
+         printed_lines(text, [this](std::wstring_view part) { return fitting_length(part); }))
         print_line(line);
 }
 
