@@ -1,0 +1,61 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "win/api.h"
+
+namespace quillomat {
+
+/// The program in a folder of its own, looked at and driven from outside. Whatever a test leaves running is ended.
+class Program {
+  public:
+    /// The executable that is copied into the folder before each start.
+    static std::filesystem::path executable;
+
+    Program();
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    const std::filesystem::path& folder() const { return folder_; }
+    std::filesystem::path database() const { return folder_ / L"Cheats.dat"; }
+    void write_database(std::string_view bytes) const;
+    std::string read_database() const;
+
+    /// Starts the program from another folder than its own.
+    void start();
+    bool running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+    /// Waits for the end and returns the exit code; 259 when it does not come.
+    DWORD exit_code() const;
+
+    /// The visible window of a class; null when there is none.
+    HWND find(const wchar_t* window_class) const;
+    /// Goes on from window to window, as with the keyboard, until the viewer is there or a message box. False when
+    /// neither comes.
+    bool reach_viewer();
+    HWND viewer() const { return find(L"frmCtlView"); }
+
+    /// The text of the open message box, behind its title and a colon; empty when there is none.
+    std::wstring message() const;
+    /// Answers it, and waits until it has gone.
+    bool dismiss_message() const;
+
+    static bool wait_until(const std::function<bool()>& condition);
+
+  private:
+    std::filesystem::path folder_;
+    PROCESS_INFORMATION process_{};
+};
+
+/// What another program sees of a window.
+std::wstring text_of(HWND window);
+/// The games in the list of a viewer.
+std::vector<std::wstring> games_of(HWND viewer);
+/// Selects a game as a click does and returns the cheats that are shown then.
+std::wstring cheats_of(HWND viewer, int game);
+
+}  // namespace quillomat
