@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "forms/form.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
 
@@ -10,10 +11,10 @@ namespace {
 
 constexpr Colour lit{0xFF8080};
 
-// While the pointer moves, the timer ticks as fast as it can; once it has rested for a while, often enough that nobody
-// sees a delay and so rarely that nobody feels the cost.
+// While the pointer moves, the timer ticks as fast as it can. Once it has rested for a while, the timer only looks out
+// for windows that come and go under it, so rarely that nobody feels the cost; the next movement wakes it.
 constexpr int awake_milliseconds = 1;
-constexpr int asleep_milliseconds = 50;
+constexpr int asleep_milliseconds = 200;
 constexpr int ticks_until_asleep = 20;
 
 }  // namespace
@@ -31,6 +32,11 @@ void HideTip(Control& control, TextBox& help_box) {
     control.set_back_colour(colours::button_face);
     control.set_underlined(false);
     help_box.set_visible(false);
+}
+
+HoverHelp::HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)
+    : pointer_(pointer), help_box_(help_box), timer_(timer) {
+    help_box_.form().on_pointer_moved = [this] { wake(); };
 }
 
 void HoverHelp::add(Control& control, std::wstring text) {
@@ -61,6 +67,11 @@ void HoverHelp::pace() {
     last_position_ = position;
     still_ticks_ = moved ? 0 : still_ticks_ + 1;
     timer_.set_interval(still_ticks_ < ticks_until_asleep ? awake_milliseconds : asleep_milliseconds);
+}
+
+void HoverHelp::wake() {
+    still_ticks_ = 0;
+    timer_.set_interval(awake_milliseconds);
 }
 
 }  // namespace quillomat

@@ -21,8 +21,10 @@ void HideTip(Control& control, TextBox& help_box);
 /// calls `tick`; where the help box stands is the window's business.
 class HoverHelp {
   public:
-    HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)
-        : pointer_(pointer), help_box_(help_box), timer_(timer) {}
+    /// Takes over the pointer movements of the help box's form.
+    HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer);
+    HoverHelp(const HoverHelp&) = delete;
+    HoverHelp& operator=(const HoverHelp&) = delete;
 
     void add(Control& control, std::wstring text);
     /// Compares the pointer with the controls and shows or hides.
@@ -36,6 +38,7 @@ class HoverHelp {
     };
 
     void pace();
+    void wake();
 
     PointerState& pointer_;
     TextBox& help_box_;

@@ -34,6 +34,7 @@ bool Form::translate(MSG& message) {
     if (closed_) return false;
     bool handled = false;
     guarded([&] {
+        if (message.message == WM_MOUSEMOVE) raise(on_pointer_moved);
         Control* control = is_key_down(message.message) ? Control::from(message.hwnd) : nullptr;
         if (control) handled = control->preview_key(message);
         if (message.hwnd == window_ && is_key_down(message.message)) {
