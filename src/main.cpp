@@ -9,6 +9,6 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
     Session session;
     session.program_folder = program_folder();
     Windows windows(application, session);
-    windows.open_viewer();
+    windows.open_splash();
     return application.run();
 }

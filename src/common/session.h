@@ -25,6 +25,7 @@ struct ViewerState {
 struct Session {
     std::wstring program_folder;  ///< without a separator at its end
     Settings settings;
+    std::int16_t StartUpTimes = 0;  ///< runs of the program by this user, this one included
     TextFileSlot text_file;
     Catalogue catalogue;
     SearchTexts search_texts{catalogue, upper_case};

@@ -41,6 +41,22 @@ void Application::let_pending_events_run() {
     }
 }
 
+void Application::close_all_forms() {
+    std::vector<HWND> windows;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM list) -> BOOL {
+            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    // The system lists them from front to back. What closes may take others with it.
+    for (const HWND window : windows) {
+        Form* form = IsWindow(window) ? Form::from(window) : nullptr;
+        if (form) form->close();
+    }
+}
+
 void Application::quit() {
     PostQuitMessage(0);
 }

@@ -32,6 +32,8 @@ class Application {
     void run_until(const std::function<bool()>& finished);
     /// Handles the messages that wait now, so that a long task stays responsive.
     void let_pending_events_run();
+    /// Closes every form that is open, dialogs before the windows below them.
+    void close_all_forms();
     /// Ends the outermost `run`.
     void quit();
 

@@ -25,6 +25,8 @@ BorderStyle style_of(FormBorder border) {
     switch (border) {
         case FormBorder::Sizable:
             return {WS_OVERLAPPEDWINDOW, WS_EX_CONTROLPARENT};
+        case FormBorder::Fixed:
+            return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, WS_EX_CONTROLPARENT};
         case FormBorder::Dialog:
             return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME};
         case FormBorder::None:
@@ -263,6 +265,10 @@ void Form::drag() {
 
 void Form::bring_to_foreground() {
     SetForegroundWindow(window_);
+}
+
+void Form::refresh() {
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 int Form::add_command(Menu& menu) {

@@ -20,7 +20,7 @@ class Timer;
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 
 /// What frames a form and whether the user can change its size.
-enum class FormBorder { Sizable, Dialog, None };
+enum class FormBorder { Sizable, Fixed, Dialog, None };
 
 /// The shape of the pointer over a form.
 enum class PointerShape { Default, Hourglass };
@@ -87,6 +87,8 @@ class Form : public Container, public MouseEvents {
     /// Inner size in twips.
     double inner_width() const;
     double inner_height() const;
+    /// Makes room for this much inside of the border, title bar and menu bar.
+    void set_inner_size(double width, double height);
     /// Puts the window in the middle of the screen's free area.
     void centre_on_screen();
 
@@ -97,6 +99,8 @@ class Form : public Container, public MouseEvents {
     /// Lets the user drag the window by its surface, as if by its title bar.
     void drag();
     void bring_to_foreground();
+    /// Paints the window and all that stands on it now instead of when the program is idle.
+    void refresh();
 
     /// The buttons that Enter and Escape press; null for none.
     void set_default_button(Button* button);

@@ -11,6 +11,8 @@
 namespace quillomat {
 namespace {
 
+constexpr LPARAM was_down_before = 1 << 30;
+
 bool is_key_down(UINT message) {
     return message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
 }
@@ -65,6 +67,8 @@ bool Form::handle_dialog_key(const MSG& message) {
             Button* button = dynamic_cast<Button*>(Control::from(message.hwnd));
             if (!button) button = default_button_;
             if (!button) return false;
+            // A key held down presses one button, not also those of the windows that open meanwhile.
+            if (message.lParam & was_down_before) return true;
             if (button->enabled() && IsWindowVisible(button->window())) button->click();
             return true;
         }

@@ -70,6 +70,15 @@ double Form::inner_height() const {
     return to_twips(client.bottom, dpi_);
 }
 
+void Form::set_inner_size(double width, double height) {
+    const RECT area = outer();
+    RECT client{};
+    GetClientRect(window_, &client);
+    SetWindowPos(window_, nullptr, 0, 0, area.right - area.left - client.right + to_pixels(width, dpi_),
+                 area.bottom - area.top - client.bottom + to_pixels(height, dpi_),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void Form::centre_on_screen() {
     const RECT screen = free_area(window_);
     const RECT area = outer();

@@ -35,6 +35,12 @@ void Graphic::apply_bounds() {
     if (visible()) invalidate();
     pixels_ = place_now;
     if (visible()) invalidate();
+    if (!tool_tip_.empty()) form().tool_tips().set(container().window(), this, pixels_, tool_tip_);
+}
+
+void Graphic::set_tool_tip(std::wstring text) {
+    tool_tip_ = std::move(text);
+    form().tool_tips().set(container().window(), this, pixels_, tool_tip_);
 }
 
 void Graphic::apply_visible() {
@@ -85,6 +91,12 @@ void Label::set_fore_colour(Colour colour) {
 void Label::set_font(FontSpec font) {
     font_ = std::move(font);
     invalidate();
+}
+
+void Label::fit_to_caption() {
+    const SIZE size = text_extent(form().application().fonts().get(font_, dpi()), caption_);
+    set_width(to_twips(size.cx, dpi()));
+    set_height(to_twips(size.cy, dpi()));
 }
 
 void Label::draw(HDC canvas) const {

@@ -17,6 +17,10 @@ class Graphic : public Item {
     void bring_to_front() override;
     void refresh() override;
 
+    /// The one-line text shown while the pointer rests on the item; an empty one shows none.
+    const std::wstring& tool_tip() const { return tool_tip_; }
+    void set_tool_tip(std::wstring text);
+
     /// Draws the item; its place is `pixels()`. For the container.
     virtual void draw(HDC canvas) const = 0;
     /// Whether the mouse meets the item or what lies behind it.
@@ -37,6 +41,7 @@ class Graphic : public Item {
 
   private:
     RECT pixels_{};
+    std::wstring tool_tip_;
 };
 
 enum class Alignment { Left, Centre, Right };
@@ -56,6 +61,8 @@ class Label : public Graphic {
     Colour fore_colour() const { return fore_colour_; }
     void set_fore_colour(Colour colour);
     void set_font(FontSpec font);
+    /// Makes the label as large as its caption.
+    void fit_to_caption();
 
     void draw(HDC canvas) const override;
 

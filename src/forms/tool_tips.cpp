@@ -15,19 +15,36 @@ void ToolTips::create() {
 }
 
 void ToolTips::set(HWND control, const std::wstring& text) {
-    if (!window_) create();
     TTTOOLINFOW tool{};
-    tool.cbSize = sizeof tool;
     tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
     tool.hwnd = form_;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
+    put(tool, text);
+}
+
+void ToolTips::set(HWND window, const void* owner, const RECT& area, const std::wstring& text) {
+    TTTOOLINFOW tool{};
+    tool.uFlags = TTF_SUBCLASS;
+    tool.hwnd = window;
+    tool.uId = reinterpret_cast<UINT_PTR>(owner);
+    tool.rect = area;
+    put(tool, text);
+}
+
+void ToolTips::put(TTTOOLINFOW& tool, const std::wstring& text) {
+    if (!window_) create();
+    tool.cbSize = sizeof tool;
+    TTTOOLINFOW known = tool;
     // Asked with a text, the system would write its own into it.
-    const bool known = SendMessageW(window_, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0;
+    const bool is_known = SendMessageW(window_, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&known)) != 0;
     tool.lpszText = const_cast<wchar_t*>(text.c_str());
     if (text.empty()) {
         SendMessageW(window_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    } else if (is_known) {
+        SendMessageW(window_, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
+        SendMessageW(window_, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
     } else {
-        SendMessageW(window_, known ? TTM_UPDATETIPTEXTW : TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+        SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
 }
 

@@ -13,9 +13,12 @@ class ToolTips {
 
     /// Sets the text shown while the pointer rests on `control`; an empty one shows none.
     void set(HWND control, const std::wstring& text);
+    /// The same for an area of `window`, in pixels. `owner` tells the areas apart.
+    void set(HWND window, const void* owner, const RECT& area, const std::wstring& text);
 
   private:
     void create();
+    void put(TTTOOLINFOW& tool, const std::wstring& text);
 
     HWND form_;
     HWND window_ = nullptr;  // owned by the form's window and destroyed with it

@@ -13,3 +13,5 @@
 // The author dialog's spinning coin, and the three pictures that take turns as its icon.
 #define PICTURE_COIN 42
 #define PICTURE_QUILL_FIRST 43
+// The background of the splash; its bitmaps are numbered from here by their dots per inch.
+#define PICTURE_SPLASH 100

@@ -2,18 +2,28 @@
 
 #include <utility>
 
+#include "common/desktop.h"
 #include "forms/application.h"
+#include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+#include "shell/frmWait.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {
 
-Windows::Windows(Application& application, Session& session) : application_(application), session_(session) {}
+Windows::Windows(Application& application, Session& session) : application_(application), session_(session) {
+    main_windows_.cheats = [this] { open_loading_window(); };
+    main_windows_.link = [this](const std::wstring& address) { OpenLink(*main_screen_, address); };
+    main_windows_.close_all = [this] { application_.close_all_forms(); };
+    viewer_windows_.restore_main_screen = [this] { restore_main_screen(); };
+}
 
 Windows::~Windows() = default;
 
 template <class Window, class... Arguments>
 void Windows::open(std::unique_ptr<Window>& place, Arguments&&... arguments) {
     if (place) {
+        if (place->window_state() == WindowState::Minimised) place->set_window_state(WindowState::Normal);
         place->bring_to_foreground();
         return;
     }
@@ -25,12 +35,30 @@ void Windows::open(std::unique_ptr<Window>& place, Arguments&&... arguments) {
     place->show();
 }
 
+void Windows::open_splash() {
+    open(splash_, [this] { open_main_screen(); });
+}
+
+void Windows::open_main_screen() {
+    open(main_screen_, session_, main_windows_);
+}
+
+void Windows::open_loading_window() {
+    open(loading_window_, [this] { open_viewer(); });
+}
+
 void Windows::open_viewer() {
     open(viewer_, session_, viewer_windows_);
 }
 
+void Windows::restore_main_screen() {
+    if (main_screen_ && main_screen_->window_state() == WindowState::Minimised) {
+        main_screen_->set_window_state(WindowState::Normal);
+    }
+}
+
 void Windows::quit_after_last() {
-    if (!viewer_) application_.quit();
+    if (!splash_ && !main_screen_ && !loading_window_ && !viewer_) application_.quit();
 }
 
 }  // namespace quillomat

@@ -3,12 +3,16 @@
 #include <memory>
 
 #include "common/session.h"
+#include "shell/main_windows.h"
 #include "viewer/viewer_windows.h"
 
 namespace quillomat {
 
 class Application;
 class frmCtlView;
+class frmMain;
+class frmSplash;
+class frmWait;
 
 /// The one place that knows every window of the program: it opens them, owns those that stay open beside others, and
 /// ends the program with the last one.
@@ -19,17 +23,26 @@ class Windows {
     Windows(const Windows&) = delete;
     Windows& operator=(const Windows&) = delete;
 
-    /// Opens the cheat viewer, or brings the open one to the front.
+    // Each opens its window, or brings the open one to the front.
+    void open_splash();
+    void open_main_screen();
+    /// The loading window, which opens the viewer.
+    void open_loading_window();
     void open_viewer();
 
   private:
     template <class Window, class... Arguments>
     void open(std::unique_ptr<Window>& place, Arguments&&... arguments);
+    void restore_main_screen();
     void quit_after_last();
 
     Application& application_;
     Session& session_;
+    MainWindows main_windows_;
     ViewerWindows viewer_windows_;
+    std::unique_ptr<frmSplash> splash_;
+    std::unique_ptr<frmMain> main_screen_;
+    std::unique_ptr<frmWait> loading_window_;
     std::unique_ptr<frmCtlView> viewer_;
 };
 

@@ -19,10 +19,8 @@ constexpr std::array<ColourValue, 11> cycle_colours = {0xFFC0C0, 0xFF8080, 0xFF0
                                                        0x800080, 0xC000C0, 0xFF00FF, 0xFF80FF, 0xFFC0FF};
 
 constexpr double exit_width_asking = 2500;
-constexpr double exit_width_resting = 5415;
 constexpr double exit_width_step = 400;
 constexpr double answer_top_asking = 3614.896;
-constexpr double answer_top_resting = 4588.138;
 constexpr double answer_top_step = 100;
 
 }  // namespace

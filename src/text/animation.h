@@ -45,6 +45,10 @@ struct ExitConfirmation {
     bool operator==(const ExitConfirmation&) const = default;
 };
 
+/// Where the buttons stand while nothing is asked.
+inline constexpr double exit_width_resting = 5415;
+inline constexpr double answer_top_resting = 4588.138;
+
 /// The next tick from where the buttons are, as read back from the window.
 ExitConfirmation next_asking(const ExitConfirmation& current);
 ExitConfirmation next_withdrawing(const ExitConfirmation& current);

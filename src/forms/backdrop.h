@@ -1,0 +1,24 @@
+#pragma once
+
+#include "forms/gdi.h"
+#include "forms/graphics.h"
+
+namespace quillomat {
+
+/// A painted picture of many colours that fills its bounds: a bitmap among the program's resources, drawn for 96, 120,
+/// 144 and 192 dots per inch, each under the number `resource` plus its resolution. The mouse meets what lies behind
+/// it.
+class Backdrop : public Graphic {
+  public:
+    Backdrop(Container& container, int resource, Bounds bounds);
+
+    void draw(HDC canvas) const override;
+    bool takes_mouse() const override { return false; }
+    void resolution_changed() override;
+
+  private:
+    int resource_;
+    mutable GdiObject<HBITMAP> bitmap_;  // loaded when it is first drawn
+};
+
+}  // namespace quillomat

@@ -1,0 +1,235 @@
+#include "shell/frmMain.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "text/numbers.h"
+#include "text/product.h"
+
+namespace quillomat {
+namespace {
+
+constexpr Colour band_colour = rgb(36, 21, 90);
+constexpr Colour subtitle_colour = rgb(189, 180, 247);
+constexpr Colour stripe_colour = rgb(47, 167, 160);
+
+// Where on a button the help box stops standing above the pointer and stands to the left of it, and how far above.
+constexpr double help_box_turn = 1290;
+constexpr double help_box_rise = 500;
+
+}  // namespace
+
+frmMain::frmMain(Application& application, Session& session, const MainWindows& windows)
+    : Form(application, {.name = L"frmMain",
+                         .caption = product::title,
+                         .width = design_width,
+                         .height = design_height,
+                         .border = FormBorder::Fixed}),
+      session_(session),
+      windows_(windows) {
+    dress();
+    bind();
+    bind_exit();
+    bind_hover_help();
+}
+
+void frmMain::dress() {
+    Frame1.set_back_colour(band_colour);
+    Name.set_font({.name = L"Comic Sans MS", .points = 22});
+    Name.set_fore_colour(colours::white);
+    Subtitle.set_fore_colour(subtitle_colour);
+    Image1.set_tool_tip(L"Double click here to mail me now!");
+    Command7.set_back_style(BackStyle::Opaque);
+    Command7.set_back_colour(stripe_colour);
+    Command9.set_back_style(BackStyle::Opaque);
+    Command9.set_back_colour(colours::grey_text);
+    Command4.set_font({.points = 12, .bold = true});
+    for (Button* button : {&Command6, &Command8, &Command5, &Command3, &Command1, &Command2}) {
+        button->set_font({.points = 10});
+    }
+    hide_answers();
+}
+
+void frmMain::bind() {
+    on_load = [this] { Form_Load(); };
+    on_unload = [this] { raise(windows_.close_all); };
+    for (MouseEvents* surface : {static_cast<MouseEvents*>(this), static_cast<MouseEvents*>(&Picture1),
+                                 static_cast<MouseEvents*>(&Name), static_cast<MouseEvents*>(&Subtitle),
+                                 static_cast<MouseEvents*>(&Command7), static_cast<MouseEvents*>(&Command9)}) {
+        surface->on_mouse_down = [this](const MouseEvent& event) {
+            if (event.button == MouseButton::Left) drag();
+        };
+    }
+    Image1.on_double_click = [this] { raise(windows_.mail_author); };
+
+    Command4.on_click = [this] { raise(windows_.cheats); };
+    Command6.on_click = [this] { raise(windows_.about); };
+    Command8.on_click = [this] { raise(windows_.about_author); };
+    const auto open_site = [this](const wchar_t* path) {
+        return [this, path] { raise(windows_.link, std::wstring(L"http://") + product::web_site + path); };
+    };
+    Command5.on_click = open_site(L"");
+
+    menus.mnuFileCheat.on_click = Command4.on_click;
+    menus.mnuMailMe.on_click = [this] { raise(windows_.mail_author); };
+    menus.mnuLinksSite.on_click = Command5.on_click;
+    menus.mnuLinksSign.on_click = open_site(product::guestbook_path);
+    menus.mnuLinksNews.on_click = [this] { raise(windows_.link, product::mailing_list_page); };
+    menus.mnuLinksMail.on_click = [this] { raise(windows_.link, std::wstring(L"mailto:") + product::mail_address); };
+    menus.mnuHelpAbout.on_click = Command6.on_click;
+}
+
+void frmMain::bind_exit() {
+    Command3.on_click = [this] { Command3_Click(); };
+    menus.mnuFileExit.on_click = [this] { Command3_Click(); };
+    Command1.on_click = [this] { close(); };
+    Command2.on_click = [this] { Command2_Click(); };
+    for (Button* answer : {&Command1, &Command2}) {
+        answer->on_key_down = [this](KeyEvent& event) {
+            if (event.key != keys::escape) return;
+            event.handled = true;
+            Command2_Click();
+        };
+    }
+    Timer1.on_timer = [this] {
+        set_caption(product::title);
+        Timer1.set_enabled(false);
+    };
+    Timer2.on_timer = [this] { Timer2_Timer(); };
+    Timer3.on_timer = [this] { Timer3_Timer(); };
+    Timer4.on_timer = [this] { Command3.set_back_colour(colours::button_face); };
+    // It goes on for as long as the window lives: the colour of the exit button is reset once, at the beginning.
+    Timer5.on_timer = [this] { Timer4.set_enabled(false); };
+}
+
+void frmMain::bind_hover_help() {
+    hover_help_.add(Command1, L"Click here to confirm your departure from Quillomat");
+    hover_help_.add(Command2, L"Click here to stay in Quillomat (Yahoo!)");
+    hover_help_.add(Command3, L"Click here to exit Quillomat");
+    hover_help_.add(Command4, L"Click here to get a detailed list of the games and their cheat codes!");
+    hover_help_.add(Command5, L"Click here to visit my (cool) website - Tob F's home Page");
+    hover_help_.add(Command6, L"Click here to see some information about Quillomat");
+    hover_help_.add(Command8, L"Click here to see some information about me :-)");
+    for (Button* button : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command6, &Command8}) {
+        button->on_mouse_move = [this, button](const MouseEvent& event) { place_help_box(*button, event); };
+    }
+    // The help box never keeps the focus.
+    Text1.on_got_focus = [this] {
+        Text1.set_visible(false);
+        Command4.set_focus();
+    };
+    Timer6.on_timer = [this] { Timer6_Timer(); };
+    Timer7.on_timer = [this] { Timer7_Timer(); };
+}
+
+void frmMain::place_help_box(const Control& control, const MouseEvent& event) {
+    // The box has its text and with that its width before it is placed.
+    Timer7_Timer();
+    const double to_the_left = event.x >= help_box_turn ? Text1.width() : Text1.width() / 2;
+    const double left = control.left() + event.x - to_the_left;
+    const double top = control.top() + event.y - help_box_rise;
+    Text1.move({std::clamp(left, 0.0, std::max(0.0, inner_width() - Text1.width())), std::max(top, 0.0), Text1.width(),
+                Text1.height()});
+}
+
+void frmMain::Form_Load() {
+    set_inner_size(design_width, design_height);
+    centre_on_screen();
+    int screen_width = 0;
+    int screen_height = 0;
+    GetScreenSize(screen_width, screen_height, ScreenUnit::Twips);
+    Frame1.set_width(screen_width);
+    Frame1.set_left(0);
+    count_run();
+    session_.settings.write(settings::Directory, session_.program_folder);
+    CenterMouseOn(Command4.window());
+}
+
+void frmMain::count_run() {
+    // The highest count stays: nobody is kept from the program by its being popular.
+    const std::int16_t count = session_.settings.read(settings::Counter);
+    session_.StartUpTimes = count == std::numeric_limits<std::int16_t>::max() ? count : checked_add_16(count, 1);
+    session_.settings.write(settings::Counter, session_.StartUpTimes);
+}
+
+void frmMain::Command3_Click() {
+    // What is left of an answer from before must not work against the question.
+    Timer1.set_enabled(false);
+    Timer3.set_enabled(false);
+    Timer2.set_enabled(true);
+    Timer4.set_enabled(true);
+    Timer5.set_enabled(true);
+    set_caption(L"Exit?");
+    set_default_button(&Command1);
+    // The answers have the focus before the button that had it is disabled, so that no key is lost.
+    show_answers();
+    Command1.set_focus();
+    enable_what_leads_away(false);
+}
+
+void frmMain::Command2_Click() {
+    set_caption(L"Thanks! You're so kind!");
+    Timer2.set_enabled(false);
+    Timer3.set_enabled(true);
+    Timer1.set_enabled(true);
+    Command3.set_visible(true);
+    enable_what_leads_away(true);
+    Timer5.set_enabled(true);
+    Command3.set_focus();
+}
+
+void frmMain::enable_what_leads_away(bool enabled) {
+    for (Button* button : {&Command4, &Command5, &Command6, &Command8, &Command3}) button->set_enabled(enabled);
+    menus.mnuFileExit.set_enabled(enabled);
+}
+
+void frmMain::show_answers() {
+    Command1.set_visible(true);
+    Command2.set_visible(true);
+}
+
+void frmMain::hide_answers() {
+    Command1.set_visible(false);
+    Command2.set_visible(false);
+}
+
+ExitConfirmation frmMain::exit_confirmation() const {
+    return {.exit_width = Command3.width(), .yes_top = Command1.top(), .no_top = Command2.top()};
+}
+
+void frmMain::place(const ExitConfirmation& confirmation) {
+    Command3.set_width(confirmation.exit_width);
+    Command1.set_top(confirmation.yes_top);
+    Command2.set_top(confirmation.no_top);
+}
+
+void frmMain::Timer2_Timer() {
+    show_answers();
+    set_default_button(&Command1);
+    Command3.set_caption(L"Are you sure?");
+    place(next_asking(exit_confirmation()));
+    if (asking_is_complete(Command3.width())) Timer2.set_enabled(false);
+}
+
+void frmMain::Timer3_Timer() {
+    Command3.set_caption(L"Exit (Please don't!)");
+    set_default_button(&Command1);
+    const ExitConfirmation before = exit_confirmation();
+    place(next_withdrawing(before));
+    if (withdrawing_is_complete(Command3.width())) Timer3.set_enabled(false);
+    // Below the edge of the window they are to be reached by no key either.
+    if (!Timer3.enabled() || exit_confirmation() == before) hide_answers();
+}
+
+void frmMain::Timer6_Timer() {
+    const ColourCycle next = next_colour_cycle(colour_step_);
+    colour_step_ = static_cast<std::int16_t>(next.step);
+    if (next.colour) Command4.set_back_colour(Colour{*next.colour});
+}
+
+void frmMain::Timer7_Timer() {
+    hover_help_.tick();
+    Timer6.set_enabled(session_.pointer.PointerWindow == Command4.window());
+}
+
+}  // namespace quillomat

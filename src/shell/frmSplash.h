@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+
+#include "forms/backdrop.h"
+#include "forms/form.h"
+#include "forms/graphics.h"
+#include "forms/timer.h"
+#include "resources/pictures.h"
+#include "text/product.h"
+
+namespace quillomat {
+
+/// The first window: the product's name with a band of light sweeping over it, the version sliding in, and a motto. It
+/// stays until the user clicks on it or presses a key.
+class frmSplash final : public Form {
+  public:
+    /// `show_main_screen` opens what follows.
+    frmSplash(Application& application, std::function<void()> show_main_screen);
+
+    static constexpr double design_width = 7005;
+    static constexpr double design_height = 4200;
+
+    Backdrop Background{*this, PICTURE_SPLASH, {0, 0, design_width, design_height}};
+    /// The letters of the product's name.
+    std::deque<Label> Label1;
+    Label Label2{*this, product::version, {0, 2070, 600, 360}};
+    Label Label3{*this, L"By Tobin Ferrand (Tob)", {540, 2070, 3300, 360}};
+    Label Label4{*this, L"Click screen to continue ", {660, 3915, 2700, 270}};
+    Label Label6{*this, L"What's the point if you can't cheat?", {540, 2475, 4500, 540}};
+    Timer Timer1{*this, 75};
+    Timer Timer2{*this, 35};
+
+  private:
+    void make_letters();
+    void go_on_when_clicked(MouseEvents& item);
+
+    void Form_Load();
+    void Timer1_Timer();
+    void Timer2_Timer();
+    void Proceed();
+
+    std::function<void()> show_main_screen_;
+    std::int16_t band_step_ = 0;
+};
+
+}  // namespace quillomat

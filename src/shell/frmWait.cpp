@@ -1,0 +1,35 @@
+#include "shell/frmWait.h"
+
+#include <utility>
+
+namespace quillomat {
+
+frmWait::frmWait(Application& application, std::function<void()> show_viewer)
+    : Form(application, {.name = L"frmWait",
+                         // Without a title bar nobody sees it, but screen readers say it.
+                         .caption = L"Please wait... loading...",
+                         .width = 4500,
+                         .height = 1200,
+                         .border = FormBorder::None}),
+      show_viewer_(std::move(show_viewer)) {
+    set_back_colour(colours::white);
+    Label1.set_font({.points = 11});
+    Shape1.set_border_colour(colours::grey_text);
+    on_load = [this] { centre_on_screen(); };
+    Timer1.on_timer = [this] { Timer1_Timer(); };
+}
+
+void frmWait::Timer1_Timer() {
+    Timer1.set_enabled(false);
+    // Nothing is painted while the viewer loads.
+    refresh();
+    try {
+        show_viewer_();
+    } catch (...) {
+        close();
+        throw;
+    }
+    close();
+}
+
+}  // namespace quillomat

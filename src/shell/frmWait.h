@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+
+#include "forms/form.h"
+#include "forms/graphics.h"
+#include "forms/timer.h"
+#include "resources/pictures.h"
+
+namespace quillomat {
+
+/// Stands between the main screen and the viewer while that reads the database.
+class frmWait final : public Form {
+  public:
+    /// `show_viewer` opens the viewer and returns when it has loaded.
+    frmWait(Application& application, std::function<void()> show_viewer);
+
+    Image Picture1{*this, Picture(PICTURE_GAME_PAD), {300, 240, 720, 720}};
+    Label Label1{*this, L"Please wait... loading...", {1260, 450, 3000, 300}};
+    Shape Shape1{*this, {0, 0, 4500, 1200}};
+    Timer Timer1{*this, 1};
+
+  private:
+    void Timer1_Timer();
+
+    std::function<void()> show_viewer_;
+};
+
+}  // namespace quillomat
