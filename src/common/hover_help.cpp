@@ -57,8 +57,16 @@ void HoverHelp::tick() {
         if (!tip.shown && pointer_.PointerWindow == tip.control.window()) {
             tip.shown = true;
             ShowTip(tip.control, help_box_, tip.text);
+            raise(on_shown, tip.control, pointer_on(tip.control));
         }
     }
+}
+
+MouseEvent HoverHelp::pointer_on(const Control& control) const {
+    POINT point = pointer_.PointerPos;
+    ScreenToClient(control.window(), &point);
+    const int dpi = control.form().dpi();
+    return {.modifiers = {}, .x = to_twips(point.x, dpi), .y = to_twips(point.y, dpi)};
 }
 
 void HoverHelp::pace() {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "common/pointer.h"
+#include "forms/events.h"
 
 namespace quillomat {
 
@@ -26,6 +27,10 @@ class HoverHelp {
     HoverHelp(const HoverHelp&) = delete;
     HoverHelp& operator=(const HoverHelp&) = delete;
 
+    /// A help text has just been shown, with the pointer at this place of its control: it may have come to lie under
+    /// the pointer without a movement of the mouse.
+    std::function<void(Control&, const MouseEvent&)> on_shown;
+
     void add(Control& control, std::wstring text);
     /// Compares the pointer with the controls and shows or hides.
     void tick();
@@ -37,6 +42,7 @@ class HoverHelp {
         bool shown = false;
     };
 
+    MouseEvent pointer_on(const Control& control) const;
     void pace();
     void wake();
 

@@ -71,6 +71,8 @@ double Form::inner_height() const {
 }
 
 void Form::set_inner_size(double width, double height) {
+    // A menu bar takes its room only now that it has its menus.
+    if (GetMenu(window_)) DrawMenuBar(window_);
     const RECT area = outer();
     RECT client{};
     GetClientRect(window_, &client);

@@ -111,8 +111,12 @@ void frmMain::bind_hover_help() {
     hover_help_.add(Command6, L"Click here to see some information about Quillomat");
     hover_help_.add(Command8, L"Click here to see some information about me :-)");
     for (Button* button : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command6, &Command8}) {
-        button->on_mouse_move = [this, button](const MouseEvent& event) { place_help_box(*button, event); };
+        button->on_mouse_move = [this, button](const MouseEvent& event) {
+            Timer7_Timer();
+            place_help_box(*button, event);
+        };
     }
+    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
     // The help box never keeps the focus.
     Text1.on_got_focus = [this] {
         Text1.set_visible(false);
@@ -123,8 +127,6 @@ void frmMain::bind_hover_help() {
 }
 
 void frmMain::place_help_box(const Control& control, const MouseEvent& event) {
-    // The box has its text and with that its width before it is placed.
-    Timer7_Timer();
     const double to_the_left = event.x >= help_box_turn ? Text1.width() : Text1.width() / 2;
     const double left = control.left() + event.x - to_the_left;
     const double top = control.top() + event.y - help_box_rise;
@@ -207,7 +209,13 @@ void frmMain::Timer2_Timer() {
     show_answers();
     set_default_button(&Command1);
     Command3.set_caption(L"Are you sure?");
-    place(next_asking(exit_confirmation()));
+    const ExitConfirmation before = exit_confirmation();
+    place(next_asking(before));
+    if (exit_confirmation() == before) {
+        // By the rounding to pixels they have come to rest a little above or below the exit button.
+        Command1.set_top(Command3.top());
+        Command2.set_top(Command3.top());
+    }
     if (asking_is_complete(Command3.width())) Timer2.set_enabled(false);
 }
 
