@@ -55,6 +55,7 @@ frmSplash::frmSplash(Application& application, std::function<void()> show_main_s
     }
     go_on_when_clicked(*this);
     on_load = [this] { Form_Load(); };
+    on_resize = [this] { place_letters(); };
     on_key_down = [this](KeyEvent& event) {
         event.handled = true;
         Proceed();
@@ -64,20 +65,25 @@ frmSplash::frmSplash(Application& application, std::function<void()> show_main_s
 }
 
 void frmSplash::make_letters() {
-    double width = 0;
     for (const wchar_t letter : std::wstring_view(product::title)) {
         Label& label = Label1.emplace_back(*this, std::wstring(1, letter), Bounds{});
         label.set_font({.name = L"Comic Sans MS", .points = 42});
         label.set_fore_colour(letter_colour);
+        go_on_when_clicked(label);
+    }
+}
+
+void frmSplash::place_letters() {
+    double width = 0;
+    for (Label& label : Label1) {
         label.fit_to_caption();
         width += label.width();
-        go_on_when_clicked(label);
     }
     double left = name_centre_x - width / 2;
     for (Label& label : Label1) {
         label.set_left(left);
         label.set_top(name_centre_y - label.height() / 2);
-        left += label.width();
+        left = label.left() + label.width();
     }
 }
 

@@ -35,6 +35,7 @@ class frmSplash final : public Form {
 
   private:
     void make_letters();
+    void place_letters();
     void go_on_when_clicked(MouseEvents& item);
 
     void Form_Load();

@@ -1,0 +1,91 @@
+#include "object_counts.h"
+
+#include <cstdint>
+#include <vector>
+
+#include "win/api.h"
+// Needs the above.
+#include <winternl.h>
+
+namespace quillomat {
+namespace {
+
+struct GdiEntry {
+    std::uint64_t object;
+    std::uint16_t process;
+    std::uint16_t count;
+    std::uint16_t unique;
+    std::uint16_t type;
+    std::uint64_t user_data;
+};
+
+// Where the process finds the table of GDI objects that it shares with the system.
+const GdiEntry* gdi_table() {
+    using Query = decltype(NtQueryInformationProcess);
+    const auto query = reinterpret_cast<Query*>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll"), "NtQueryInformationProcess")));
+    PROCESS_BASIC_INFORMATION process{};
+    query(GetCurrentProcess(), ProcessBasicInformation, &process, sizeof process, nullptr);
+    constexpr int table_offset = 0xF8;
+    return *reinterpret_cast<const GdiEntry* const*>(reinterpret_cast<const char*>(process.PebBaseAddress) +
+                                                     table_offset);
+}
+
+// Wine has a table for each process and leaves the number of the process out.
+int count_gdi_objects() {
+    constexpr int entries = 0x4000;
+    const auto own = static_cast<std::uint16_t>(GetCurrentProcessId());
+    const GdiEntry* const table = gdi_table();
+    int count = 0;
+    for (int i = 0; i < entries; ++i) count += table[i].type != 0 && (table[i].process == 0 || table[i].process == own);
+    return count;
+}
+
+bool is_own_object(std::uintptr_t handle) {
+    if (IsMenu(reinterpret_cast<HMENU>(handle))) return true;
+    const auto window = reinterpret_cast<HWND>(handle);
+    DWORD process = 0;
+    return IsWindow(window) && GetWindowThreadProcessId(window, &process) && process == GetCurrentProcessId();
+}
+
+// Wine knows an object by the lower half of its handle, and gives these out from the bottom.
+int count_user_objects() {
+    constexpr std::uintptr_t first = 0x20;
+    constexpr std::uintptr_t last = 0xFFFE;
+    constexpr std::uintptr_t longest_gap = 0x800;
+    int count = 0;
+    std::uintptr_t last_found = first;
+    for (std::uintptr_t handle = first; handle <= last && handle - last_found < longest_gap; handle += 2) {
+        if (!is_own_object(handle)) continue;
+        ++count;
+        last_found = handle;
+    }
+    return count;
+}
+
+}  // namespace
+
+ObjectCounts count_objects() {
+    const HANDLE process = GetCurrentProcess();
+    const ObjectCounts counted{static_cast<int>(GetGuiResources(process, GR_GDIOBJECTS)),
+                               static_cast<int>(GetGuiResources(process, GR_USEROBJECTS))};
+    // Wine answers 0.
+    return counted.gdi ? counted : ObjectCounts{count_gdi_objects(), count_user_objects()};
+}
+
+std::size_t allocated_bytes() {
+    std::vector<HANDLE> heaps(GetProcessHeaps(0, nullptr));
+    heaps.resize(GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data()));
+    std::size_t bytes = 0;
+    for (const HANDLE heap : heaps) {
+        PROCESS_HEAP_ENTRY entry{};
+        HeapLock(heap);
+        while (HeapWalk(heap, &entry)) {
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
+        }
+        HeapUnlock(heap);
+    }
+    return bytes;
+}
+
+}  // namespace quillomat
