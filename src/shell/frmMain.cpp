@@ -224,9 +224,12 @@ void frmMain::Timer3_Timer() {
     set_default_button(&Command1);
     const ExitConfirmation before = exit_confirmation();
     place(next_withdrawing(before));
-    if (withdrawing_is_complete(Command3.width())) Timer3.set_enabled(false);
-    // Below the edge of the window they are to be reached by no key either.
-    if (!Timer3.enabled() || exit_confirmation() == before) hide_answers();
+    if (!withdrawing_is_complete(Command3.width()) && exit_confirmation() != before) return;
+    Timer3.set_enabled(false);
+    // By the rounding to pixels it may have grown out of the window.
+    Command3.set_width(exit_width_resting);
+    // Below the edge of the window the answers are to be reached by no key either.
+    hide_answers();
 }
 
 void frmMain::Timer6_Timer() {
