@@ -2,6 +2,8 @@
 
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
+#include <utility>
 
 namespace quillomat {
 namespace {
@@ -106,8 +108,26 @@ HWND Program::find(const wchar_t* window_class) const {
 }
 
 bool Program::reach_viewer() {
-    return wait_until([this] { return find(message_box_class) || viewer(); }) &&
-           (find(message_box_class) || SendMessageW(viewer(), WM_NULL, 0, 0) == 0);
+    HWND last = nullptr;
+    return wait_until([&] {
+        if (find(message_box_class) || viewer()) return true;
+        const HWND splash = find(L"frmSplash");
+        const HWND main_screen = find(L"frmMain");
+        const HWND next = main_screen ? main_screen : splash;
+        if (next && next != std::exchange(last, next)) {
+            if (main_screen) {
+                PostMessageW(FindWindowExW(main_screen, nullptr, L"Button", L"&Click here to see the cheats!"),
+                             BM_CLICK, 0, 0);
+            } else {
+                PostMessageW(splash, WM_KEYDOWN, VK_SPACE, 0);
+            }
+        }
+        return false;
+    });
+}
+
+void Program::close() const {
+    PostMessageW(find(L"frmMain"), WM_CLOSE, 0, 0);
 }
 
 std::wstring Program::message() const {

@@ -37,6 +37,8 @@ class Program {
     /// Goes on from window to window, as with the keyboard, until the viewer is there or a message box. False when
     /// neither comes.
     bool reach_viewer();
+    /// Closes the main screen by its title bar, and with it everything.
+    void close() const;
     HWND viewer() const { return find(L"frmCtlView"); }
 
     /// The text of the open message box, behind its title and a colon; empty when there is none.

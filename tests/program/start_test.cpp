@@ -15,9 +15,8 @@ std::string record(const std::string& cheats, const std::string& name) {
     return cheats + "\r\n" + marker + name + "\r\n";
 }
 
-/// Closes the viewer as its user does, and checks that the program ends well.
 void close_and_check(Program& program) {
-    PostMessageW(program.viewer(), WM_CLOSE, 0, 0);
+    program.close();
     EXPECT_EQ(program.exit_code(), 0U);
 }
 
