@@ -6,6 +6,14 @@
 #include "forms/form.h"
 
 namespace quillomat {
+namespace {
+
+/// As the eye sees it, from 0 to 255.
+int brightness(COLORREF colour) {
+    return (299 * GetRValue(colour) + 587 * GetGValue(colour) + 114 * GetBValue(colour)) / 1000;
+}
+
+}  // namespace
 
 Button::Button(Container& container, std::wstring_view caption, Bounds bounds)
     : Control(container, bounds, L"BUTTON", caption, BS_OWNERDRAW | WS_TABSTOP | WS_GROUP) {}
@@ -53,6 +61,14 @@ void Button::draw_face(HDC canvas, RECT& area, bool pressed) const {
     DrawEdge(canvas, &area, pressed ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT | BF_ADJUST);
 }
 
+COLORREF Button::caption_colour() const {
+    if (!enabled()) return resolve(colours::grey_text);
+    const COLORREF chosen = resolve(fore_colour());
+    const COLORREF background = resolve(back_colour());
+    // A background whose colour runs through the rainbow must not swallow the caption.
+    return brightness(background) < 128 && brightness(chosen) < 128 ? resolve(colours::white) : chosen;
+}
+
 void Button::draw(const DRAWITEMSTRUCT& request) {
     const BufferedCanvas buffer(request.hDC, request.rcItem);
     const HDC canvas = buffer.canvas();
@@ -62,7 +78,7 @@ void Button::draw(const DRAWITEMSTRUCT& request) {
 
     const Selection font(canvas, reinterpret_cast<HFONT>(send(WM_GETFONT)));
     SetBkMode(canvas, TRANSPARENT);
-    SetTextColor(canvas, resolve(enabled() ? fore_colour() : colours::grey_text));
+    SetTextColor(canvas, caption_colour());
     RECT text_area = area;
     if (pressed) OffsetRect(&text_area, 1, 1);
     const std::wstring caption = window_text();

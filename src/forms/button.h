@@ -25,6 +25,7 @@ class Button : public Control {
 
   private:
     bool is_default() const;
+    COLORREF caption_colour() const;
     void draw_face(HDC canvas, RECT& area, bool pressed) const;
 
     bool hot_ = false;
