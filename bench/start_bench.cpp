@@ -1,7 +1,9 @@
-// From process start to a window on screen that answers, in turns with an empty window; and what an idle viewer costs.
+// From process start to a window that is painted and answers, in turns with an empty window; and what the program costs
+// while nobody does anything. On Debian: scripts/wine build/windows/bench/start_bench.exe
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -32,7 +34,9 @@ class Program {
             Sleep(0);
             window_ = FindWindowW(window_class, nullptr);
         } while (!window_ || !IsWindowVisible(window_));
-        SendMessageW(window_, WM_NULL, 0, 0);
+        do {
+            SendMessageW(window_, WM_NULL, 0, 0);
+        } while (GetUpdateRect(window_, nullptr, FALSE));
         shown_ = seconds();
     }
     ~Program() {
@@ -70,32 +74,35 @@ double median(std::vector<double> values) {
 
 }  // namespace
 
-// Arguments: the empty window's program, then pairs of a program and the class of its first window.
+// Arguments: another build of the program to measure beside this one, if wanted.
 int wmain(int count, wchar_t** arguments) {
+    wchar_t own_path[MAX_PATH]{};
+    GetModuleFileNameW(nullptr, own_path, MAX_PATH);
+    const std::filesystem::path folder = std::filesystem::path(own_path).parent_path();
+    const std::wstring empty_window = folder / L"empty_window.exe";
+    std::vector<std::wstring> programs{folder.parent_path() / L"src" / L"Quillomat.exe"};
+    programs.insert(programs.end(), arguments + 1, arguments + count);
+
     constexpr int rounds = 15;
-    const int programs = (count - 2) / 2;
     std::vector<double> empty;
-    std::vector<std::vector<double>> measured(static_cast<std::size_t>(programs));
+    std::vector<std::vector<double>> measured(programs.size());
     for (int round = 0; round < rounds; ++round) {
-        empty.push_back(Program(arguments[1], L"EmptyWindow").milliseconds_to_window());
-        for (int i = 0; i < programs; ++i) {
-            measured[static_cast<std::size_t>(i)].push_back(
-                Program(arguments[2 + 2 * i], arguments[3 + 2 * i]).milliseconds_to_window());
+        empty.push_back(Program(empty_window, L"EmptyWindow").milliseconds_to_window());
+        for (std::size_t i = 0; i < programs.size(); ++i) {
+            measured[i].push_back(Program(programs[i], L"frmSplash").milliseconds_to_window());
         }
     }
-    std::printf("start to window, median of %d\n  %-24s %7.1f ms\n", rounds, "empty window", median(empty));
-    for (int i = 0; i < programs; ++i) {
-        const double value = median(measured[static_cast<std::size_t>(i)]);
-        std::printf("  %-24ls %7.1f ms  %.2f times\n", arguments[3 + 2 * i], value, value / median(empty));
-    }
+    std::printf("start to window, median of %d\n  %7.1f ms             empty window\n", rounds, median(empty));
     constexpr int idle_seconds = 10;
-    for (int i = 0; i < programs; ++i) {
-        const Program program(arguments[2 + 2 * i], arguments[3 + 2 * i]);
+    for (std::size_t i = 0; i < programs.size(); ++i) {
+        const double value = median(measured[i]);
+        std::printf("  %7.1f ms  %.2f times  %ls\n", value, value / median(empty), programs[i].c_str());
+        const Program program(programs[i], L"frmSplash");
         Sleep(2000);
         const double before = program.processor_seconds();
         Sleep(idle_seconds * 1000);
-        std::printf("  %-24ls %7.2f %% of one core, idle for %d s\n", arguments[3 + 2 * i],
-                    100 * (program.processor_seconds() - before) / idle_seconds, idle_seconds);
+        std::printf("  %7.2f %% of one core for the splash\n",
+                    100 * (program.processor_seconds() - before) / idle_seconds);
     }
     return 0;
 }

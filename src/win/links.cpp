@@ -8,26 +8,39 @@
 namespace quillomat {
 namespace {
 
+/// A function of one of the system's libraries, which is brought in now: loading these with the program would hold up
+/// its first window. The library stays, as it may still be at work when the function has returned.
+template <class Function>
+Function* system_function(const wchar_t* library, const char* name) {
+    const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    return module ? reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name))) : nullptr;
+}
+
 /// Some browsers are started through COM, which the thread must have ready.
 class ComApartment {
   public:
-    ComApartment() : result_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)) {}
+    ComApartment() {
+        const auto initialise = system_function<decltype(CoInitializeEx)>(L"ole32.dll", "CoInitializeEx");
+        ready_ = initialise && SUCCEEDED(initialise(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE));
+    }
     ~ComApartment() {
-        if (SUCCEEDED(result_)) CoUninitialize();
+        if (ready_) system_function<decltype(CoUninitialize)>(L"ole32.dll", "CoUninitialize")();
     }
     ComApartment(const ComApartment&) = delete;
     ComApartment& operator=(const ComApartment&) = delete;
 
   private:
-    HRESULT result_;
+    bool ready_ = false;
 };
 
 }  // namespace
 
 bool open_link(const std::wstring& address) {
     const ComApartment apartment;
+    const auto execute = system_function<decltype(ShellExecuteW)>(L"shell32.dll", "ShellExecuteW");
+    if (!execute) return false;
     const auto result =
-        reinterpret_cast<INT_PTR>(ShellExecuteW(nullptr, nullptr, address.c_str(), nullptr, L"C:\\", SW_SHOWNORMAL));
+        reinterpret_cast<INT_PTR>(execute(nullptr, nullptr, address.c_str(), nullptr, L"C:\\", SW_SHOWNORMAL));
     constexpr INT_PTR last_error = 32;
     return result > last_error;
 }
