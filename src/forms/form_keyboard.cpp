@@ -46,6 +46,10 @@ bool Form::translate(MSG& message) {
             handled =
                 (message.message == WM_KEYDOWN && handle_dialog_key(message)) || IsDialogMessageW(window_, &message);
         }
+        // Unless the system hears of a key pressed with Alt, it opens the menu bar when Alt is released.
+        if (handled && message.message == WM_SYSKEYDOWN && message.wParam != VK_F4 && window_) {
+            DefWindowProcW(window_, message.message, message.wParam, message.lParam);
+        }
         // The key may have been given to another window or dropped; the next one is a new one in any case.
         if (handled && control && Control::from(message.hwnd) == control) control->forget_previewed_key();
         return LRESULT{};

@@ -86,6 +86,7 @@ void frmCtlView::bind_hover_help() {
                              static_cast<Control*>(&Option2), static_cast<Control*>(&Text3)}) {
         control->on_mouse_move = [this, control](const MouseEvent& event) { place_help_box(*control, event); };
     }
+    hover_help_.on_shown = [this](Control& control, const MouseEvent& event) { place_help_box(control, event); };
     // The help box never keeps the focus.
     Text4.on_got_focus = [this] {
         Text4.set_visible(false);

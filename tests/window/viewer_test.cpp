@@ -37,6 +37,12 @@ class ViewerTest : public WindowTest {
         viewer->show();
         pump();
     }
+    static bool in_menu() {
+        GUITHREADINFO state{};
+        state.cbSize = sizeof state;
+        GetGUIThreadInfo(GetCurrentThreadId(), &state);
+        return state.flags & GUI_INMENUMODE;
+    }
     void close() {
         viewer->close();
         ASSERT_TRUE(pump_until([this] { return !viewer; }));
@@ -159,6 +165,7 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     expect_selected(4);
     press_key(VK_UP, {VK_MENU});
     expect_selected(3);
+    EXPECT_FALSE(in_menu()) << "the release of Alt has nothing to do with the menu bar";
     press_key(VK_UP, {VK_MENU});
     expect_selected(2);
     press_key(VK_UP, {VK_MENU});
