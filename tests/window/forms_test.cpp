@@ -11,6 +11,7 @@
 #include "forms/option_button.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
+#include "object_counts.h"
 #include "support.h"
 #include "text/error.h"
 
@@ -326,7 +327,6 @@ TEST_F(FormsTest, MenuEntriesComeAndGo) {
 }
 
 TEST_F(FormsTest, OpeningAndClosingLeavesNoObjectsBehind) {
-    const auto objects = [](DWORD kind) { return GetGuiResources(GetCurrentProcess(), kind); };
     const auto open_and_close = [this] {
         Board form(application);
         MenuBar bar(form);
@@ -340,11 +340,9 @@ TEST_F(FormsTest, OpeningAndClosingLeavesNoObjectsBehind) {
         form.Command1.refresh();
     };
     open_and_close();
-    const DWORD gdi = objects(GR_GDIOBJECTS);
-    const DWORD user = objects(GR_USEROBJECTS);
+    const ObjectCounts before = count_objects();
     for (int i = 0; i < 50; ++i) open_and_close();
-    EXPECT_LE(objects(GR_GDIOBJECTS), gdi + 2);
-    EXPECT_LE(objects(GR_USEROBJECTS), user + 2);
+    EXPECT_EQ(count_objects(), before);
 }
 
 }  // namespace
