@@ -70,7 +70,8 @@ void Control::recreate(DWORD style) {
 }
 
 Control* Control::from(HWND window) {
-    return static_cast<Control*>(GetPropW(window, control_property));
+    if (HANDLE control = GetPropW(window, control_property)) return static_cast<Control*>(control);
+    return static_cast<Control*>(GetPropW(GetParent(window), control_property));
 }
 
 LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {

@@ -26,7 +26,7 @@ class Control : public Item {
     HWND window() const { return window_; }
 
     void set_focus();
-    bool has_focus() const { return GetFocus() == window_; }
+    bool has_focus() const { return from(GetFocus()) == this; }
 
     Colour back_colour() const { return back_colour_; }
     void set_back_colour(Colour colour);
@@ -45,7 +45,7 @@ class Control : public Item {
     void refresh() override;
     void resolution_changed() override;
 
-    /// The control of a window, or null.
+    /// The control of a window or of one of the parts the system made for it, or null.
     static Control* from(HWND window);
 
     // What the container passes on from the control's window.
@@ -59,6 +59,8 @@ class Control : public Item {
     /// Raises the key event for a message that is still on its way, before the dialog keys are looked at; true when the
     /// handler kept the key.
     bool preview_key(const MSG& message);
+    /// Whether Escape is for the control itself just now.
+    virtual bool keeps_escape() const { return false; }
     void forget_previewed_key() { key_previewed_ = false; }
 
   protected:

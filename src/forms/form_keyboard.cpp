@@ -76,6 +76,11 @@ bool Form::handle_dialog_key(const MSG& message) {
             if (button->enabled() && IsWindowVisible(button->window())) button->click();
             return true;
         }
+        case VK_ESCAPE:
+            if (const Control* control = Control::from(message.hwnd); control && control->keeps_escape()) return false;
+            if (!cancel_button_ || !cancel_button_->enabled()) return false;
+            cancel_button_->click();
+            return true;
         default:
             return false;
     }
@@ -86,7 +91,8 @@ void Form::move_focus(bool backwards) {
     collect_tab_stops(*this, stops);
     if (stops.empty()) return;
     if (backwards) std::reverse(stops.begin(), stops.end());
-    const auto current = std::find(stops.begin(), stops.end(), GetFocus());
+    const Control* focused = Control::from(GetFocus());
+    const auto current = std::find(stops.begin(), stops.end(), focused ? focused->window() : nullptr);
     const auto next = current == stops.end() || std::next(current) == stops.end() ? stops.begin() : std::next(current);
     SetFocus(*next);
     // As in every dialog, what stands in an input can be typed over; a long text is left as it is.

@@ -1,13 +1,17 @@
 #include "forms/list_box.h"
 
+#include <algorithm>
+
 #include "text/error.h"
 
 namespace quillomat {
 
-ListBox::ListBox(Container& container, Bounds bounds)
+ListBox::ListBox(Container& container, Bounds bounds, Picking picking)
     : Control(container, bounds, L"LISTBOX", {},
-              LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP,
-              WS_EX_CLIENTEDGE) {
+              LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP |
+                  (picking == Picking::Several ? LBS_MULTIPLESEL : 0),
+              WS_EX_CLIENTEDGE),
+      picking_(picking) {
     set_default_back_colour(colours::window);
 }
 
@@ -44,11 +48,24 @@ std::wstring ListBox::item(int index) const {
 
 std::optional<int> ListBox::selected_index() const {
     const LRESULT index = send(LB_GETCURSEL);
-    return index == LB_ERR ? std::nullopt : std::optional(static_cast<int>(index));
+    // An empty list for picking several still has its cursor at 0.
+    return index == LB_ERR || index >= count() ? std::nullopt : std::optional(static_cast<int>(index));
 }
 
 void ListBox::select_index(int index) {
-    if (send(LB_SETCURSEL, static_cast<WPARAM>(index)) == LB_ERR) throw Error(ErrorCode::SubscriptOutOfRange);
+    const UINT message = picking_ == Picking::Several ? LB_SETCARETINDEX : LB_SETCURSEL;
+    if (send(message, static_cast<WPARAM>(index)) == LB_ERR) throw Error(ErrorCode::SubscriptOutOfRange);
+    raise(on_click);
+}
+
+std::vector<int> ListBox::picked_indexes() const {
+    std::vector<int> indexes(static_cast<std::size_t>(std::max<LRESULT>(send(LB_GETSELCOUNT), 0)));
+    send(LB_GETSELITEMS, indexes.size(), reinterpret_cast<LPARAM>(indexes.data()));
+    return indexes;
+}
+
+void ListBox::set_picked(int index, bool picked) {
+    if (index < 0 || send(LB_SETSEL, picked, index) == LB_ERR) throw Error(ErrorCode::SubscriptOutOfRange);
     raise(on_click);
 }
 

@@ -4,15 +4,19 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/control.h"
 
 namespace quillomat {
 
-/// A list of texts of which one can be selected, in the order they were added.
+/// A list of texts, in the order they were added, of which one can be selected; or, for picking several, a list with a
+/// cursor, where each click or Space picks a text or takes it back.
 class ListBox : public Control {
   public:
-    ListBox(Container& container, Bounds bounds);
+    enum class Picking { One, Several };
+
+    ListBox(Container& container, Bounds bounds, Picking picking = Picking::One);
 
     int count() const;
     void clear();
@@ -32,7 +36,7 @@ class ListBox : public Control {
     /// The text at a position; empty where there is none.
     std::wstring item(int index) const;
 
-    /// The position of the selected text, or nothing.
+    /// The position of the selected text, or nothing. In a list for picking several, where its cursor is.
     std::optional<int> selected_index() const;
     /// Selects the text at a position and raises the click. Throws `Error` with SubscriptOutOfRange when there is none.
     void select_index(int index);
@@ -40,6 +44,12 @@ class ListBox : public Control {
     std::wstring text() const;
     /// Selects the first text that equals this one to the letter, and raises the click; without one, nothing changes.
     void select_text(std::wstring_view text);
+
+    /// The positions of what is picked, in the list's order; for a list for picking several.
+    std::vector<int> picked_indexes() const;
+    /// Picks the text at a position or takes it back, and raises the click. Throws `Error` with SubscriptOutOfRange
+    /// when there is none.
+    void set_picked(int index, bool picked);
 
     /// Scrolls the text at a position to the top, as far as the list goes.
     void set_top_index(int index);
@@ -52,6 +62,8 @@ class ListBox : public Control {
 
   private:
     std::optional<int> find(std::wstring_view text) const;
+
+    Picking picking_;
 };
 
 }  // namespace quillomat

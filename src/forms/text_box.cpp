@@ -22,6 +22,7 @@ DWORD style_of(TextBoxKind kind, bool breaks_lines) {
         case TextBoxKind::SingleLine:
             return ES_AUTOHSCROLL | WS_TABSTOP | WS_GROUP;
         case TextBoxKind::MultiLine:
+        case TextBoxKind::Writing:
             return multi_line | unbroken;
         case TextBoxKind::Reading:
             return multi_line | unbroken | ES_READONLY;
@@ -29,6 +30,10 @@ DWORD style_of(TextBoxKind kind, bool breaks_lines) {
             return ES_READONLY | ES_AUTOHSCROLL | WS_BORDER;
     }
     return 0;
+}
+
+bool may_break_lines(TextBoxKind kind) {
+    return kind == TextBoxKind::Reading || kind == TextBoxKind::Writing;
 }
 
 std::size_t longest_line(std::wstring_view text) {
@@ -44,10 +49,10 @@ std::size_t longest_line(std::wstring_view text) {
 }  // namespace
 
 TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
-    : Control(container, bounds, L"EDIT", {}, style_of(kind, kind == TextBoxKind::Reading),
+    : Control(container, bounds, L"EDIT", {}, style_of(kind, may_break_lines(kind)),
               kind == TextBoxKind::Help ? 0 : WS_EX_CLIENTEDGE),
       kind_(kind),
-      breaks_lines_(kind == TextBoxKind::Reading) {
+      breaks_lines_(may_break_lines(kind)) {
     const bool help = kind == TextBoxKind::Help;
     set_default_back_colour(help ? colours::tip_background : colours::window);
     if (help) {
@@ -67,12 +72,16 @@ void TextBox::set_text(std::wstring_view text) {
 }
 
 void TextBox::choose_line_breaks(std::wstring_view text) {
-    if (kind_ != TextBoxKind::Reading) return;
+    if (!may_break_lines(kind_)) return;
     const bool breaks_lines = longest_line(text) <= longest_broken_line;
     if (breaks_lines == breaks_lines_) return;
     breaks_lines_ = breaks_lines;
     recreate(style_of(kind_, breaks_lines));
     send(EM_SETLIMITTEXT, no_limit);
+}
+
+int TextBox::line_count() const {
+    return static_cast<int>(send(EM_GETLINECOUNT));
 }
 
 std::size_t TextBox::selection_start() const {
@@ -128,7 +137,8 @@ LRESULT TextBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         }
         case WM_CHAR:
             // A box for one line would beep: Enter and Escape have done their work when the key went down.
-            if ((wparam == keys::enter || wparam == keys::escape) && kind_ != TextBoxKind::MultiLine) {
+            if ((wparam == keys::enter || wparam == keys::escape) && kind_ != TextBoxKind::MultiLine &&
+                kind_ != TextBoxKind::Writing) {
                 CharacterEvent event{.character = static_cast<wchar_t>(wparam)};
                 raise(on_key_press, event);
                 return 0;

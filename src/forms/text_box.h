@@ -11,6 +11,8 @@ enum class TextBoxKind {
     SingleLine,
     /// Several lines to be edited; lines stay as long as they are.
     MultiLine,
+    /// Several lines to be written; lines that are not extremely long break at the box's width.
+    Writing,
     /// Several lines for reading only; lines that are not extremely long break at the box's width.
     Reading,
     /// A small box that shows a help text; it stands in front of other controls and has no place in the Tab order.
@@ -28,6 +30,9 @@ class TextBox : public Control {
     std::wstring text() const { return window_text(); }
     void set_text(std::wstring_view text);
     bool empty() const { return GetWindowTextLengthW(window()) == 0; }
+
+    /// Lines as the box shows them: where it breaks a line, that counts as two. At least 1.
+    int line_count() const;
 
     std::size_t selection_start() const;
     std::size_t selection_length() const;

@@ -20,6 +20,7 @@ enum class ErrorCode {
     DiskNotReady = 71,
     PathNotFound = 76,
     PrinterError = 482,
+    MailFailure = 32002,
 };
 
 /// The one exception type of the program: a number and a sentence that can be shown to the user as it stands.

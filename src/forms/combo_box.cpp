@@ -1,0 +1,56 @@
+#include "forms/combo_box.h"
+
+#include "text/error.h"
+
+namespace quillomat {
+namespace {
+
+constexpr int most_lines_in_list = 8;
+
+}  // namespace
+
+ComboBox::ComboBox(Container& container, Bounds bounds)
+    : Control(container, bounds, L"COMBOBOX", {},
+              CBS_DROPDOWN | CBS_AUTOHSCROLL | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP | WS_GROUP) {
+    set_default_back_colour(colours::window);
+    ComboBox::apply_bounds();
+}
+
+void ComboBox::add(std::wstring_view text) {
+    if (send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
+        throw Error(ErrorCode::OutOfMemory);
+    }
+}
+
+void ComboBox::set_text(std::wstring_view text) {
+    program_changes_ = true;
+    SetWindowTextW(window(), displayable(text).c_str());
+    program_changes_ = false;
+    raise(on_change);
+}
+
+void ComboBox::notified(WORD code) {
+    if (program_changes_) return;
+    if (code == CBN_SELCHANGE) {
+        // The system puts the picked text into the box only after it has told of it.
+        send(CB_SETCURSEL, static_cast<WPARAM>(send(CB_GETCURSEL)));
+    }
+    if (code == CBN_SELCHANGE || code == CBN_EDITCHANGE) raise(on_change);
+}
+
+bool ComboBox::keeps_escape() const {
+    return send(CB_GETDROPPEDSTATE) != 0;
+}
+
+void ComboBox::apply_bounds() {
+    // To the system, the height of the box includes that of its list.
+    const Bounds& bounds = exact_bounds();
+    const int list_height = most_lines_in_list * static_cast<int>(send(CB_GETITEMHEIGHT));
+    SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
+                 to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    // A box that is sized selects its text.
+    if (!has_focus()) send(CB_SETEDITSEL, 0, MAKELPARAM(0, 0));
+}
+
+}  // namespace quillomat

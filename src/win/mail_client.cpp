@@ -1,0 +1,178 @@
+#include "win/mail_client.h"
+
+#include "text/error.h"
+#include "text/mail_result.h"
+#include "win/code_page.h"
+#include "win/handle.h"
+
+namespace quillomat {
+namespace {
+
+// The system's simple mail interface, once for its narrow and once for its wide functions. Declared here because not
+// every compiler's headers know the wide ones.
+template <class Character>
+struct MapiRecipient {
+    ULONG reserved;
+    ULONG kind;
+    const Character* name;
+    const Character* address;
+    ULONG entry_size;
+    void* entry;
+};
+
+template <class Character>
+struct MapiFile {
+    ULONG reserved;
+    ULONG flags;
+    ULONG position;
+    const Character* path;
+    const Character* name;
+    void* type;
+};
+
+template <class Character>
+struct MapiMessage {
+    ULONG reserved;
+    const Character* subject;
+    const Character* text;
+    const Character* type;
+    const Character* date_received;
+    const Character* conversation;
+    ULONG flags;
+    MapiRecipient<Character>* originator;
+    ULONG recipient_count;
+    MapiRecipient<Character>* recipients;
+    ULONG file_count;
+    MapiFile<Character>* files;
+};
+
+using LogonFunction = ULONG WINAPI(ULONG_PTR owner, const char* profile, const char* password, ULONG flags,
+                                   ULONG reserved, std::uintptr_t* session);
+using LogoffFunction = ULONG WINAPI(std::uintptr_t session, ULONG_PTR owner, ULONG flags, ULONG reserved);
+template <class Character>
+using SendFunction = ULONG WINAPI(std::uintptr_t session, ULONG_PTR owner, MapiMessage<Character>* message, ULONG flags,
+                                  ULONG reserved);
+
+constexpr ULONG show_logon_dialog = 0x1;
+constexpr ULONG kind_to = 1;
+constexpr ULONG outside_of_text = 0xFFFFFFFF;
+// Rather refuse a message than put a question mark in place of a character.
+constexpr ULONG keep_every_character = 0x40000;
+
+[[noreturn]] void fail(MailResult result) {
+    throw Error(ErrorCode::MailFailure, mail_failure_description(result));
+}
+
+[[noreturn]] void fail_without_mail_program() {
+    throw Error(ErrorCode::MailFailure, no_mail_program_description());
+}
+
+template <class Function>
+Function* find(HMODULE library, const char* name) {
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+/// Whether a mail program of this user or of all users says here how it is to be called.
+bool is_registered_below(HKEY root) {
+    RegistryKey programs;
+    if (RegOpenKeyExW(root, L"Software\\Clients\\Mail", 0, KEY_READ, programs.receive()) != ERROR_SUCCESS) return false;
+    wchar_t name[256];
+    DWORD length = ARRAYSIZE(name);
+    for (DWORD index = 0;
+         RegEnumKeyExW(programs.get(), index, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+         ++index, length = ARRAYSIZE(name)) {
+        for (const wchar_t* value : {L"DLLPath", L"DLLPathEx", L"MSIComponentID"}) {
+            if (RegGetValueW(programs.get(), name, value, RRF_RT_ANY, nullptr, nullptr, nullptr) == ERROR_SUCCESS) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// The system's library through which the user's default mail program is called.
+HMODULE load_library() {
+    // Without any mail program the system's library would show a message of its own first.
+    if (!is_registered_below(HKEY_CURRENT_USER) && !is_registered_below(HKEY_LOCAL_MACHINE))
+        fail_without_mail_program();
+    constexpr wchar_t name[] = L"mapi32.dll";
+    HMODULE library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    // Where the system is told to do without its own one, it lies beside the program.
+    if (!library) library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_APPLICATION_DIR);
+    if (!library) fail_without_mail_program();
+    return library;
+}
+
+/// The texts of a mail in the characters of a send function.
+template <class Text>
+struct Texts {
+    Text address, name, subject, text, attachment;
+};
+
+template <class Text>
+MailResult send_with(SendFunction<typename Text::value_type>* function, std::uintptr_t session, HWND owner,
+                     const Texts<Text>& texts, ULONG flags) {
+    using Character = typename Text::value_type;
+    MapiRecipient<Character> recipient{};
+    recipient.kind = kind_to;
+    recipient.name = texts.name.c_str();
+    recipient.address = texts.address.c_str();
+    MapiFile<Character> file{};
+    file.position = outside_of_text;
+    file.path = texts.attachment.c_str();
+    MapiMessage<Character> message{};
+    message.subject = texts.subject.c_str();
+    message.text = texts.text.c_str();
+    message.recipient_count = 1;
+    message.recipients = &recipient;
+    if (!texts.attachment.empty()) {
+        message.file_count = 1;
+        message.files = &file;
+    }
+    return MailResult{function(session, reinterpret_cast<ULONG_PTR>(owner), &message, flags, 0)};
+}
+
+Texts<std::string> in_system_code_page(const Mail& mail) try {
+    return {encode(mail.address), encode(mail.name), encode(mail.subject), encode(mail.text), encode(mail.attachment)};
+} catch (const Error& error) {
+    if (error.code() == ErrorCode::InvalidArgument) fail(MailResult::UnicodeNotSupported);
+    throw;
+}
+
+}  // namespace
+
+MailSession::MailSession(HWND owner) : owner_(owner), library_(load_library()) {
+    const auto log_on = find<LogonFunction>(library_, "MAPILogon");
+    const MailResult result =
+        log_on
+            ? MailResult{log_on(reinterpret_cast<ULONG_PTR>(owner), nullptr, nullptr, show_logon_dialog, 0, &session_)}
+            : MailResult::NotSupported;
+    if (result == MailResult::Success) return;
+    // The next attempt looks for a mail program anew: the user may have set one up.
+    FreeLibrary(library_);
+    fail(result);
+}
+
+MailSession::~MailSession() {
+    // Whether this succeeds changes nothing for the user any more. The library stays loaded: some mail programs have
+    // threads of their own in it that go on working.
+    if (const auto log_off = find<LogoffFunction>(library_, "MAPILogoff")) {
+        log_off(session_, reinterpret_cast<ULONG_PTR>(owner_), 0, 0);
+    }
+}
+
+void MailSession::send(const Mail& mail) {
+    auto result = MailResult::UnicodeNotSupported;
+    if (const auto send_wide = find<SendFunction<wchar_t>>(library_, "MAPISendMailW")) {
+        const Texts<std::wstring> texts{mail.address, mail.name, mail.subject, mail.text, mail.attachment};
+        result = send_with(send_wide, session_, owner_, texts, keep_every_character);
+    }
+    if (result == MailResult::UnicodeNotSupported) {
+        const auto send_narrow = find<SendFunction<char>>(library_, "MAPISendMail");
+        if (!send_narrow) fail(MailResult::NotSupported);
+        result = send_with(send_narrow, session_, owner_, in_system_code_page(mail), 0);
+    }
+    if (result != MailResult::Success) fail(result);
+}
+
+}  // namespace quillomat
