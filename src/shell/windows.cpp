@@ -4,6 +4,8 @@
 
 #include "common/desktop.h"
 #include "forms/application.h"
+#include "output/frmMailCheats.h"
+#include "output/frmMailMe.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
@@ -13,9 +15,15 @@ namespace quillomat {
 
 Windows::Windows(Application& application, Session& session) : application_(application), session_(session) {
     main_windows_.cheats = [this] { open_loading_window(); };
+    main_windows_.mail_author = [this] { open_author_mail(); };
     main_windows_.link = [this](const std::wstring& address) { OpenLink(*main_screen_, address); };
     main_windows_.close_all = [this] { application_.close_all_forms(); };
     viewer_windows_.restore_main_screen = [this] { restore_main_screen(); };
+    viewer_windows_.mail_cheats = [this] { mail_cheats(); };
+    viewer_windows_.mail_author = [this](const std::wstring& text) {
+        open_author_mail();
+        if (author_mail_) author_mail_->propose_message(text);
+    };
 }
 
 Windows::~Windows() = default;
@@ -57,8 +65,19 @@ void Windows::restore_main_screen() {
     }
 }
 
+void Windows::open_author_mail() {
+    open(author_mail_, session_);
+}
+
+void Windows::mail_cheats() {
+    GamesToPick games{.names = {}, .selected = viewer_->List2.selected_index()};
+    for (int index = 0; index < viewer_->List2.count(); ++index) games.names.push_back(viewer_->List2.item(index));
+    frmMailCheats form(application_, session_, std::move(games));
+    form.show_modal(viewer_.get());
+}
+
 void Windows::quit_after_last() {
-    if (!splash_ && !main_screen_ && !loading_window_ && !viewer_) application_.quit();
+    if (!splash_ && !main_screen_ && !loading_window_ && !viewer_ && !author_mail_) application_.quit();
 }
 
 }  // namespace quillomat

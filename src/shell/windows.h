@@ -10,6 +10,7 @@ namespace quillomat {
 
 class Application;
 class frmCtlView;
+class frmMailMe;
 class frmMain;
 class frmSplash;
 class frmWait;
@@ -29,12 +30,15 @@ class Windows {
     /// The loading window, which opens the viewer.
     void open_loading_window();
     void open_viewer();
+    /// Opens the message to the author, or brings the open one to the front.
+    void open_author_mail();
 
   private:
     template <class Window, class... Arguments>
     void open(std::unique_ptr<Window>& place, Arguments&&... arguments);
     void restore_main_screen();
     void quit_after_last();
+    void mail_cheats();
 
     Application& application_;
     Session& session_;
@@ -44,6 +48,7 @@ class Windows {
     std::unique_ptr<frmMain> main_screen_;
     std::unique_ptr<frmWait> loading_window_;
     std::unique_ptr<frmCtlView> viewer_;
+    std::unique_ptr<frmMailMe> author_mail_;
 };
 
 }  // namespace quillomat

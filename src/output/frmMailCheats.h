@@ -1,0 +1,77 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "common/hover_help.h"
+#include "common/session.h"
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/graphics.h"
+#include "forms/list_box.h"
+#include "forms/option_button.h"
+#include "forms/static_label.h"
+#include "forms/text_box.h"
+#include "forms/timer.h"
+
+namespace quillomat {
+
+/// The games to pick from, as the viewer lists them, and the one that is selected there.
+struct GamesToPick {
+    std::vector<std::wstring> names;
+    std::optional<int> selected;
+};
+
+/// Sends the cheats of picked games to a friend, in a mail or in a file attached to it.
+class frmMailCheats final : public Form {
+  public:
+    /// `session` must outlive the form.
+    frmMailCheats(Application& application, Session& session, GamesToPick games);
+
+    StaticLabel Label1{*this, L"Select the games whose cheat codes you want to include.", {}};
+    ListBox List1{*this, {}, ListBox::Picking::Several};
+    StaticLabel Label7{*this, L"(Press CTRL-Arrow Key to go to the next selected item.)", {}};
+    /// Never shown: the names of the picked games, in the list's order.
+    ListBox List2{*this, {}};
+    StaticLabel Label2{*this, L"Your Name:", {}};
+    TextBox Text1{*this, {}};
+    StaticLabel Label3{*this, L"Friend's Name:", {}};
+    TextBox Text2{*this, {}};
+    StaticLabel Label4{*this, L"Friend's E-mail", {}};
+    TextBox Text4{*this, {}};
+    StaticLabel Label5{*this, L"Message for friend:", {}};
+    TextBox Text3{*this, {}, TextBoxKind::Writing};
+    OptionButton Option1{*this, L"Include cheats in e-mail", {}, OptionButton::Group::Starts};
+    OptionButton Option2{*this, L"Include cheats in an attached text file", {}, OptionButton::Group::Continues};
+    Button Command1{*this, L"&Send!", {}};
+    Button Command2{*this, L"&Cancel", {}};
+    Label Label6{*this, L"Please wait...", {}};
+    TextBox Text5{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
+    Timer Timer1{*this, 1};
+
+  private:
+    void bind();
+    void bind_inputs();
+    void bind_hover_help();
+
+    void Form_Load();
+    void Form_Resize();
+    void Form_Unload();
+    void List1_Click();
+    void List1_KeyDown(KeyEvent& event);
+    void Text2_Change();
+    void Text3_DblClick();
+
+    void UpdateSendButton();
+    void SendCheats();
+    std::wstring picked_cheats() const;
+    void lay_out_list(double width);
+    void lay_out_letter(double left);
+
+    Session& session_;
+    GamesToPick games_;
+    HoverHelp hover_help_{session_.pointer, Text5, Timer1};
+};
+
+}  // namespace quillomat

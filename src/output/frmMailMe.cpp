@@ -1,0 +1,133 @@
+#include "output/frmMailMe.h"
+
+#include "common/pointer.h"
+#include "common/window_settings.h"
+#include "output/mail_window.h"
+#include "text/mail.h"
+#include "text/product.h"
+#include "text/window_size.h"
+#include "win/mail_client.h"
+
+namespace quillomat {
+namespace {
+
+constexpr WindowSize minimum_size{5715, 3960};
+
+}  // namespace
+
+frmMailMe::frmMailMe(Application& application, Session& session)
+    : Form(application, {.name = L"frmMailMe",
+                         .caption = L"Mail me!",
+                         .width = settings::frmMailMeWidth.fallback,
+                         .height = settings::frmMailMeHeght.fallback,
+                         .minimum_width = minimum_size.width,
+                         .minimum_height = minimum_size.height}),
+      session_(session) {
+    Label6.set_visible(false);
+    bind();
+    bind_hover_help();
+    UpdateSendButton();
+}
+
+void frmMailMe::bind() {
+    on_load = [this] { Form_Load(); };
+    on_resize = [this] { Form_Resize(); };
+    on_unload = [this] { Form_Unload(); };
+    on_mouse_down = [this](const MouseEvent& event) {
+        if (event.button == MouseButton::Left) drag();
+    };
+    Combo1.on_change = [this] { UpdateSendButton(); };
+    Combo1.on_key_down = [this](KeyEvent& event) { Combo1_KeyDown(event); };
+    keep_line_count(Text1);
+    Text1.on_change = [this, show_line_count = Text1.on_change] {
+        show_line_count();
+        UpdateSendButton();
+    };
+    Command1.on_click = [this] { SendToAuthor(); };
+    Command2.on_click = [this] { close(); };
+}
+
+void frmMailMe::bind_hover_help() {
+    hover_help_.add(Command1, L"Click here to send the message(to me!)");
+    hover_help_.add(Command2, L"Click here to cancel the message (too bad)");
+    for (Button* button : {&Command1, &Command2}) {
+        button->on_mouse_move = [this, button](const MouseEvent& event) { place_help_box(Text2, *button, event); };
+    }
+    // The help box never keeps the focus.
+    Text2.on_got_focus = [this] {
+        Text2.set_visible(false);
+        (Command1.enabled() ? Command1 : Command2).set_focus();
+    };
+    Timer1.on_timer = [this] { hover_help_.tick(); };
+}
+
+void frmMailMe::Form_Load() {
+    tell_mail_requirements(*this);
+    const Settings& stored = session_.settings;
+    set_window_state(window_state_of(stored.read(settings::frmMailMeWindowState)));
+    set_height(stored.read(settings::frmMailMeHeght));
+    set_width(stored.read(settings::frmMailMeWidth));
+    centre_on_screen();
+    for (const wchar_t* subject : canned_subjects) Combo1.add(subject);
+    Form_Resize();
+    CenterMouseOn(Command1.window());
+}
+
+void frmMailMe::Form_Unload() {
+    const Settings& store = session_.settings;
+    store.write(settings::frmMailMeWindowState, static_cast<std::int32_t>(window_state()));
+    if (window_state() != WindowState::Normal) return;
+    store.write(settings::frmMailMeHeight, stored_size(height()));
+    store.write(settings::frmMailMeWidth, stored_size(width()));
+}
+
+void frmMailMe::Form_Resize() {
+    if (window_state() == WindowState::Minimised) return;
+    const WindowSize size{width(), height()};
+    if (const auto corrected = corrected_size(size, minimum_size, to_twips(1, dpi()))) {
+        // Each correction resizes the window, and the layout comes with that.
+        corrected->height != size.height ? set_height(corrected->height) : set_width(corrected->width);
+        return;
+    }
+    Combo1.set_width(size.width - 345);
+    Text1.set_width(size.width - 345);
+    Text1.set_height(size.height - 1860);
+    const double buttons_top = size.height - 915;
+    Command1.set_left(size.width - 1575);
+    Command1.set_top(buttons_top);
+    Command2.set_left(size.width - 3315);
+    Command2.set_top(buttons_top);
+    Label6.set_top(buttons_top + 45);
+}
+
+void frmMailMe::Combo1_KeyDown(KeyEvent& event) {
+    if (event.key != keys::enter) return;
+    event.handled = true;
+    Text1.set_focus();
+}
+
+void frmMailMe::UpdateSendButton() {
+    Command1.set_enabled(!Text1.empty() && !Combo1.text().empty());
+    // One stray press of Escape does not throw away what was written.
+    set_cancel_button(Text1.empty() ? &Command2 : nullptr);
+}
+
+void frmMailMe::propose_message(const std::wstring& text) {
+    if (Text1.empty()) Text1.set_text(text);
+}
+
+void frmMailMe::SendToAuthor() {
+    {
+        const Sending sending(*this, Label6);
+        MailSession mail_session(window());
+        mail_session.send({.address = product::mail_address,
+                           .name = product::author,
+                           .subject = author_mail_subject(Combo1.text()),
+                           .text = Text1.text(),
+                           .attachment = {}});
+    }
+    tell_message_sent(*this);
+    close();
+}
+
+}  // namespace quillomat
