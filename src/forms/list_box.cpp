@@ -99,12 +99,22 @@ int ListBox::item_from_point(int x, int y) const {
 void ListBox::notified(WORD code) {
     switch (code) {
         case LBN_SELCHANGE:
+            told_of_change_ = true;
             raise(on_click);
             break;
         case LBN_DBLCLK:
             raise(on_double_click);
             break;
     }
+}
+
+LRESULT ListBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    const bool picks_by_key = picking_ == Picking::Several && message == WM_KEYDOWN && wparam == VK_SPACE;
+    told_of_change_ = false;
+    const LRESULT result = Control::handle_message(message, wparam, lparam);
+    // Wine picks, but tells nobody.
+    if (picks_by_key && !told_of_change_) raise(on_click);
+    return result;
 }
 
 }  // namespace quillomat

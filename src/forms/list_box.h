@@ -60,10 +60,14 @@ class ListBox : public Control {
 
     void notified(WORD code) override;
 
+  protected:
+    LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
+
   private:
     std::optional<int> find(std::wstring_view text) const;
 
     Picking picking_;
+    bool told_of_change_ = false;
 };
 
 }  // namespace quillomat

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "common/session.h"
+#include "forms/button.h"
+#include "support.h"
+#include "temporary.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+/// Makes the machine's part of the registry, as this process sees it, an empty one of the test's own.
+class MachineRegistry {
+  public:
+    MachineRegistry() {
+        RegCreateKeyExW(HKEY_CURRENT_USER, path_.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr);
+        RegOverridePredefKey(HKEY_LOCAL_MACHINE, key_);
+    }
+    ~MachineRegistry() {
+        RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
+        RegCloseKey(key_);
+        RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str());
+    }
+    MachineRegistry(const MachineRegistry&) = delete;
+    MachineRegistry& operator=(const MachineRegistry&) = delete;
+
+    static void write(const wchar_t* key, const wchar_t* name, const std::wstring& text) {
+        RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, name, REG_SZ, text.c_str(),
+                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+    }
+
+  private:
+    std::wstring path_ = L"Software\\QuillomatTestMachine" + std::to_wstring(GetCurrentProcessId());
+    HKEY key_ = nullptr;
+};
+
+/// A window that sends mails, on a computer whose default mail program is the tests' own.
+class MailTest : public WindowTest {
+  protected:
+    MailTest() {
+        session.program_folder = folder.path().wstring();
+        session.settings = registry.settings();
+        // What a run that was ended has left behind is no record of this one.
+        std::filesystem::remove_all(record());
+        std::filesystem::create_directories(record());
+        SetEnvironmentVariableW(L"QUILLOMAT_MAIL_FOLDER", record().c_str());
+        refuse(L"");
+        MachineRegistry::write(L"Software\\Clients\\Mail", nullptr, L"Recorder");
+        MachineRegistry::write(L"Software\\Clients\\Mail\\Recorder", L"DLLPath", recorder_path());
+    }
+
+    /// Has the mail program refuse a call, as in "MAPILogon=3"; an empty text has it refuse none.
+    static void refuse(const wchar_t* call) { SetEnvironmentVariableW(L"QUILLOMAT_MAIL_REFUSE", call); }
+
+    /// As the user does, so that what goes wrong is shown to the user.
+    static void press(const Button& button) { SendMessageW(button.window(), BM_CLICK, 0, 0); }
+
+    /// The calls the mail program has received since this was last asked.
+    std::vector<std::string> calls() const {
+        std::ifstream file(record() / "calls.txt");
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(file, line);) lines.push_back(line);
+        file.close();
+        std::filesystem::remove(record() / "calls.txt");
+        return lines;
+    }
+    /// A part of the last mail, or a file that went with it.
+    std::string sent(const char* part) const { return content(record() / part); }
+    bool sent_a_file() const { return !std::filesystem::is_empty(record() / "files"); }
+
+    static std::string content(const std::filesystem::path& path) {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator(file), {}};
+    }
+
+    void expect_requirements() {
+        expect_message(
+            L"Message",
+            L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, "
+            L"Netscape, Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You "
+            L"cannot send e-mail from Quillomat if you use Hotmail or any other web based e-mail.");
+    }
+
+    TemporaryFolder folder;
+    TemporarySettings registry;
+    MachineRegistry machine;
+    Session session;
+
+  private:
+    std::filesystem::path record() const { return folder.path() / "record"; }
+
+    static std::wstring recorder_path() {
+        wchar_t path[MAX_PATH];
+        GetModuleFileNameW(nullptr, path, MAX_PATH);
+        return std::filesystem::path(path).replace_filename(L"mapi_recorder.dll").wstring();
+    }
+};
+
+}  // namespace quillomat
