@@ -47,7 +47,7 @@ std::wstring ListBox::item(int index) const {
 }
 
 std::optional<int> ListBox::selected_index() const {
-    const LRESULT index = send(LB_GETCURSEL);
+    const LRESULT index = send(picking_ == Picking::Several ? LB_GETCARETINDEX : LB_GETCURSEL);
     // An empty list for picking several still has its cursor at 0.
     return index == LB_ERR || index >= count() ? std::nullopt : std::optional(static_cast<int>(index));
 }
@@ -110,7 +110,7 @@ void ListBox::notified(WORD code) {
 
 LRESULT ListBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     const bool picks_by_key = picking_ == Picking::Several && message == WM_KEYDOWN && wparam == VK_SPACE;
-    told_of_change_ = false;
+    if (picks_by_key) told_of_change_ = false;
     const LRESULT result = Control::handle_message(message, wparam, lparam);
     // Wine picks, but tells nobody.
     if (picks_by_key && !told_of_change_) raise(on_click);

@@ -244,6 +244,7 @@ TEST_F(MailCheatsTest, PicksAreCountedAndNamedAndTheCursorWalksThroughThem) {
     EXPECT_EQ(form->List1.tool_tip(), L"You have selected 2 games. These are: Game 5, \u00C9t\u00E9 7");
     EXPECT_EQ(form->List2.item(1), L"\u00C9t\u00E9 7");
     form->List1.set_picked(59, true);
+    form->List1.select_index(7);
 
     const struct {
         WORD key;
