@@ -6,11 +6,10 @@
 
 namespace quillomat {
 
-/// The window state that a stored number stands for; a number of no state stands for the normal one.
+/// The window state that a stored number stands for; the normal one for a number that stands for none.
 WindowState window_state_of(std::int32_t stored);
 
-/// A width or height in twips as the settings can hold it: of a larger one, as very large screens allow, the largest
-/// they can.
+/// A size in twips as the settings hold it: the largest one they can for a window on a very large screen.
 std::int16_t stored_size(double twips);
 
 }  // namespace quillomat

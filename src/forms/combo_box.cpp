@@ -38,10 +38,6 @@ void ComboBox::notified(WORD code) {
     if (code == CBN_SELCHANGE || code == CBN_EDITCHANGE) raise(on_change);
 }
 
-bool ComboBox::keeps_escape() const {
-    return send(CB_GETDROPPEDSTATE) != 0;
-}
-
 void ComboBox::apply_bounds() {
     // To the system, the height of the box includes that of its list.
     const Bounds& bounds = exact_bounds();

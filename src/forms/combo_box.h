@@ -23,8 +23,6 @@ class ComboBox : public Control {
     void set_text(std::wstring_view text);
 
     void notified(WORD code) override;
-    /// The open list is closed first.
-    bool keeps_escape() const override;
 
   protected:
     void apply_bounds() override;

@@ -59,8 +59,6 @@ class Control : public Item {
     /// Raises the key event for a message that is still on its way, before the dialog keys are looked at; true when the
     /// handler kept the key.
     bool preview_key(const MSG& message);
-    /// Whether Escape is for the control itself just now.
-    virtual bool keeps_escape() const { return false; }
     void forget_previewed_key() { key_previewed_ = false; }
 
   protected:

@@ -77,7 +77,11 @@ bool Form::handle_dialog_key(const MSG& message) {
             return true;
         }
         case VK_ESCAPE:
-            if (const Control* control = Control::from(message.hwnd); control && control->keeps_escape()) return false;
+            // A list that is dropped down closes first.
+            if (const Control* control = Control::from(message.hwnd);
+                control && SendMessageW(control->window(), CB_GETDROPPEDSTATE, 0, 0)) {
+                return false;
+            }
             if (!cancel_button_ || !cancel_button_->enabled()) return false;
             cancel_button_->click();
             return true;

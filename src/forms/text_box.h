@@ -31,7 +31,7 @@ class TextBox : public Control {
     void set_text(std::wstring_view text);
     bool empty() const { return GetWindowTextLengthW(window()) == 0; }
 
-    /// Lines as the box shows them: where it breaks a line, that counts as two. At least 1.
+    /// The number of lines as they are shown; an empty text has one.
     int line_count() const;
 
     std::size_t selection_start() const;
