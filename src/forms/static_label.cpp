@@ -12,4 +12,10 @@ HBRUSH StaticLabel::prepare_colours(HDC canvas) {
     return Control::prepare_colours(canvas);
 }
 
+void StaticLabel::apply_bounds() {
+    Control::apply_bounds();
+    // Its lines may break elsewhere now, which the system does not think of.
+    InvalidateRect(window(), nullptr, TRUE);
+}
+
 }  // namespace quillomat

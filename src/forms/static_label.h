@@ -11,6 +11,9 @@ class StaticLabel : public Control {
     StaticLabel(Container& container, std::wstring_view caption, Bounds bounds);
 
     HBRUSH prepare_colours(HDC canvas) override;
+
+  protected:
+    void apply_bounds() override;
 };
 
 }  // namespace quillomat

@@ -90,15 +90,15 @@ void frmMailCheats::bind_inputs() {
 void frmMailCheats::bind_hover_help() {
     hover_help_.add(Command1, L"Send E-mail!");
     hover_help_.add(Command2, L"Cancel E-mail");
-    for (Button* button : {&Command1, &Command2}) {
-        button->on_mouse_move = [this, button](const MouseEvent& event) { place_help_box(Text5, *button, event); };
-    }
     // The help box never keeps the focus.
     Text5.on_got_focus = [this] {
         Text5.set_visible(false);
         (Command1.enabled() ? Command1 : Command2).set_focus();
     };
-    Timer1.on_timer = [this] { hover_help_.tick(); };
+    Timer1.on_timer = [this] {
+        hover_help_.tick();
+        place_help_box(Text5, session_.pointer);
+    };
 }
 
 void frmMailCheats::Form_Load() {

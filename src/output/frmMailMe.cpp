@@ -50,15 +50,15 @@ void frmMailMe::bind() {
 void frmMailMe::bind_hover_help() {
     hover_help_.add(Command1, L"Click here to send the message(to me!)");
     hover_help_.add(Command2, L"Click here to cancel the message (too bad)");
-    for (Button* button : {&Command1, &Command2}) {
-        button->on_mouse_move = [this, button](const MouseEvent& event) { place_help_box(Text2, *button, event); };
-    }
     // The help box never keeps the focus.
     Text2.on_got_focus = [this] {
         Text2.set_visible(false);
         (Command1.enabled() ? Command1 : Command2).set_focus();
     };
-    Timer1.on_timer = [this] { hover_help_.tick(); };
+    Timer1.on_timer = [this] {
+        hover_help_.tick();
+        place_help_box(Text2, session_.pointer);
+    };
 }
 
 void frmMailMe::Form_Load() {

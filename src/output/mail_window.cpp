@@ -32,11 +32,15 @@ Sending::~Sending() {
     if (focused_) focused_->set_focus();
 }
 
-void place_help_box(TextBox& help_box, const Control& control, const MouseEvent& pointer) {
+void place_help_box(TextBox& help_box, const PointerState& pointer) {
     constexpr double above_pointer = 500;
-    const double free_width = std::max(0.0, help_box.form().inner_width() - help_box.width());
-    help_box.move({std::clamp(control.left() + pointer.x - help_box.width() / 2, 0.0, free_width),
-                   std::max(0.0, control.top() + pointer.y - above_pointer), help_box.width(), help_box.height()});
+    if (!help_box.visible()) return;
+    const Form& form = help_box.form();
+    POINT position = pointer.PointerPos;
+    ScreenToClient(form.window(), &position);
+    const double free_width = std::max(0.0, form.inner_width() - help_box.width());
+    help_box.set_left(std::clamp(to_twips(position.x, form.dpi()) - help_box.width() / 2, 0.0, free_width));
+    help_box.set_top(std::max(0.0, to_twips(position.y, form.dpi()) - above_pointer));
 }
 
 void keep_line_count(TextBox& message) {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "common/pointer.h"
 #include "forms/application.h"
-#include "forms/events.h"
 #include "forms/form.h"
 
 namespace quillomat {
@@ -31,8 +31,8 @@ class Sending {
     ModalScope modal_;
 };
 
-/// Moves a help box above the pointer, which is over a control; inside of the window, as far as it fits.
-void place_help_box(TextBox& help_box, const Control& control, const MouseEvent& pointer);
+/// Moves a help box that is shown above the pointer as it was last read; inside of the window, as far as it fits.
+void place_help_box(TextBox& help_box, const PointerState& pointer);
 
 /// Keeps the tooltip of a message's box saying how many lines it has.
 void keep_line_count(TextBox& message);

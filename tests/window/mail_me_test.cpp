@@ -138,6 +138,11 @@ TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
     const auto is_dropped = [this] { return SendMessageW(form->Combo1.window(), CB_GETDROPPEDSTATE, 0, 0) != 0; };
     press_key(VK_DOWN, {VK_MENU});
     ASSERT_TRUE(pump_until(is_dropped));
+    pump();
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    GetGUIThreadInfo(GetCurrentThreadId(), &thread);
+    EXPECT_FALSE(thread.flags & GUI_INMENUMODE) << "letting go of Alt is no request for the menu";
     press_key(VK_ESCAPE);
     ASSERT_TRUE(pump_until([&] { return !is_dropped(); }));
     ASSERT_FALSE(form->closed());
@@ -166,6 +171,7 @@ TEST_F(MailMeTest, HelpAppearsWhileThePointerIsOnAButton) {
                             [this] { return form->Text2.visible(); }));
     EXPECT_EQ(form->Text2.text(), L"Click here to cancel the message (too bad)");
     EXPECT_EQ(form->Command2.back_colour().value, 0xFF8080u);
+    EXPECT_TRUE(pump_until([this] { return form->Text2.top() > form->Text1.top(); })) << "near the button";
     ASSERT_TRUE(point_until(form->window(), 5, 5, [this] { return !form->Text2.visible(); }));
 }
 
