@@ -35,6 +35,8 @@ void ComboBox::notified(WORD code) {
         // The system puts the picked text into the box only after it has told of it.
         send(CB_SETCURSEL, static_cast<WPARAM>(send(CB_GETCURSEL)));
     }
+    // Only the input that has the focus shows a selection.
+    if (code == CBN_KILLFOCUS || (code == CBN_CLOSEUP && !has_focus())) send(CB_SETEDITSEL, 0, MAKELPARAM(-1, 0));
     if (code == CBN_SELCHANGE || code == CBN_EDITCHANGE) raise(on_change);
 }
 
