@@ -90,15 +90,13 @@ void frmMailCheats::bind_inputs() {
 void frmMailCheats::bind_hover_help() {
     hover_help_.add(Command1, L"Send E-mail!");
     hover_help_.add(Command2, L"Cancel E-mail");
+    keep_above_pointer(Text5, hover_help_, {&Command1, &Command2});
     // The help box never keeps the focus.
     Text5.on_got_focus = [this] {
         Text5.set_visible(false);
         (Command1.enabled() ? Command1 : Command2).set_focus();
     };
-    Timer1.on_timer = [this] {
-        hover_help_.tick();
-        place_help_box(Text5, session_.pointer);
-    };
+    Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 
 void frmMailCheats::Form_Load() {

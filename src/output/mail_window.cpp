@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "forms/control.h"
+#include "common/hover_help.h"
+#include "forms/button.h"
 #include "forms/graphics.h"
 #include "forms/message_box.h"
 #include "forms/text_box.h"
@@ -32,15 +33,18 @@ Sending::~Sending() {
     if (focused_) focused_->set_focus();
 }
 
-void place_help_box(TextBox& help_box, const PointerState& pointer) {
-    constexpr double above_pointer = 500;
-    if (!help_box.visible()) return;
-    const Form& form = help_box.form();
-    POINT position = pointer.PointerPos;
-    ScreenToClient(form.window(), &position);
-    const double free_width = std::max(0.0, form.inner_width() - help_box.width());
-    help_box.set_left(std::clamp(to_twips(position.x, form.dpi()) - help_box.width() / 2, 0.0, free_width));
-    help_box.set_top(std::max(0.0, to_twips(position.y, form.dpi()) - above_pointer));
+void keep_above_pointer(TextBox& help_box, HoverHelp& hover_help, std::initializer_list<Button*> buttons) {
+    const auto place = [&help_box](const Control& control, const MouseEvent& pointer) {
+        constexpr double above_pointer = 500;
+        const double free_width = std::max(0.0, help_box.form().inner_width() - help_box.width());
+        const double left = control.left() + pointer.x - help_box.width() / 2;
+        const double top = control.top() + pointer.y - above_pointer;
+        help_box.move({std::clamp(left, 0.0, free_width), std::max(0.0, top), help_box.width(), help_box.height()});
+    };
+    for (Button* button : buttons) {
+        button->on_mouse_move = [place, button](const MouseEvent& pointer) { place(*button, pointer); };
+    }
+    hover_help.on_shown = place;
 }
 
 void keep_line_count(TextBox& message) {

@@ -1,12 +1,15 @@
 #pragma once
 
-#include "common/pointer.h"
+#include <initializer_list>
+
 #include "forms/application.h"
 #include "forms/form.h"
 
 namespace quillomat {
 
+class Button;
 class Control;
+class HoverHelp;
 class Label;
 class TextBox;
 
@@ -31,8 +34,8 @@ class Sending {
     ModalScope modal_;
 };
 
-/// Moves a help box that is shown above the pointer as it was last read; inside of the window, as far as it fits.
-void place_help_box(TextBox& help_box, const PointerState& pointer);
+/// Keeps a help box above the pointer while that is on one of the buttons; inside of the window, as far as it fits.
+void keep_above_pointer(TextBox& help_box, HoverHelp& hover_help, std::initializer_list<Button*> buttons);
 
 /// Keeps the tooltip of a message's box saying how many lines it has.
 void keep_line_count(TextBox& message);
