@@ -165,10 +165,6 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SETFOCUS:
             restore_focus();
             return 0;
-        case WM_SYSCOMMAND:
-            // Alt let go after a key that a control kept for itself, as Alt+Down: that was no request for the menu.
-            if ((wparam & 0xFFF0) == SC_KEYMENU && lparam == 0 && alt_had_company_) return 0;
-            break;
         case WM_SETCURSOR:
             if (pointer_ == PointerShape::Hourglass) {
                 SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)));

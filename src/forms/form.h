@@ -174,7 +174,6 @@ class Form : public Container, public MouseEvents {
     bool shown_ = false;
     bool closed_ = false;
     int handlers_running_ = 0;
-    bool alt_had_company_ = false;
 };
 
 /// Shows the hourglass over a form for as long as it lives.

@@ -34,7 +34,6 @@ void collect_tab_stops(const Container& container, std::vector<HWND>& stops) {
 
 bool Form::translate(MSG& message) {
     if (closed_) return false;
-    if (message.message == WM_SYSKEYDOWN) alt_had_company_ = message.wParam != VK_MENU && message.wParam != VK_F10;
     bool handled = false;
     guarded([&] {
         if (message.message == WM_MOUSEMOVE) raise(on_pointer_moved);
