@@ -52,6 +52,10 @@ void frmMain::dress() {
 
 void frmMain::bind() {
     on_load = [this] { Form_Load(); };
+    // A new resolution brings borders of another size.
+    on_resize = [this] {
+        if (window_state() == WindowState::Normal) set_inner_size(design_width, design_height);
+    };
     on_unload = [this] { raise(windows_.close_all); };
     for (MouseEvents* surface : {static_cast<MouseEvents*>(this), static_cast<MouseEvents*>(&Picture1),
                                  static_cast<MouseEvents*>(&Name), static_cast<MouseEvents*>(&Subtitle),
@@ -210,8 +214,10 @@ void frmMain::Timer2_Timer() {
     set_default_button(&Command1);
     Command3.set_caption(L"Are you sure?");
     const ExitConfirmation before = exit_confirmation();
-    place(next_asking(before));
-    if (exit_confirmation() == before) {
+    const ExitConfirmation next = next_asking(before);
+    if (next != before) {
+        place(next);
+    } else if (Command1.top() != Command3.top()) {
         // By the rounding to pixels they have come to rest a little above or below the exit button.
         Command1.set_top(Command3.top());
         Command2.set_top(Command3.top());

@@ -255,6 +255,20 @@ TEST_F(MainScreenTest, NothingIsCutOffAtAnyResolution) {
     }
 }
 
+TEST_F(MainScreenTest, KeepsItsLayoutOnAScreenOfAnotherResolution) {
+    open();
+    RECT area{};
+    GetWindowRect(form->window(), &area);
+    const RECT suggested{50, 50, 50 + (area.right - area.left) * 3 / 2, 50 + (area.bottom - area.top) * 3 / 2};
+    SendMessageW(form->window(), WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
+    EXPECT_EQ(form->dpi(), 144);
+    EXPECT_NEAR(form->inner_width(), frmMain::design_width, 10);
+    EXPECT_NEAR(form->inner_height(), frmMain::design_height, 10);
+    RECT exit{};
+    GetWindowRect(form->Command3.window(), &exit);
+    EXPECT_EQ(exit.right - exit.left, to_pixels(5415, 144));
+}
+
 class WholeProgramTest : public MainScreenTest {
   protected:
     WholeProgramTest() {

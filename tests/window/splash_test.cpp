@@ -68,6 +68,15 @@ TEST_F(SplashTest, NothingStandsOutsideOrOnSomethingElse) {
     }
 }
 
+TEST_F(SplashTest, GrowsWithTheResolutionOfTheScreen) {
+    open();
+    const double name_width = splash->Label1.back().left() - splash->Label1.front().left();
+    const RECT suggested{50, 50, 50 + 700, 50 + 420};
+    SendMessageW(splash->window(), WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
+    EXPECT_EQ(splash->Background.pixels().right, 700);
+    EXPECT_NEAR(splash->Label1.back().left() - splash->Label1.front().left(), name_width, name_width / 20);
+}
+
 TEST_F(SplashTest, TheVersionSlidesInFromOutside) {
     open();
     EXPECT_EQ(splash->Label2.caption(), L"5.0");
