@@ -105,6 +105,7 @@ class Form : public Container, public MouseEvents {
     /// The buttons that Enter and Escape press; null for none.
     void set_default_button(Button* button);
     Button* default_button() const { return default_button_; }
+    void set_cancel_button(Button* button) { cancel_button_ = button; }
 
     /// Shows a menu at a position in twips and runs the command the user picks; `default_item` is drawn bold.
     void pop_up(Menu& menu, double left, double top, const Menu* default_item = nullptr);
@@ -164,6 +165,7 @@ class Form : public Container, public MouseEvents {
     int next_control_id_ = 1000;
     int next_command_id_ = 100;
     Button* default_button_ = nullptr;
+    Button* cancel_button_ = nullptr;
     HWND last_focus_ = nullptr;
     WindowState state_ = WindowState::Normal;
     PointerShape pointer_ = PointerShape::Default;

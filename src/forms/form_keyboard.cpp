@@ -76,6 +76,12 @@ bool Form::handle_dialog_key(const MSG& message) {
             if (button->enabled() && IsWindowVisible(button->window())) button->click();
             return true;
         }
+        case VK_ESCAPE:
+            // A list that is dropped down closes first.
+            if (SendMessageW(message.hwnd, CB_GETDROPPEDSTATE, 0, 0)) return false;
+            if (!cancel_button_ || !cancel_button_->enabled()) return false;
+            cancel_button_->click();
+            return true;
         default:
             return false;
     }

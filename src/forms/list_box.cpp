@@ -4,9 +4,11 @@
 
 namespace quillomat {
 
-ListBox::ListBox(Container& container, Bounds bounds)
+ListBox::ListBox(Container& container, Bounds bounds) : ListBox(container, bounds, 0) {}
+
+ListBox::ListBox(Container& container, Bounds bounds, DWORD further_style)
     : Control(container, bounds, L"LISTBOX", {},
-              LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP,
+              LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP | further_style,
               WS_EX_CLIENTEDGE) {
     set_default_back_colour(colours::window);
 }

@@ -50,6 +50,10 @@ class ListBox : public Control {
 
     void notified(WORD code) override;
 
+  protected:
+    /// A list of another style, such as one that draws its items itself.
+    ListBox(Container& container, Bounds bounds, DWORD further_style);
+
   private:
     std::optional<int> find(std::wstring_view text) const;
 };

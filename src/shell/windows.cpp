@@ -4,9 +4,12 @@
 
 #include "common/desktop.h"
 #include "forms/application.h"
+#include "output/frmAddNew.h"
+#include "output/frmSave.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
+#include "shell/viewer_link.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {
@@ -16,6 +19,8 @@ Windows::Windows(Application& application, Session& session) : application_(appl
     main_windows_.link = [this](const std::wstring& address) { OpenLink(*main_screen_, address); };
     main_windows_.close_all = [this] { application_.close_all_forms(); };
     viewer_windows_.restore_main_screen = [this] { restore_main_screen(); };
+    viewer_windows_.add_game = [this] { open_add_game(); };
+    viewer_windows_.save = [this] { open_save(); };
 }
 
 Windows::~Windows() = default;
@@ -55,6 +60,16 @@ void Windows::restore_main_screen() {
     if (main_screen_ && main_screen_->window_state() == WindowState::Minimised) {
         main_screen_->set_window_state(WindowState::Normal);
     }
+}
+
+void Windows::open_add_game() {
+    OpenViewer link(*viewer_);
+    frmAddNew(application_, session_, link).show_modal(viewer_.get());
+}
+
+void Windows::open_save() {
+    OpenViewer link(*viewer_);
+    frmSave(application_, session_, link).show_modal(nullptr);
 }
 
 void Windows::quit_after_last() {

@@ -1,8 +1,6 @@
 // Opening and closing the viewer: the database, the settings, and what is built from them.
 
-#include <algorithm>
-#include <limits>
-
+#include "common/window_settings.h"
 #include "forms/message_box.h"
 #include "text/error.h"
 #include "text/font_list.h"
@@ -11,19 +9,6 @@
 #include "win/database_file.h"
 
 namespace quillomat {
-namespace {
-
-WindowState window_state_of(std::int32_t stored) {
-    return stored == 1 ? WindowState::Minimised : stored == 2 ? WindowState::Maximised : WindowState::Normal;
-}
-
-// A window on a very large screen can be larger than the settings can say; the largest size they can is nearest.
-std::int16_t stored_size(double twips) {
-    return static_cast<std::int16_t>(std::min<double>(twips, std::numeric_limits<std::int16_t>::max()));
-}
-
-}  // namespace
-
 void frmCtlView::Form_Load() {
     List2.set_focus();
     try {
