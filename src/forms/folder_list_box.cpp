@@ -20,8 +20,8 @@ FolderListBox::FolderListBox(Container& container, Bounds bounds) : ListBox(cont
 
 void FolderListBox::fit_items() {
     const int size = to_pixels(icon_size, dpi());
-    closed_folder_ = ShellIcon(SIID_FOLDER, size);
-    open_folder_ = ShellIcon(SIID_FOLDEROPEN, size);
+    closed_folder_ = FolderIcon(FolderState::Closed, size);
+    open_folder_ = FolderIcon(FolderState::Open, size);
     send(LB_SETITEMHEIGHT, 0, size + 2);
 }
 
@@ -91,7 +91,7 @@ void FolderListBox::draw(const DRAWITEMSTRUCT& request) {
     // However deep a folder lies, half of the list's width is left for its name.
     const int indent = to_pixels(indentation * entries_[request.itemID].depth, dpi());
     area.left += std::min<LONG>(indent, (area.right - area.left) / 2) + 2;
-    const ShellIcon& icon = index < steps_ ? open_folder_ : closed_folder_;
+    const FolderIcon& icon = index < steps_ ? open_folder_ : closed_folder_;
     icon.draw(canvas, area.left, (area.top + area.bottom - size) / 2);
     area.left += size + to_pixels(gap, dpi());
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/folder_icon.h"
 #include "forms/list_box.h"
-#include "forms/shell_icon.h"
 
 namespace quillomat {
 
@@ -44,8 +44,8 @@ class FolderListBox : public ListBox {
     std::wstring path_;
     std::vector<Entry> entries_;
     int steps_ = 0;  // how many of the entries lead to the current folder
-    ShellIcon closed_folder_;
-    ShellIcon open_folder_;
+    FolderIcon closed_folder_;
+    FolderIcon open_folder_;
 };
 
 }  // namespace quillomat

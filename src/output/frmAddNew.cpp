@@ -1,5 +1,6 @@
 #include "output/frmAddNew.h"
 
+#include <algorithm>
 #include <new>
 #include <optional>
 #include <utility>
@@ -20,6 +21,9 @@ namespace {
 
 constexpr std::size_t add_button = 0;
 constexpr std::size_t cancel_button = 1;
+
+constexpr const wchar_t* help_texts[] = {L"Click here to add the game!",
+                                         L"Click here to leave without adding the game!"};
 
 /// The number of the first game below `count` with exactly this name.
 std::optional<int> find_game(const Catalogue& catalogue, int count, std::wstring_view name) {
@@ -53,6 +57,7 @@ void frmAddNew::bind() {
     on_mouse_down = [this](const MouseEvent& event) {
         if (event.button == MouseButton::Left) drag();
     };
+    on_mouse_move = [this](const MouseEvent& event) { Form_MouseMove(event); };
     Text1.on_change = [this] { UpdateAddButton(); };
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
     Text2.on_change = [this] {
@@ -69,10 +74,11 @@ void frmAddNew::bind() {
 }
 
 void frmAddNew::bind_hover_help() {
-    hover_help_.add(*cmdButton[add_button], L"Click here to add the game!");
-    hover_help_.add(*cmdButton[cancel_button], L"Click here to leave without adding the game!");
+    for (const std::size_t index : {add_button, cancel_button}) hover_help_.add(*cmdButton[index], help_texts[index]);
     for (const std::size_t index : {add_button, cancel_button}) {
-        cmdButton[index]->on_mouse_move = [this, index](const MouseEvent& event) { cmdButton_MouseMove(index, event); };
+        cmdButton[index]->on_mouse_move = [this, index](const MouseEvent& event) {
+            show_help_box(index, event.x, event.y);
+        };
     }
     // The help box never keeps the focus.
     Text3.on_got_focus = [this] {
@@ -141,19 +147,35 @@ void frmAddNew::leave_by_escape(KeyEvent& event) {
 }
 
 void frmAddNew::Timer1_Timer() {
-    // Only now does the window stand where it will stay.
-    if (!std::exchange(pointer_placed_, true)) CenterMouseOn(cmdButton[add_button]->window());
+    if (!std::exchange(pointer_placed_, true)) {
+        // Only now does the window stand where it will stay.
+        const Button& button = *cmdButton[add_button];
+        if (CenterMouseOn(button.window())) show_help_box(add_button, button.width() / 2, button.height() / 2);
+    }
     hover_help_.tick();
 }
 
-void frmAddNew::cmdButton_MouseMove(std::size_t index, const MouseEvent& event) {
+void frmAddNew::Form_MouseMove(const MouseEvent& event) {
+    // What a disabled button does not take of the mouse goes to the window, and the button has a help text all the
+    // same.
+    const Button& button = *cmdButton[add_button];
+    const double x = event.x - button.left();
+    const double y = event.y - button.top();
+    if (x >= 0 && x < button.width() && y >= 0 && y < button.height()) show_help_box(add_button, x, y);
+}
+
+void frmAddNew::show_help_box(std::size_t index, double x, double y) {
     // The text first, because the place depends on its width.
-    hover_help_.tick();
+    Text3.set_text(help_texts[index]);
+    Text3.fit_width_to_text();
+    Text3.bring_to_front();
     constexpr double most_centred = 330;
     const Button& button = *cmdButton[index];
-    const bool flush_right = index == add_button && event.x >= most_centred;
-    const double left = flush_right ? width() - Text3.width() : button.left() + event.x - Text3.width() / 2;
-    Text3.move({left, button.top() + event.y - 500, Text3.width(), Text3.height()});
+    const bool flush_right = index == add_button && x >= most_centred;
+    const double left = flush_right ? width() - Text3.width() : button.left() + x - Text3.width() / 2;
+    // The frame of the window would cover the end of the text.
+    const double last_left = inner_width() - Text3.width();
+    Text3.move({std::min(left, last_left), button.top() + y - 500, Text3.width(), Text3.height()});
     Text3.set_visible(true);
 }
 

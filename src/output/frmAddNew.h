@@ -47,10 +47,12 @@ class frmAddNew final : public Form {
     void Form_Load();
     void Form_Resize();
     void Form_Unload();
+    void Form_MouseMove(const MouseEvent& event);
     void Text1_KeyDown(KeyEvent& event);
     void Timer1_Timer();
-    void cmdButton_MouseMove(std::size_t index, const MouseEvent& event);
 
+    /// Shows the help text of a button for the pointer at a place in it, in twips.
+    void show_help_box(std::size_t index, double x, double y);
     void UpdateAddButton();
     void ShowLineCount();
     void leave_by_escape(KeyEvent& event);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <shellapi.h>
-
 #include <memory>
 #include <type_traits>
 
@@ -9,13 +7,15 @@
 
 namespace quillomat {
 
-/// One of the system's own pictures, such as that of a folder.
-class ShellIcon {
+enum class FolderState { Closed, Open };
+
+/// The system's own picture of a folder.
+class FolderIcon {
   public:
     /// No picture.
-    ShellIcon() = default;
+    FolderIcon() = default;
     /// A picture that is drawn this large, in pixels.
-    ShellIcon(SHSTOCKICONID which, int size);
+    FolderIcon(FolderState state, int size);
 
     void draw(HDC canvas, int left, int top) const;
 
