@@ -16,9 +16,6 @@
 namespace quillomat {
 namespace {
 
-constexpr wchar_t save_help[] = L"Save cheat codes";
-constexpr wchar_t cancel_help[] = L"Cancel save";
-
 constexpr double smallest_width = 6900;
 constexpr double smallest_height = 4200;
 
@@ -60,11 +57,8 @@ void frmSave::bind() {
 }
 
 void frmSave::bind_hover_help() {
-    hover_help_.add(Command1, save_help);
-    hover_help_.add(Command2, cancel_help);
-    for (Button* button : {&Command1, &Command2}) {
-        button->on_mouse_move = [this, button](const MouseEvent&) { place_help_box(*button); };
-    }
+    hover_help_.add(Command1, L"Save cheat codes");
+    hover_help_.add(Command2, L"Cancel save");
     // The help box never keeps the focus.
     Text2.on_got_focus = [this] {
         Text2.set_visible(false);
@@ -176,18 +170,15 @@ bool frmSave::may_be_written() const {
 }
 
 void frmSave::Timer1_Timer() {
-    if (!std::exchange(pointer_placed_, true)) {
-        // Only now does the window stand where it will stay.
-        CenterMouseOn(Command1.window());
-        place_help_box(Command1);
-    }
+    // Only now does the window stand where it will stay.
+    if (!std::exchange(pointer_placed_, true)) CenterMouseOn(Command1.window());
     hover_help_.tick();
+    for (const Button* button : {&Command1, &Command2}) {
+        if (session_.pointer.PointerWindow == button->window()) place_help_box(*button);
+    }
 }
 
 void frmSave::place_help_box(const Button& button) {
-    // The text first, because the place depends on its width.
-    Text2.set_text(&button == &Command1 ? save_help : cancel_help);
-    Text2.fit_width_to_text();
     const double left = std::min(button.left(), inner_width() - Text2.width());
     Text2.move({left, button.top() + button.height() + 30, Text2.width(), Text2.height()});
 }
