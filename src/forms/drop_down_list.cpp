@@ -1,7 +1,5 @@
 #include "forms/drop_down_list.h"
 
-#include <algorithm>
-
 #include "text/error.h"
 
 namespace quillomat {
@@ -15,7 +13,7 @@ constexpr int most_texts_shown = 12;
 
 DropDownList::DropDownList(Container& container, Bounds bounds)
     : Control(container, bounds, L"COMBOBOX", {},
-              CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP) {
+              CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP | WS_GROUP) {
     set_default_back_colour(colours::window);
     fit_field();
     apply_bounds();
@@ -29,7 +27,6 @@ void DropDownList::add(std::wstring_view text) {
     if (send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
         throw Error(ErrorCode::OutOfMemory);
     }
-    apply_bounds();
 }
 
 std::optional<int> DropDownList::selected_index() const {
@@ -62,10 +59,9 @@ void DropDownList::fit_field() {
 }
 
 void DropDownList::apply_bounds() {
-    // The system counts the dropped-down list into the height of the window.
+    // The system counts the dropped-down list into the height of the window, and makes it no longer than its texts.
     const Bounds& bounds = exact_bounds();
-    const int texts = std::clamp(count(), 1, most_texts_shown);
-    const int list_height = texts * static_cast<int>(send(CB_GETITEMHEIGHT, 0)) + 2;
+    const int list_height = most_texts_shown * static_cast<int>(send(CB_GETITEMHEIGHT, 0));
     SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
                  to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,
                  SWP_NOZORDER | SWP_NOACTIVATE);

@@ -40,6 +40,8 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
     bind_hover_help();
     set_default_button(&Command1);
     set_cancel_button(&Command2);
+    // What is scrolled to while the dialog is filled depends on the sizes.
+    Form_Resize();
 }
 
 void frmSave::bind() {

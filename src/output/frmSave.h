@@ -27,7 +27,7 @@ class frmSave final : public Form {
     // In the order of the Tab key, column by column. The path stands before the caption of the folder list, because a
     // screen reader names a list by the text right before it.
     StaticLabel Label1{*this, L"File name:", {}};
-    TextBox Text1{*this, {120, 345, 2400, 315}};
+    TextBox Text1{*this, {}};
     StaticLabel FilesLabel{*this, L"Files", {}};
     FileListBox File1{*this, {}, L".txt"};
     StaticLabel Label4{*this, L"List files of type:", {}};

@@ -17,8 +17,8 @@ constexpr std::chrono::seconds patience{5};
 
 DriveKind kind_of(UINT type) {
     switch (type) {
-        case DRIVE_REMOVABLE:
-            return DriveKind::Removable;
+        case DRIVE_FIXED:
+            return DriveKind::Fixed;
         case DRIVE_CDROM:
             return DriveKind::Optical;
         case DRIVE_REMOTE:
@@ -26,7 +26,8 @@ DriveKind kind_of(UINT type) {
         case DRIVE_RAMDISK:
             return DriveKind::Memory;
         default:
-            return DriveKind::Fixed;
+            // Also one that the system does not know more about, such as one that is gone.
+            return DriveKind::Removable;
     }
 }
 

@@ -5,6 +5,7 @@
 #include "output/frmSave.h"
 #include "shell/windows.h"
 #include "shown_viewer.h"
+#include "text/error.h"
 #include "text/paths.h"
 
 namespace quillomat {
@@ -127,6 +128,25 @@ TEST_F(SaveTest, AFileThatCannotBeWrittenIsReportedAndTheDialogStays) {
     EXPECT_FALSE(window->closed());
 }
 
+TEST_F(SaveTest, WhatTheCodePageLacksIsNamedBeforeAnythingIsTouched) {
+    open_viewer(database);
+    session.catalogue.store(0, L"Half", L"a pair \xD83D");
+    open();
+    write("place/Half.txt", "old");
+    expect_message(L"Overwrite?", L"The cheat codes for " + full_path(L"Half.txt") +
+                                      L" already exist in this directory.\r\nDo you want to overwrite them?");
+    std::wstring reason;
+    try {
+        encode(L"\xD83D");
+    } catch (const Error& error) {
+        reason = error.description();
+    }
+    expect_message(L"Error!", reason);
+    save();
+    EXPECT_FALSE(window->closed());
+    EXPECT_EQ(bytes("place/Half.txt"), "old");
+}
+
 TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {
     std::filesystem::create_directories(place() / ".." / "place" / "inner" / "deep");
     std::filesystem::create_directories(place() / "hidden");
@@ -137,6 +157,7 @@ TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {
     open();
     EXPECT_EQ(items(window->File1), (std::vector<std::wstring>{L"B9.TXT", L"b10.txt"}));
     const auto steps = folder_steps(place().wstring());
+    EXPECT_LE(SendMessageW(window->Dir1.window(), LB_GETTOPINDEX, 0, 0), static_cast<LRESULT>(steps.size()) - 2);
     auto listed = items(window->Dir1);
     EXPECT_EQ(listed.size(), steps.size() + 1) << "the way here, and the one folder that is not hidden";
     EXPECT_EQ(listed.back(), L"inner");
