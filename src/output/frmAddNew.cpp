@@ -80,6 +80,9 @@ void frmAddNew::bind_hover_help() {
             show_help_box(index, event.x, event.y);
         };
     }
+    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) {
+        show_help_box(&button == cmdButton[add_button] ? add_button : cancel_button, event.x, event.y);
+    };
     // The help box never keeps the focus.
     Text3.on_got_focus = [this] {
         Text3.set_visible(false);
@@ -147,11 +150,8 @@ void frmAddNew::leave_by_escape(KeyEvent& event) {
 }
 
 void frmAddNew::Timer1_Timer() {
-    if (!std::exchange(pointer_placed_, true)) {
-        // Only now does the window stand where it will stay.
-        const Button& button = *cmdButton[add_button];
-        if (CenterMouseOn(button.window())) show_help_box(add_button, button.width() / 2, button.height() / 2);
-    }
+    // Only now does the window stand where it will stay.
+    if (!std::exchange(pointer_placed_, true)) CenterMouseOn(cmdButton[add_button]->window());
     hover_help_.tick();
 }
 

@@ -61,6 +61,7 @@ void frmSave::bind() {
 void frmSave::bind_hover_help() {
     hover_help_.add(Command1, L"Save cheat codes");
     hover_help_.add(Command2, L"Cancel save");
+    hover_help_.on_shown = [this](Control& button, const MouseEvent&) { place_help_box(button); };
     // The help box never keeps the focus.
     Text2.on_got_focus = [this] {
         Text2.set_visible(false);
@@ -175,12 +176,9 @@ void frmSave::Timer1_Timer() {
     // Only now does the window stand where it will stay.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(Command1.window());
     hover_help_.tick();
-    for (const Button* button : {&Command1, &Command2}) {
-        if (session_.pointer.PointerWindow == button->window()) place_help_box(*button);
-    }
 }
 
-void frmSave::place_help_box(const Button& button) {
+void frmSave::place_help_box(const Control& button) {
     const double left = std::min(button.left(), inner_width() - Text2.width());
     Text2.move({left, button.top() + button.height() + 30, Text2.width(), Text2.height()});
 }

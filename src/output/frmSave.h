@@ -54,7 +54,7 @@ class frmSave final : public Form {
     void Command1_Click();
     void Timer1_Timer();
 
-    void place_help_box(const Button& button);
+    void place_help_box(const Control& button);
     void open_first_folder();
     bool may_be_written() const;
 
