@@ -22,6 +22,7 @@ inline constexpr Colour menu{0x80000004};
 inline constexpr Colour window{0x80000005};
 inline constexpr Colour window_text{0x80000008};
 inline constexpr Colour highlight{0x8000000D};
+inline constexpr Colour highlight_text{0x8000000E};
 inline constexpr Colour button_face{0x8000000F};
 inline constexpr Colour grey_text{0x80000011};
 inline constexpr Colour button_text{0x80000012};

@@ -195,13 +195,17 @@ void Form::show() {
         if (closed_) return;
         DrawMenuBar(window_);
         place_on_screen();
+    }
+    // The layout that comes first is still that of the normal state.
+    const WindowState state = state_;
+    if (!shown_) {
         shown_ = true;
         resized();
         restore_focus();
     }
     constexpr int commands[] = {SW_SHOWNORMAL, SW_SHOWMINIMIZED, SW_SHOWMAXIMIZED};
-    ShowWindow(window_, IsWindowVisible(window_) ? SW_SHOW : commands[static_cast<int>(state_)]);
-    if (state_ != WindowState::Minimised) SetForegroundWindow(window_);
+    ShowWindow(window_, IsWindowVisible(window_) ? SW_SHOW : commands[static_cast<int>(state)]);
+    if (state != WindowState::Minimised) SetForegroundWindow(window_);
 }
 
 void Form::show_modal(Form* owner) {

@@ -7,11 +7,14 @@
 namespace quillomat {
 
 ListBox::ListBox(Container& container, Bounds bounds, Picking picking)
+    : ListBox(container, bounds, picking == Picking::Several ? DWORD{LBS_MULTIPLESEL} : 0) {
+    picking_ = picking;
+}
+
+ListBox::ListBox(Container& container, Bounds bounds, DWORD further_style)
     : Control(container, bounds, L"LISTBOX", {},
-              LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP |
-                  (picking == Picking::Several ? LBS_MULTIPLESEL : 0),
-              WS_EX_CLIENTEDGE),
-      picking_(picking) {
+              LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP | further_style,
+              WS_EX_CLIENTEDGE) {
     set_default_back_colour(colours::window);
 }
 

@@ -62,11 +62,13 @@ class ListBox : public Control {
 
   protected:
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
+    /// A list of another style, such as one that draws its items itself.
+    ListBox(Container& container, Bounds bounds, DWORD further_style);
 
   private:
     std::optional<int> find(std::wstring_view text) const;
 
-    Picking picking_;
+    Picking picking_ = Picking::One;
     bool told_of_change_ = false;
 };
 

@@ -4,11 +4,14 @@
 
 #include "common/desktop.h"
 #include "forms/application.h"
+#include "output/frmAddNew.h"
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
+#include "output/frmSave.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
+#include "shell/viewer_link.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {
@@ -24,6 +27,8 @@ Windows::Windows(Application& application, Session& session) : application_(appl
         open_author_mail();
         if (author_mail_) author_mail_->propose_message(text);
     };
+    viewer_windows_.add_game = [this] { open_add_game(); };
+    viewer_windows_.save = [this] { open_save(); };
 }
 
 Windows::~Windows() = default;
@@ -74,6 +79,16 @@ void Windows::mail_cheats() {
     for (int index = 0; index < viewer_->List2.count(); ++index) games.names.push_back(viewer_->List2.item(index));
     frmMailCheats form(application_, session_, std::move(games));
     form.show_modal(viewer_.get());
+}
+
+void Windows::open_add_game() {
+    OpenViewer link(*viewer_);
+    frmAddNew(application_, session_, link).show_modal(viewer_.get());
+}
+
+void Windows::open_save() {
+    OpenViewer link(*viewer_);
+    frmSave(application_, session_, link).show_modal(nullptr);
 }
 
 void Windows::quit_after_last() {

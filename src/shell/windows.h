@@ -37,6 +37,8 @@ class Windows {
     template <class Window, class... Arguments>
     void open(std::unique_ptr<Window>& place, Arguments&&... arguments);
     void restore_main_screen();
+    void open_add_game();
+    void open_save();
     void quit_after_last();
     void mail_cheats();
 

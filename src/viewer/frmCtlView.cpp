@@ -62,6 +62,10 @@ void frmCtlView::bind() {
     List2.on_click = [this] { List2_Click(); };
     menus.mnuSave.on_click = [this] { raise(windows_.save); };
     menus.mnuSelectedSave.on_click = [this] { raise(windows_.save); };
+    menus.mnuAddNew.on_click = [this] { raise(windows_.add_game); };
+    menus.mnuSelectedAddNew.on_click = [this] { raise(windows_.add_game); };
+    Image2[1].on_click = [this] { raise(windows_.save); };
+    Image2[2].on_click = [this] { raise(windows_.add_game); };
     menus.mnuExit.on_click = [this] { close(); };
     menus.mnuColour.on_click = [this] {
         menus.mnuColour.set_checked(!menus.mnuColour.checked());

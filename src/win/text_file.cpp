@@ -1,5 +1,6 @@
 #include "win/text_file.h"
 
+#include <cstddef>
 #include <memory>
 #include <new>
 
@@ -18,19 +19,10 @@ LONGLONG size_of(HANDLE file) {
     return size.QuadPart;
 }
 
-/// In one call, so that a program that is ended meanwhile has written either nothing or everything.
-void write_to_disk(HANDLE file, std::string_view bytes) {
+void write_all(HANDLE file, std::string_view bytes) {
     DWORD written = 0;
     if (!WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) throw_last_error();
     if (written != bytes.size()) throw Error(ErrorCode::DiskFull);
-    // A disk behind a cache may refuse only now.
-    if (!FlushFileBuffers(file)) throw_last_error();
-}
-
-void set_position(HANDLE file, LONGLONG position) {
-    LARGE_INTEGER distance{};
-    distance.QuadPart = position;
-    if (!SetFilePointerEx(file, distance, nullptr, FILE_BEGIN)) throw_last_error();
 }
 
 /// A file that may not be changed stays as it is, even where a folder or an administrator's rights would allow it.
@@ -59,6 +51,48 @@ enum class AtClosing { Keep, Delete };
 void set_fate(HANDLE file, AtClosing fate) {
     FILE_DISPOSITION_INFO info{fate == AtClosing::Delete};
     if (!SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info)) throw_last_error();
+}
+
+/// The name under which a file is written until it is complete. One that a program which was ended has left behind is
+/// written over.
+std::wstring unfinished_file_beside(const std::wstring& path) {
+    return path.substr(0, path.find_last_of(L"\\/") + 1) + L"~quillomat.tmp";
+}
+
+/// Adds the bytes of another file, which nobody may change meanwhile.
+void copy_content(HANDLE target, const std::wstring& source_path) {
+    const FileHandle source(CreateFileW(source_path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!source) throw_last_error();
+    constexpr DWORD block_size = 1 << 20;
+    const auto block = std::make_unique_for_overwrite<char[]>(block_size);
+    for (;;) {
+        DWORD read = 0;
+        if (!ReadFile(source.get(), block.get(), block_size, &read, nullptr)) throw_last_error();
+        if (read == 0) return;
+        write_all(target, {block.get(), read});
+    }
+}
+
+/// Gives an open file the name of another one, whose place it takes in one step.
+void take_place(HANDLE file, const std::wstring& path) {
+    const std::size_t name_size = path.size() * sizeof(wchar_t);
+    const std::size_t size = sizeof(FILE_RENAME_INFO) + name_size;
+    const auto buffer = std::make_unique<std::byte[]>(size);
+    auto& info = *new (buffer.get()) FILE_RENAME_INFO{};
+    info.ReplaceIfExists = TRUE;
+    info.FileNameLength = static_cast<DWORD>(name_size);
+    path.copy(info.FileName, path.size());
+    // A virus scanner or an indexer looks into every file that changes, and nobody can take its place meanwhile.
+    constexpr int attempts = 10;
+    constexpr DWORD milliseconds_between = 50;
+    for (int attempt = 1; !SetFileInformationByHandle(file, FileRenameInfo, &info, static_cast<DWORD>(size));
+         ++attempt) {
+        const DWORD code = GetLastError();
+        const bool in_use = code == ERROR_ACCESS_DENIED || code == ERROR_SHARING_VIOLATION;
+        if (!in_use || attempt == attempts) throw error_from_code(code);
+        Sleep(milliseconds_between);
+    }
 }
 
 }  // namespace
@@ -100,46 +134,31 @@ DecodedText TextFileSlot::read_all() try {
 }
 
 void TextFileSlot::append(const std::wstring& path, std::wstring_view text) {
-    if (!file_exists(path)) return replace(path, text);
-    const std::string bytes = encode(text);
-    check_changeable(path);
-    open(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
-    const Closing closing(file_);
-    const LONGLONG old_size = size_of(file_.get());
-    set_position(file_.get(), old_size);
-    try {
-        write_to_disk(file_.get(), bytes);
-    } catch (const Error&) {
-        set_position(file_.get(), old_size);
-        SetEndOfFile(file_.get());
-        throw;
-    }
-}
-
-std::wstring TextFileSlot::open_new_file_beside(const std::wstring& path) {
-    const std::wstring folder = path.substr(0, path.find_last_of(L"\\/") + 1);
-    for (int number = 1;; ++number) {
-        std::wstring name = folder + L"~quillomat" + std::to_wstring(number) + L".tmp";
-        if (file_exists(name)) continue;
-        open(name, GENERIC_WRITE | DELETE, 0, CREATE_NEW);
-        return name;
-    }
+    write(path, encode(text), file_exists(path) ? OldContent::Keep : OldContent::Forget);
 }
 
 void TextFileSlot::replace(const std::wstring& path, std::wstring_view text) {
-    const std::string bytes = encode(text);
+    write(path, encode(text), OldContent::Forget);
+}
+
+void TextFileSlot::write(const std::wstring& path, std::string_view bytes, OldContent old_content) {
     check_changeable(path);
-    const std::wstring unfinished = open_new_file_beside(path);
-    {
-        const Closing closing(file_);
+    // Shared with nobody: a second run of the program that writes at the same moment is refused, and neither loses what
+    // the other one adds.
+    open(unfinished_file_beside(path), GENERIC_WRITE | DELETE, 0, CREATE_ALWAYS);
+    const Closing closing(file_);
+    set_fate(file_.get(), AtClosing::Delete);
+    if (old_content == OldContent::Keep) copy_content(file_.get(), path);
+    write_all(file_.get(), bytes);
+    // A disk behind a cache may refuse only now; and the new file must not lose its content with the power after it has
+    // taken the place of the old one.
+    if (!FlushFileBuffers(file_.get())) throw_last_error();
+    set_fate(file_.get(), AtClosing::Keep);
+    try {
+        take_place(file_.get(), path);
+    } catch (const Error&) {
         set_fate(file_.get(), AtClosing::Delete);
-        write_to_disk(file_.get(), bytes);
-        set_fate(file_.get(), AtClosing::Keep);
-    }
-    if (!MoveFileExW(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-        const Error error = error_from_code(GetLastError());
-        DeleteFileW(unfinished.c_str());
-        throw error;
+        throw;
     }
 }
 

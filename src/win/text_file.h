@@ -25,17 +25,20 @@ class TextFileSlot {
     void close() { file_.close(); }
 
     /// Adds a text to the end of a file, which is made if there is none; nothing is put between the two. All or
-    /// nothing, even if the program is ended meanwhile: the file keeps its bytes or has all of the new ones behind
-    /// them. Throws `Error` as `open_for_reading` does, DiskFull, or InvalidArgument for a character the code page
-    /// lacks.
+    /// nothing: at any moment, even if the program is ended or the power fails, the file has its old bytes or all of
+    /// the new ones behind them. Throws `Error` as `open_for_reading` does, DiskFull, or InvalidArgument for a
+    /// character the code page lacks.
     void append(const std::wstring& path, std::wstring_view text);
     /// Makes a text the whole content of a file, new or not. All or nothing: at any moment the file is the old one or
     /// the new one. Throws as `append` does.
     void replace(const std::wstring& path, std::wstring_view text);
 
   private:
+    enum class OldContent { Keep, Forget };
+
     void open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition);
-    std::wstring open_new_file_beside(const std::wstring& path);
+    /// Writes a new file beside the one at `path` and has it take that one's place.
+    void write(const std::wstring& path, std::string_view bytes, OldContent old_content);
 
     FileHandle file_;
 };

@@ -4,7 +4,7 @@ namespace quillomat {
 namespace {
 
 std::wstring text_of(HWND window) {
-    std::wstring text(4096, L'\0');
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
 }

@@ -125,8 +125,7 @@ TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
 TEST_F(TextFile, ReadingKeepsNobodyFromWriting) {
     const std::wstring file = make(L"a.txt", "old");
     slot_.open_for_reading(file);
-    TextFileSlot other_program;
-    other_program.append(file, L" and new");
+    std::ofstream(std::filesystem::path(file), std::ios::binary | std::ios::app) << " and new";
     EXPECT_EQ(bytes_of(file), "old and new");
     // Only the one slot is taken, not the file.
     EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), ErrorCode::FileAlreadyOpen);
@@ -158,11 +157,23 @@ TEST_F(TextFile, ReplacingForgetsTheOldContent) {
     EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
 }
 
-TEST_F(TextFile, ReplacingSparesOtherFilesInTheFolder) {
-    const std::wstring foreign = make(L"~quillomat1.tmp", "somebody else's");
-    slot_.replace(path(L"a.txt"), L"new");
-    EXPECT_EQ(bytes_of(foreign), "somebody else's");
-    EXPECT_EQ(bytes_of(path(L"a.txt")), "new");
+TEST_P(TextFileWriting, WritesOverWhatARunThatWasEndedHasLeftBehind) {
+    const std::wstring file = make(L"a.txt", "");
+    make(L"~quillomat.tmp", "half a rec");
+    EXPECT_EQ(write(file, L"new"), std::nullopt);
+    EXPECT_EQ(bytes_of(file), "new");
+    EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
+}
+
+TEST_P(TextFileWriting, TwoRunsThatWriteAtOnceLoseNothing) {
+    const std::wstring file = make(L"a.txt", "old");
+    {
+        const FileHandle other_run(CreateFileW(path(L"~quillomat.tmp").c_str(), GENERIC_WRITE | DELETE, 0, nullptr,
+                                               CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+        EXPECT_EQ(write(file, L"new"), ErrorCode::PermissionDenied);
+    }
+    EXPECT_EQ(bytes_of(file), "old");
+    EXPECT_EQ(write(file, L"new"), std::nullopt);
 }
 
 TEST_P(TextFileWriting, MakesTheFileWhenThereIsNone) {

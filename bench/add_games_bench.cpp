@@ -1,0 +1,147 @@
+// Adds games through the window's own code until the catalogue is nearly full, reads the database as the next start
+// does, and prints how long an addition to it takes beside one to an empty database, the two taking turns:
+// add_games_bench [GAMES]
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "common/session.h"
+#include "forms/application.h"
+#include "output/frmAddNew.h"
+#include "shell/viewer_link.h"
+#include "viewer/frmCtlView.h"
+#include "win/database_file.h"
+
+namespace {
+
+using namespace quillomat;
+using Clock = std::chrono::steady_clock;
+
+/// Presses the button of every message box that appears.
+LRESULT CALLBACK on_window_event(int code, WPARAM wparam, LPARAM lparam) {
+    const auto window = reinterpret_cast<HWND>(wparam);
+    wchar_t name[16]{};
+    if (code == HCBT_ACTIVATE && GetClassNameW(window, name, 16) && std::wstring_view(name) == L"#32770") {
+        PostMessageW(window, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    }
+    return CallNextHookEx(nullptr, code, wparam, lparam);
+}
+
+std::wstring name_of(int number) {
+    return L"Game of the player, number " + std::to_wstring(number);
+}
+
+/// About as long as most are: 3 MB in all.
+std::wstring cheats_of(int number) {
+    std::wstring cheats = L"Secret " + std::to_wstring(number);
+    for (int line = 0; line < 24; ++line) cheats += L"\r\nPress every button, then run for your life: 1-UP";
+    return cheats;
+}
+
+/// A database of its own with a viewer that shows it.
+class Place {
+  public:
+    Place(Application& application, const std::filesystem::path& folder)
+        : application_(application), path_((folder / "Cheats.dat").wstring()) {
+        std::filesystem::create_directories(folder);
+        session_.settings = Settings(settings_name);
+        session_.program_folder = folder.wstring();
+        empty();
+        viewer_.show();
+    }
+
+    static constexpr wchar_t settings_name[] = L"QuillomatBench";
+
+    const std::wstring& path() const { return path_; }
+
+    void empty() {
+        session_.text_file.replace(path_, L"");
+        session_.catalogue.load({}, [](std::wstring_view) {});
+        session_.viewer.game_count = 0;
+        viewer_.List2.clear();
+    }
+
+    double milliseconds_to_add(int number) {
+        frmAddNew window(application_, session_, link_);
+        window.show();
+        window.Text1.set_text(name_of(number));
+        window.Text2.set_text(cheats_of(number));
+        application_.let_pending_events_run();
+        const Clock::time_point start = Clock::now();
+        window.cmdButton[0]->click();
+        return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    }
+
+  private:
+    Application& application_;
+    std::wstring path_;
+    Session session_;
+    ViewerWindows windows_;
+    frmCtlView viewer_{application_, session_, windows_};
+    OpenViewer link_{viewer_};
+};
+
+double median(std::vector<double> values) {
+    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
+    return values[values.size() / 2];
+}
+
+bool all_can_be_read(const std::wstring& path, int games) {
+    TextFileSlot slot;
+    Catalogue catalogue;
+    int listed = 0;
+    load_catalogue(slot, path, catalogue, [&](std::wstring_view) { ++listed; });
+    if (listed != games) return false;
+    for (int number = 0; number < games; ++number) {
+        if (catalogue.name(number) != name_of(number) || catalogue.cheats(number) != cheats_of(number)) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    const int games = count > 1 ? std::stoi(arguments[1]) : 2400;
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("quillomat-add-" + std::to_string(GetCurrentProcessId()));
+    std::filesystem::create_directories(folder);
+    const HHOOK hook = SetWindowsHookExW(WH_CBT, on_window_event, nullptr, GetCurrentThreadId());
+
+    Application application(L"Quillomat");
+    auto growing = std::make_unique<Place>(application, folder / "growing");
+    auto small = std::make_unique<Place>(application, folder / "small");
+    const int step = std::max(games / 6, 1);
+    std::vector<double> to_growing;
+    std::vector<double> to_small;
+    for (int number = 0; number < games; ++number) {
+        to_growing.push_back(growing->milliseconds_to_add(number));
+        if (number % 4 == 0) {
+            small->empty();
+            to_small.push_back(small->milliseconds_to_add(number));
+        }
+        if ((number + 1) % step != 0) continue;
+        std::printf("at %4d games: %6.1f ms an addition, %6.1f ms to an empty database, ratio %.2f\n", number + 1,
+                    median(to_growing), median(to_small), median(to_growing) / median(to_small));
+        std::fflush(stdout);
+        to_growing.clear();
+        to_small.clear();
+    }
+    const std::wstring path = growing->path();
+    const bool readable = all_can_be_read(path, games);
+    std::printf("%d games added, %llu bytes: %s\n", games,
+                static_cast<unsigned long long>(std::filesystem::file_size(path)),
+                readable ? "each reads back unchanged" : "SOME ARE NOT AS THEY WERE ADDED");
+
+    growing.reset();
+    small.reset();
+    UnhookWindowsHookEx(hook);
+    RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring(L"Software\\") + Place::settings_name).c_str());
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+    return readable ? 0 : 1;
+}

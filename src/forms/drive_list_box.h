@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/drop_down_list.h"
+
+namespace quillomat {
+
+/// Lets the user choose one of the system's drives.
+class DriveListBox : public DropDownList {
+  public:
+    /// Lists the drives there are now.
+    DriveListBox(Container& container, Bounds bounds);
+
+    /// The root of the selected drive, such as "C:\"; empty when none is selected.
+    std::wstring drive() const;
+    /// Selects the drive that a path is on, and raises the change when that is another one. A path that is on none of
+    /// them changes nothing.
+    void select_drive_of(const std::wstring& path);
+
+  private:
+    std::vector<std::wstring> roots_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,75 @@
+#include "forms/drop_down_list.h"
+
+#include "text/error.h"
+
+namespace quillomat {
+namespace {
+
+// What the box draws around its text, above and below together.
+constexpr int frame_pixels = 6;
+constexpr int most_texts_shown = 12;
+
+}  // namespace
+
+DropDownList::DropDownList(Container& container, Bounds bounds)
+    : Control(container, bounds, L"COMBOBOX", {},
+              CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP | WS_GROUP) {
+    set_default_back_colour(colours::window);
+    fit_field();
+    apply_bounds();
+}
+
+int DropDownList::count() const {
+    return static_cast<int>(send(CB_GETCOUNT));
+}
+
+void DropDownList::add(std::wstring_view text) {
+    if (send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
+        throw Error(ErrorCode::OutOfMemory);
+    }
+}
+
+std::optional<int> DropDownList::selected_index() const {
+    const LRESULT index = send(CB_GETCURSEL);
+    return index == CB_ERR ? std::nullopt : std::optional(static_cast<int>(index));
+}
+
+void DropDownList::select_index(int index) {
+    if (index < 0 || send(CB_SETCURSEL, static_cast<WPARAM>(index)) == CB_ERR) {
+        throw Error(ErrorCode::SubscriptOutOfRange);
+    }
+    report_change();
+}
+
+void DropDownList::notified(WORD code) {
+    // Walking through the open list is no choice yet; it ends with one when the list closes.
+    if (code == CBN_CLOSEUP || (code == CBN_SELCHANGE && !send(CB_GETDROPPEDSTATE))) report_change();
+}
+
+void DropDownList::report_change() {
+    const auto selected = selected_index();
+    if (selected == reported_) return;
+    reported_ = selected;
+    raise(on_change);
+}
+
+void DropDownList::fit_field() {
+    constexpr WPARAM field = static_cast<WPARAM>(-1);
+    send(CB_SETITEMHEIGHT, field, to_pixels(exact_bounds().height, dpi()) - frame_pixels);
+}
+
+void DropDownList::apply_bounds() {
+    // The system counts the dropped-down list into the height of the window, and makes it no longer than its texts.
+    const Bounds& bounds = exact_bounds();
+    const int list_height = most_texts_shown * static_cast<int>(send(CB_GETITEMHEIGHT, 0));
+    SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
+                 to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void DropDownList::resolution_changed() {
+    Control::resolution_changed();
+    fit_field();
+}
+
+}  // namespace quillomat

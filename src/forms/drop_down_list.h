@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/control.h"
+
+namespace quillomat {
+
+/// A list of texts that drops down; the box shows the one that is selected.
+class DropDownList : public Control {
+  public:
+    DropDownList(Container& container, Bounds bounds);
+
+    /// Another text is selected, by the user or by the program. While the list is dropped down the user is still
+    /// choosing.
+    std::function<void()> on_change;
+
+    int count() const;
+    void add(std::wstring_view text);
+    std::optional<int> selected_index() const;
+    /// Throws `Error` with SubscriptOutOfRange when there is no text at the position.
+    void select_index(int index);
+    /// The selected text; empty when none is selected.
+    std::wstring text() const { return window_text(); }
+
+    void notified(WORD code) override;
+    void resolution_changed() override;
+
+  protected:
+    void apply_bounds() override;
+
+  private:
+    void fit_field();
+    void report_change();
+
+    std::optional<int> reported_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,21 @@
+#include "forms/path_label.h"
+
+#include "forms/container.h"
+
+namespace quillomat {
+
+// Without notifications the mouse would pass it by, and the tool tip never show.
+PathLabel::PathLabel(Container& container, Bounds bounds)
+    : Control(container, bounds, L"STATIC", {}, SS_LEFT | SS_NOPREFIX | SS_PATHELLIPSIS | SS_NOTIFY) {}
+
+void PathLabel::set_caption(const std::wstring& path) {
+    SetWindowTextW(window(), path.c_str());
+    set_tool_tip(path);
+}
+
+HBRUSH PathLabel::prepare_colours(HDC canvas) {
+    set_default_back_colour(container().back_colour());
+    return Control::prepare_colours(canvas);
+}
+
+}  // namespace quillomat

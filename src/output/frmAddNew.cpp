@@ -1,0 +1,245 @@
+#include "output/frmAddNew.h"
+
+#include <algorithm>
+#include <new>
+#include <optional>
+#include <utility>
+
+#include "common/desktop.h"
+#include "common/window_settings.h"
+#include "database/record.h"
+#include "forms/application.h"
+#include "forms/message_box.h"
+#include "text/add_game_layout.h"
+#include "text/error.h"
+#include "text/game_list.h"
+#include "text/numbers.h"
+#include "win/code_page.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::size_t add_button = 0;
+constexpr std::size_t cancel_button = 1;
+
+constexpr const wchar_t* help_texts[] = {L"Click here to add the game!",
+                                         L"Click here to leave without adding the game!"};
+
+/// The number of the first game below `count` with exactly this name.
+std::optional<int> find_game(const Catalogue& catalogue, int count, std::wstring_view name) {
+    for (int number = 0; number < count; ++number) {
+        if (catalogue.name(number) == name) return number;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+frmAddNew::frmAddNew(Application& application, Session& session, ViewerLink& viewer)
+    : Form(application, {.name = L"frmAddNew",
+                         .caption = L"Add New Game",
+                         .width = 5715,
+                         .height = 4320,
+                         .minimum_width = add_game_minimum_size.width,
+                         .minimum_height = add_game_minimum_size.height}),
+      session_(session),
+      viewer_(viewer) {
+    bind();
+    bind_hover_help();
+    UpdateAddButton();
+    ShowLineCount();
+}
+
+void frmAddNew::bind() {
+    on_load = [this] { Form_Load(); };
+    on_resize = [this] { Form_Resize(); };
+    on_unload = [this] { Form_Unload(); };
+    on_mouse_down = [this](const MouseEvent& event) {
+        if (event.button == MouseButton::Left) drag();
+    };
+    on_mouse_move = [this](const MouseEvent& event) { Form_MouseMove(event); };
+    Text1.on_change = [this] { UpdateAddButton(); };
+    Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
+    Text2.on_change = [this] {
+        UpdateAddButton();
+        ShowLineCount();
+    };
+    Text2.on_click = [this] { ShowLineCount(); };
+    Text2.on_key_press = [this](CharacterEvent&) { ShowLineCount(); };
+    Text2.on_mouse_move = [this](const MouseEvent&) { ShowLineCount(); };
+    Text2.on_key_down = [this](KeyEvent& event) { leave_by_escape(event); };
+    cmdButton[add_button]->on_click = [this] { AddGame(); };
+    cmdButton[cancel_button]->on_click = [this] { close(); };
+    for (Button* button : cmdButton) button->on_key_down = [this](KeyEvent& event) { leave_by_escape(event); };
+}
+
+void frmAddNew::bind_hover_help() {
+    for (const std::size_t index : {add_button, cancel_button}) hover_help_.add(*cmdButton[index], help_texts[index]);
+    for (const std::size_t index : {add_button, cancel_button}) {
+        cmdButton[index]->on_mouse_move = [this, index](const MouseEvent& event) {
+            show_help_box(index, event.x, event.y);
+        };
+    }
+    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) {
+        show_help_box(&button == cmdButton[add_button] ? add_button : cancel_button, event.x, event.y);
+    };
+    // The help box never keeps the focus.
+    Text3.on_got_focus = [this] {
+        Text3.set_visible(false);
+        cmdButton[add_button]->set_focus();
+    };
+    Timer1.on_timer = [this] { Timer1_Timer(); };
+}
+
+void frmAddNew::Form_Load() {
+    const Settings& stored = session_.settings;
+    set_window_state(window_state_of(stored.read(settings::frmAddNewWindowState)));
+    set_height(stored.read(settings::frmAddNewHeight));
+    set_width(stored.read(settings::frmAddNewWidth));
+    while (correct_size()) {
+    }
+    centre_over_viewer();
+    Text1.set_focus();
+}
+
+void frmAddNew::centre_over_viewer() {
+    const Form& viewer = viewer_.window();
+    move_to(viewer.left() + (viewer.width() - width()) / 2, viewer.top() + (viewer.height() - height()) / 2);
+}
+
+void frmAddNew::Form_Unload() {
+    const Settings& store = session_.settings;
+    store.write(settings::frmAddNewWindowState, static_cast<std::int32_t>(window_state()));
+    if (window_state() != WindowState::Normal) return;
+    store.write(settings::frmAddNewHeight, stored_size(height()));
+    store.write(settings::frmAddNewWidth, stored_size(width()));
+}
+
+bool frmAddNew::correct_size() {
+    const WindowSize size{width(), height()};
+    const auto corrected = corrected_size(size, add_game_minimum_size, to_twips(1, dpi()));
+    if (!corrected) return false;
+    corrected->height != size.height ? set_height(corrected->height) : set_width(corrected->width);
+    return true;
+}
+
+void frmAddNew::Form_Resize() {
+    if (window_state() == WindowState::Minimised) return;
+    // Each correction resizes the window, and the layout comes with that.
+    if (correct_size()) return;
+    const AddGameLayout layout = add_game_layout({width(), height()}, {inner_width(), inner_height()});
+    for (StaticLabel* label : {&Label1, &Label2}) label->set_left(layout.margin);
+    Text1.move({layout.margin, Text1.top(), layout.box_width, Text1.height()});
+    Text2.move({layout.margin, Text2.top(), layout.box_width, layout.cheats_height});
+    cmdButton[add_button]->move({layout.add_left, layout.button_top, layout.button_width, add_game_button_height});
+    cmdButton[cancel_button]->move(
+        {layout.cancel_left, layout.button_top, layout.button_width, add_game_button_height});
+}
+
+void frmAddNew::Text1_KeyDown(KeyEvent& event) {
+    leave_by_escape(event);
+    if (event.key == keys::enter) Text2.set_focus();
+}
+
+void frmAddNew::leave_by_escape(KeyEvent& event) {
+    if (event.key != keys::escape) return;
+    event.handled = true;
+    // A text that was typed is not lost to one slip of a finger.
+    const bool nothing_typed = Text1.empty() && Text2.empty();
+    nothing_typed || cmdButton[cancel_button]->has_focus() ? close() : cmdButton[cancel_button]->set_focus();
+}
+
+void frmAddNew::Timer1_Timer() {
+    // Only now does the window stand where it will stay.
+    if (!std::exchange(pointer_placed_, true)) CenterMouseOn(cmdButton[add_button]->window());
+    hover_help_.tick();
+}
+
+void frmAddNew::Form_MouseMove(const MouseEvent& event) {
+    // What a disabled button does not take of the mouse goes to the window, and the button has a help text all the
+    // same.
+    const Button& button = *cmdButton[add_button];
+    const double x = event.x - button.left();
+    const double y = event.y - button.top();
+    if (x >= 0 && x < button.width() && y >= 0 && y < button.height()) show_help_box(add_button, x, y);
+}
+
+void frmAddNew::show_help_box(std::size_t index, double x, double y) {
+    // The text first, because the place depends on its width.
+    Text3.set_text(help_texts[index]);
+    Text3.fit_width_to_text();
+    Text3.bring_to_front();
+    constexpr double most_centred = 330;
+    const Button& button = *cmdButton[index];
+    const bool flush_right = index == add_button && x >= most_centred;
+    const double left = flush_right ? width() - Text3.width() : button.left() + x - Text3.width() / 2;
+    // The frame of the window would cover the end of the text.
+    const double last_left = inner_width() - Text3.width();
+    Text3.move({std::min(left, last_left), button.top() + y - 500, Text3.width(), Text3.height()});
+    Text3.set_visible(true);
+}
+
+void frmAddNew::UpdateAddButton() {
+    cmdButton[add_button]->set_enabled(!Text1.empty() && !Text2.empty());
+}
+
+void frmAddNew::ShowLineCount() {
+    Text2.set_tool_tip(line_count_tooltip(Text2.line_count()));
+}
+
+void frmAddNew::AddGame() {
+    Text3.set_visible(false);
+    const std::wstring name = Text1.text();
+    const std::wstring cheats = Text2.text();
+    if (const auto existing = find_game(session_.catalogue, session_.viewer.game_count, name)) {
+        propose_other_name(*existing, name);
+        return;
+    }
+    try {
+        store(name, cheats);
+        close();
+    } catch (const Error& error) {
+        report(error);
+    } catch (const std::bad_alloc&) {
+        report(Error(ErrorCode::OutOfMemory));
+    }
+}
+
+void frmAddNew::propose_other_name(int existing, const std::wstring& name) {
+    show_message(window(), {.text = L"The cheat codes for " + name +
+                                    L" already exist. Try using a different name.\r\n(You can use the name I have "
+                                    L"provided for you.)",
+                            .title = name + L" already exists!",
+                            .icon = MessageIcon::Information});
+    viewer_.select_game(existing);
+    Text1.set_text(name + L" (Custom)");
+    SelectAllText(Text1);
+}
+
+void frmAddNew::store(const std::wstring& name, const std::wstring& cheats) {
+    const std::wstring record = record_text(name, cheats);
+    // What cannot be written is refused before the game is anywhere: it could not be added a second time, corrected,
+    // under the same name.
+    encode(record);
+    const int number = session_.viewer.game_count;
+    session_.catalogue.store(number, name, cheats);
+    session_.viewer.game_count = checked_add_16(session_.viewer.game_count, 1);
+    viewer_.list_game(name);
+    show_message(window(), {.text = L"The cheat codes for " + name + L" have been successfully added!",
+                            .title = application().title()});
+    viewer_.select_game(name);
+    session_.text_file.append(session_.program_folder + L"\\Cheats.dat", record);
+}
+
+void frmAddNew::report(const Error& error) {
+    if (error.code() == ErrorCode::SubscriptOutOfRange) {
+        show_message(window(), {.text = L"Sorry, you have reached the maximum limit of games!",
+                                .title = L"Overload!",
+                                .icon = MessageIcon::Critical});
+        close();
+        return;
+    }
+    show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+}
+
+}  // namespace quillomat

@@ -1,0 +1,186 @@
+#include "output/frmSave.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "common/desktop.h"
+#include "forms/application.h"
+#include "forms/message_box.h"
+#include "text/error.h"
+#include "text/game_list.h"
+#include "text/line_end.h"
+#include "text/paths.h"
+#include "text/saved_file.h"
+#include "win/folders.h"
+
+namespace quillomat {
+namespace {
+
+constexpr double smallest_width = 6900;
+constexpr double smallest_height = 4200;
+
+constexpr double margin = 120;
+constexpr double label_height = 225;
+constexpr double field_height = 315;
+constexpr double button_width = 1215;
+constexpr double button_height = 375;
+
+}  // namespace
+
+frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
+    : Form(application, {.name = L"frmSave",
+                         .caption = L"Save",
+                         .width = smallest_width,
+                         .height = smallest_height,
+                         .minimum_width = smallest_width,
+                         .minimum_height = smallest_height}),
+      session_(session),
+      viewer_(viewer) {
+    bind();
+    bind_hover_help();
+    set_default_button(&Command1);
+    set_cancel_button(&Command2);
+    // What is scrolled to while the dialog is filled depends on the sizes.
+    Form_Resize();
+}
+
+void frmSave::bind() {
+    on_load = [this] { Form_Load(); };
+    on_resize = [this] { Form_Resize(); };
+    on_mouse_down = [this](const MouseEvent& event) {
+        if (event.button == MouseButton::Left) drag();
+    };
+    Drive1.on_change = [this] { Drive1_Change(); };
+    Dir1.on_change = [this] { Dir1_Change(); };
+    File1.on_click = [this] { File1_Click(); };
+    File1.on_double_click = [this] { Command1.click(); };
+    Command1.on_click = [this] { Command1_Click(); };
+    Command2.on_click = [this] { close(); };
+}
+
+void frmSave::bind_hover_help() {
+    hover_help_.add(Command1, L"Save cheat codes");
+    hover_help_.add(Command2, L"Cancel save");
+    hover_help_.on_shown = [this](Control& button, const MouseEvent&) { place_help_box(button); };
+    // The help box never keeps the focus.
+    Text2.on_got_focus = [this] {
+        Text2.set_visible(false);
+        Command1.set_focus();
+    };
+    Timer1.on_timer = [this] { Timer1_Timer(); };
+}
+
+void frmSave::Form_Load() {
+    const std::wstring game = viewer_.game_name();
+    set_caption(L"Save cheat codes of " + game);
+    Combo1.add(L"Text Files (*.txt)");
+    Combo1.select_index(0);
+    open_first_folder();
+    Text1.set_text(proposed_file_name(game));
+    SelectAllText(Text1);
+    const Form& viewer = viewer_.window();
+    move_to(viewer.left() + (viewer.width() - width()) / 2, viewer.top() + (viewer.height() - height()) / 2);
+}
+
+void frmSave::open_first_folder() {
+    // The folder may have been removed since, or its drive: then the nearest one that is still there.
+    const std::vector<FolderStep> steps = folder_steps(current_folder());
+    for (auto step = steps.rbegin(); step != steps.rend() && Dir1.path().empty(); ++step) {
+        try {
+            Dir1.set_path(step->path);
+        } catch (const Error&) {
+            if (std::next(step) == steps.rend()) Dir1.set_path(session_.program_folder);
+        }
+    }
+}
+
+void frmSave::Form_Resize() {
+    if (window_state() == WindowState::Minimised) return;
+    const double button_left = inner_width() - margin - button_width;
+    const double column = (button_left - 3 * margin) / 2;
+    const double second = 2 * margin + column;
+    const double lists_top = 780;
+    const double fields_top = inner_height() - margin - field_height;
+    const double captions_top = fields_top - label_height - 15;
+    const double lists_height = captions_top - margin - lists_top;
+
+    Label1.move({margin, 105, column, label_height});
+    Text1.move({margin, 345, column, field_height});
+    File1.move({margin, lists_top, column, lists_height});
+    Label4.move({margin, captions_top, column, label_height});
+    Combo1.move({margin, fields_top, column, field_height});
+    Label2.move({second, 105, column, label_height});
+    Label3.move({second, 390, column, label_height});
+    Dir1.move({second, lists_top, column, lists_height});
+    Label5.move({second, captions_top, column, label_height});
+    Drive1.move({second, fields_top, column, field_height});
+    // The help box has its place between the two.
+    Command1.move({button_left, 345, button_width, button_height});
+    Command2.move({button_left, 1080, button_width, button_height});
+}
+
+void frmSave::Drive1_Change() {
+    const std::wstring drive = Drive1.drive();
+    if (Dir1.path().starts_with(drive)) return;
+    try {
+        const Hourglass hourglass(*this);
+        Dir1.set_path(drive);
+    } catch (const Error& error) {
+        show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+        Drive1.select_drive_of(Dir1.path());
+    }
+}
+
+void frmSave::Dir1_Change() {
+    Label3.set_caption(Dir1.path());
+    Drive1.select_drive_of(Dir1.path());
+    File1.set_path(Dir1.path());
+}
+
+void frmSave::File1_Click() {
+    Text1.set_text(File1.text());
+}
+
+void frmSave::Command1_Click() {
+    if (Text1.empty()) {
+        show_message(window(),
+                     {.text = L"Please give a file name!", .title = L"Error", .icon = MessageIcon::Information});
+        return;
+    }
+    const std::wstring name = file_name_of(Text1.text());
+    if (const auto fault = file_name_fault(name)) {
+        show_message(window(), {.text = *fault, .title = L"Error", .icon = MessageIcon::Information});
+        SelectAllText(Text1);
+        return;
+    }
+    chosen_path_ = Label3.caption() + L"\\" + name;
+    if (!may_be_written()) return;
+    try {
+        const std::wstring text = export_text(viewer_.game_name(), viewer_.cheats()).append(line_end);
+        session_.text_file.replace(chosen_path_, text);
+        close();
+    } catch (const Error& error) {
+        show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+    }
+}
+
+bool frmSave::may_be_written() const {
+    if (!file_exists(chosen_path_)) return true;
+    return show_message(window(), {.text = L"The cheat codes for " + chosen_path_ +
+                                           L" already exist in this directory.\r\nDo you want to overwrite them?",
+                                   .title = L"Overwrite?",
+                                   .buttons = MessageButtons::OkCancel}) == MessageAnswer::Ok;
+}
+
+void frmSave::Timer1_Timer() {
+    // Only now does the window stand where it will stay.
+    if (!std::exchange(pointer_placed_, true)) CenterMouseOn(Command1.window());
+    hover_help_.tick();
+}
+
+void frmSave::place_help_box(const Control& button) {
+    const double left = std::min(button.left(), inner_width() - Text2.width());
+    Text2.move({left, button.top() + button.height() + 30, Text2.width(), Text2.height()});
+}
+
+}  // namespace quillomat

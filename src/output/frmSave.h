@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+
+#include "common/hover_help.h"
+#include "common/session.h"
+#include "forms/button.h"
+#include "forms/drive_list_box.h"
+#include "forms/drop_down_list.h"
+#include "forms/file_list_box.h"
+#include "forms/folder_list_box.h"
+#include "forms/form.h"
+#include "forms/path_label.h"
+#include "forms/static_label.h"
+#include "forms/text_box.h"
+#include "forms/timer.h"
+#include "output/viewer_link.h"
+
+namespace quillomat {
+
+/// The dialog that saves the cheats of the game the viewer shows to a text file.
+class frmSave final : public Form {
+  public:
+    /// `session` and `viewer` must outlive the form.
+    frmSave(Application& application, Session& session, ViewerLink& viewer);
+
+    // In the order of the Tab key, column by column. The path stands before the caption of the folder list, because a
+    // screen reader names a list by the text right before it.
+    StaticLabel Label1{*this, L"File name:", {}};
+    TextBox Text1{*this, {}};
+    StaticLabel FilesLabel{*this, L"Files", {}};
+    FileListBox File1{*this, {}, L".txt"};
+    StaticLabel Label4{*this, L"List files of type:", {}};
+    DropDownList Combo1{*this, {0, 0, 2000, 315}};
+    PathLabel Label3{*this, {}};
+    StaticLabel Label2{*this, L"Folders:", {}};
+    FolderListBox Dir1{*this, {}};
+    StaticLabel Label5{*this, L"Drives:", {}};
+    DriveListBox Drive1{*this, {0, 0, 2000, 315}};
+    Button Command1{*this, L"&OK", {}};
+    Button Command2{*this, L"&Cancel", {}};
+    TextBox Text2{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
+    Timer Timer1{*this, 1};
+
+  private:
+    void bind();
+    void bind_hover_help();
+
+    void Form_Load();
+    void Form_Resize();
+    void Drive1_Change();
+    void Dir1_Change();
+    void File1_Click();
+    void Command1_Click();
+    void Timer1_Timer();
+
+    void place_help_box(const Control& button);
+    void open_first_folder();
+    bool may_be_written() const;
+
+    Session& session_;
+    ViewerLink& viewer_;
+    HoverHelp hover_help_{session_.pointer, Text2, Timer1};
+    std::wstring chosen_path_;  // whole path of the file chosen last
+    bool pointer_placed_ = false;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,51 @@
+#include "text/paths.h"
+
+#include <algorithm>
+
+namespace quillomat {
+namespace {
+
+constexpr wchar_t separator = L'\\';
+
+/// How much of a path is its root, with the separator behind it.
+std::size_t root_length(std::wstring_view path) {
+    std::size_t end = path.find(separator);
+    if (path.starts_with(L"\\\\")) {
+        end = path.find(separator, 2);
+        if (end != std::wstring_view::npos) end = path.find(separator, end + 1);
+    }
+    return end == std::wstring_view::npos ? path.size() : end + 1;
+}
+
+wchar_t lower_case(wchar_t letter) {
+    return letter >= L'A' && letter <= L'Z' ? static_cast<wchar_t>(letter - L'A' + L'a') : letter;
+}
+
+}  // namespace
+
+std::vector<FolderStep> folder_steps(std::wstring_view path) {
+    std::wstring root(path.substr(0, root_length(path)));
+    path.remove_prefix(root.size());
+    if (!root.ends_with(separator)) root += separator;
+    std::vector<FolderStep> steps{{root, root}};
+    while (!path.empty()) {
+        const std::wstring_view name = path.substr(0, path.find(separator));
+        if (!name.empty()) steps.push_back({path_in(steps.back().path, name), std::wstring(name)});
+        path.remove_prefix(std::min(name.size() + 1, path.size()));
+    }
+    return steps;
+}
+
+std::wstring path_in(std::wstring_view folder, std::wstring_view name) {
+    std::wstring path(folder);
+    if (!path.ends_with(separator)) path += separator;
+    return path.append(name);
+}
+
+bool has_extension(std::wstring_view name, std::wstring_view extension) {
+    return name.size() >= extension.size() &&
+           std::equal(extension.begin(), extension.end(), name.end() - static_cast<std::ptrdiff_t>(extension.size()),
+                      [](wchar_t a, wchar_t b) { return lower_case(a) == lower_case(b); });
+}
+
+}  // namespace quillomat

@@ -1,0 +1,140 @@
+#include "win/folders.h"
+
+#include <algorithm>
+#include <chrono>
+#include <future>
+#include <memory>
+#include <thread>
+
+#include "text/paths.h"
+#include "win/errors.h"
+
+namespace quillomat {
+namespace {
+
+/// How long a drive that may be far away or asleep has to answer.
+constexpr std::chrono::seconds patience{5};
+
+DriveKind kind_of(UINT type) {
+    switch (type) {
+        case DRIVE_FIXED:
+            return DriveKind::Fixed;
+        case DRIVE_CDROM:
+            return DriveKind::Optical;
+        case DRIVE_REMOTE:
+            return DriveKind::Network;
+        case DRIVE_RAMDISK:
+            return DriveKind::Memory;
+        default:
+            // Also one that the system does not know more about, such as one that is gone.
+            return DriveKind::Removable;
+    }
+}
+
+/// An empty drive is an error of the call and no question of the system to the user. For this thread, while it lives.
+class QuietDrives {
+  public:
+    QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former_); }
+    ~QuietDrives() { SetThreadErrorMode(former_, nullptr); }
+    QuietDrives(const QuietDrives&) = delete;
+    QuietDrives& operator=(const QuietDrives&) = delete;
+
+  private:
+    DWORD former_ = 0;
+};
+
+/// Owns a search through a folder and ends it.
+class Search {
+  public:
+    Search(const std::wstring& pattern, WIN32_FIND_DATAW& found)
+        : handle_(FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr,
+                                   FIND_FIRST_EX_LARGE_FETCH)) {}
+    ~Search() {
+        if (*this) FindClose(handle_);
+    }
+    Search(const Search&) = delete;
+    Search& operator=(const Search&) = delete;
+
+    explicit operator bool() const { return handle_ != INVALID_HANDLE_VALUE; }
+    bool next(WIN32_FIND_DATAW& found) const { return FindNextFileW(handle_, &found); }
+
+  private:
+    HANDLE handle_;
+};
+
+bool comes_before(const std::wstring& a, const std::wstring& b) {
+    constexpr DWORD as_read = NORM_IGNORECASE | SORT_DIGITSASNUMBERS;
+    return CompareStringEx(LOCALE_NAME_USER_DEFAULT, as_read, a.c_str(), static_cast<int>(a.size()), b.c_str(),
+                           static_cast<int>(b.size()), nullptr, nullptr, 0) == CSTR_LESS_THAN;
+}
+
+FolderContent read_folder(const std::wstring& path) {
+    const QuietDrives quiet;
+    FolderContent content;
+    WIN32_FIND_DATAW found{};
+    const Search search(path_in(path, L"*"), found);
+    if (!search) {
+        // The root of a disk has no entries for itself, so an empty one has none at all.
+        const DWORD code = GetLastError();
+        const DWORD attributes = GetFileAttributesW(path.c_str());
+        if (code == ERROR_FILE_NOT_FOUND && attributes != INVALID_FILE_ATTRIBUTES) return content;
+        throw error_from_code(code == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : code);
+    }
+    do {
+        const std::wstring_view name = found.cFileName;
+        if (name == L"." || name == L"..") continue;
+        if (found.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) continue;
+        const bool is_folder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+        (is_folder ? content.folders : content.files).emplace_back(name);
+    } while (search.next(found));
+    // A list that breaks off would look like a folder with nothing more in it.
+    if (GetLastError() != ERROR_NO_MORE_FILES) throw_last_error();
+    std::sort(content.folders.begin(), content.folders.end(), comes_before);
+    std::sort(content.files.begin(), content.files.end(), comes_before);
+    return content;
+}
+
+bool answers_at_once(const std::wstring& path) {
+    const UINT type = GetDriveTypeW(folder_steps(path).front().path.c_str());
+    return type == DRIVE_FIXED || type == DRIVE_RAMDISK;
+}
+
+}  // namespace
+
+std::vector<Drive> drives() {
+    const QuietDrives quiet;
+    std::vector<Drive> found;
+    const DWORD letters = GetLogicalDrives();
+    for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
+        if (!(letters >> (letter - L'A') & 1)) continue;
+        Drive drive;
+        drive.root = std::wstring(1, letter) + L":\\";
+        drive.kind = kind_of(GetDriveTypeW(drive.root.c_str()));
+        wchar_t label[MAX_PATH + 1]{};
+        if (drive.kind == DriveKind::Fixed &&
+            GetVolumeInformationW(drive.root.c_str(), label, MAX_PATH, nullptr, nullptr, nullptr, nullptr, 0)) {
+            drive.label = label;
+        }
+        found.push_back(std::move(drive));
+    }
+    return found;
+}
+
+FolderContent list_folder(const std::wstring& path) {
+    if (answers_at_once(path)) return read_folder(path);
+    // The system waits half a minute and more for a computer that has gone, and the call cannot be taken back. So
+    // another thread waits, and is left behind if it takes too long; it shares nothing but its own result.
+    auto task = std::make_shared<std::packaged_task<FolderContent()>>([path] { return read_folder(path); });
+    std::future<FolderContent> content = task->get_future();
+    std::thread([task] { (*task)(); }).detach();
+    if (content.wait_for(patience) != std::future_status::ready) throw Error(ErrorCode::DiskNotReady);
+    return content.get();
+}
+
+std::wstring current_folder() {
+    std::wstring path(GetCurrentDirectoryW(0, nullptr), L'\0');
+    path.resize(GetCurrentDirectoryW(static_cast<DWORD>(path.size()), path.data()));
+    return path;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,251 @@
+// Ends a program at random moments of its writing, and looks each time at what it has left.
+//
+//   durability_tests kill append|replace KILLS            ends a writing copy of itself that often
+//   durability_tests full FOLDER                         fills the disk of a folder, which must be a small one
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+
+#include "database/catalogue.h"
+#include "database/record.h"
+#include "text/error.h"
+#include "win/code_page.h"
+#include "win/errors.h"
+#include "win/program_folder.h"
+#include "win/text_file.h"
+
+namespace {
+
+using namespace quillomat;
+
+/// Games the file begins with, and the size from which on it begins again.
+constexpr int first_games = 3;
+constexpr std::uintmax_t largest_file = 6 << 20;
+
+/// The record that the writer adds as number `number`: most are short, some have a megabyte.
+std::wstring record(int number) {
+    const std::size_t lines = number % 5 == 0 ? 20'000 : static_cast<std::size_t>(number % 5) * 40;
+    std::wstring cheats = L"Game " + std::to_wstring(number);
+    for (std::size_t line = 0; line < lines; ++line) cheats += L"\r\nPress every button, then run for your life: 1-UP";
+    return record_text(L"Game number " + std::to_wstring(number), cheats);
+}
+
+std::wstring first_content() {
+    std::wstring text;
+    for (int number = 0; number < first_games; ++number) text += record(number + 1);
+    return text;
+}
+
+std::string bytes_of(const std::wstring& path) {
+    std::ifstream stream(std::filesystem::path(path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+enum class Way { Append, Replace };
+
+/// What the file is once `count` writings have succeeded since it was `start`.
+std::string expected_content(Way way, const std::string& start, int count) {
+    if (count == 0) return start;
+    if (way == Way::Replace) return encode(record(count));
+    std::string bytes = start;
+    for (int number = 1; number <= count; ++number) bytes += encode(record(number));
+    return bytes;
+}
+
+int games_in(const std::string& bytes) {
+    int games = 0;
+    Catalogue().load(decode(bytes), [&](std::wstring_view) { ++games; });
+    return games;
+}
+
+/// Writes until it is ended, and says so after each time by one byte on its standard output.
+int write_for_ever(Way way, const std::wstring& path) {
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    TextFileSlot slot;
+    for (int number = 1;; ++number) {
+        const std::wstring text = record(number);
+        way == Way::Append ? slot.append(path, text) : slot.replace(path, text);
+        DWORD written = 0;
+        if (!WriteFile(output, "+", 1, &written, nullptr)) return 1;
+    }
+}
+
+/// A copy of this program that writes for ever.
+class Writer {
+  public:
+    Writer(const wchar_t* way, const std::wstring& path) {
+        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+        // Room for every byte it can write before it is ended: it must never wait.
+        HANDLE read = nullptr;
+        HANDLE write = nullptr;
+        if (!CreatePipe(&read, &write, &inherited, 1 << 20)) throw_last_error();
+        reading_ = FileHandle(read);
+        FileHandle writing(write);
+        SetHandleInformation(read, HANDLE_FLAG_INHERIT, 0);
+        STARTUPINFOW start{};
+        start.cb = sizeof start;
+        start.dwFlags = STARTF_USESTDHANDLES;
+        start.hStdOutput = write;
+        std::wstring command =
+            L"\"" + program_folder() + L"\\durability_tests.exe\" write " + way + L" \"" + path + L"\"";
+        if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, DETACHED_PROCESS, nullptr, nullptr, &start,
+                            &process_)) {
+            throw_last_error();
+        }
+    }
+    ~Writer() {
+        CloseHandle(process_.hThread);
+        CloseHandle(process_.hProcess);
+    }
+    Writer(const Writer&) = delete;
+    Writer& operator=(const Writer&) = delete;
+
+    void wait_for_first_writing() {
+        char byte = 0;
+        DWORD read = 0;
+        if (ReadFile(reading_.get(), &byte, 1, &read, nullptr) && read == 1) ++finished_;
+    }
+    void end() {
+        TerminateProcess(process_.hProcess, 0);
+        WaitForSingleObject(process_.hProcess, INFINITE);
+    }
+    /// How many writings it has finished, once it has ended.
+    int finished() {
+        char bytes[4096];
+        DWORD read = 0;
+        while (ReadFile(reading_.get(), bytes, sizeof bytes, &read, nullptr) && read > 0) {
+            finished_ += static_cast<int>(read);
+        }
+        return finished_;
+    }
+
+  private:
+    FileHandle reading_;
+    PROCESS_INFORMATION process_{};
+    int finished_ = 0;
+};
+
+/// Waits without giving up the processor: the system's own waiting is coarser than one writing is long.
+void wait_microseconds(long long microseconds) {
+    LARGE_INTEGER frequency{};
+    LARGE_INTEGER start{};
+    QueryPerformanceFrequency(&frequency);
+    QueryPerformanceCounter(&start);
+    LARGE_INTEGER now = start;
+    while ((now.QuadPart - start.QuadPart) * 1'000'000 < microseconds * frequency.QuadPart)
+        QueryPerformanceCounter(&now);
+}
+
+struct Tally {
+    int untouched = 0;  ///< ends between two writings, or before the new file took the old one's place
+    int completed = 0;  ///< ends after that and before the writer could say so
+    int remains = 0;    ///< ends that left an unfinished file behind
+    int faults = 0;
+};
+
+void kill_once(Way way, const std::wstring& path, std::mt19937& random, Tally& tally) {
+    const std::string start = bytes_of(path);
+    Writer writer(way == Way::Append ? L"append" : L"replace", path);
+    writer.wait_for_first_writing();
+    wait_microseconds(std::uniform_int_distribution<long long>(0, 30'000)(random));
+    writer.end();
+    const int finished = writer.finished();
+    const std::string left = bytes_of(path);
+    if (left == expected_content(way, start, finished)) {
+        ++tally.untouched;
+    } else if (left == expected_content(way, start, finished + 1)) {
+        ++tally.completed;
+    } else {
+        ++tally.faults;
+        std::printf("torn: %zu bytes after %d writings on %zu bytes\n", left.size(), finished, start.size());
+        return;
+    }
+    try {
+        games_in(left);
+    } catch (const Error& error) {
+        ++tally.faults;
+        std::printf("does not load: error %d\n", static_cast<int>(error.code()));
+    }
+}
+
+int kill_often(Way way, int kills, const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    const std::wstring path = (folder / L"Cheats.dat").wstring();
+    const std::filesystem::path remains = folder / L"~quillomat.tmp";
+    TextFileSlot slot;
+    slot.replace(path, first_content());
+    const unsigned seed = std::random_device{}();
+    std::mt19937 random(seed);
+    Tally tally;
+    for (int kill = 0; kill < kills && tally.faults == 0; ++kill) {
+        kill_once(way, path, random, tally);
+        tally.remains += std::filesystem::exists(remains) ? 1 : 0;
+        if (std::filesystem::file_size(path) > largest_file) slot.replace(path, first_content());
+    }
+    std::printf(
+        "%d kills (seed %u): %d left the old file, %d the new one, %d an unfinished file beside it, %d faults\n", kills,
+        seed, tally.untouched, tally.completed, tally.remains, tally.faults);
+    // The next writing works and tidies up, whatever was left.
+    slot.append(path, record(1));
+    if (std::filesystem::exists(remains)) {
+        std::printf("an unfinished file stays\n");
+        ++tally.faults;
+    }
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+    return tally.faults == 0 ? 0 : 1;
+}
+
+/// Appends until the disk is full; then the file must be as it was, and work again as soon as there is room.
+int fill_disk(const std::filesystem::path& folder) {
+    const std::wstring path = (folder / L"Cheats.dat").wstring();
+    TextFileSlot slot;
+    std::string before = encode(first_content());
+    slot.replace(path, first_content());
+    for (int number = 1; number < 10'000; ++number) {
+        try {
+            slot.append(path, record(number));
+            before += encode(record(number));
+        } catch (const Error& error) {
+            const bool unchanged = bytes_of(path) == before;
+            const bool tidy = std::distance(std::filesystem::directory_iterator(folder), {}) == 1;
+            std::printf("record %d refused with error %d (61 is a full disk); %d games, file %s, %s\n", number,
+                        static_cast<int>(error.code()), games_in(before), unchanged ? "unchanged" : "CHANGED",
+                        tidy ? "nothing beside it" : "SOMETHING BESIDE IT");
+            return error.code() == ErrorCode::DiskFull && unchanged && tidy ? 0 : 1;
+        }
+    }
+    std::printf("the disk was never full\n");
+    return 1;
+}
+
+int run(const std::vector<std::wstring>& arguments) {
+    const auto is = [&](std::size_t index, const wchar_t* word) {
+        return index < arguments.size() && arguments[index] == word;
+    };
+    const Way way = is(1, L"replace") ? Way::Replace : Way::Append;
+    if (is(0, L"write") && arguments.size() == 3) return write_for_ever(way, arguments[2]);
+    if (is(0, L"full") && arguments.size() == 2) return fill_disk(arguments[1]);
+    if (is(0, L"kill") && arguments.size() == 3) {
+        const std::wstring own = L"quillomat-durability-" + std::to_wstring(GetCurrentProcessId());
+        return kill_often(way, std::stoi(arguments[2]), std::filesystem::temp_directory_path() / own);
+    }
+    std::printf("usage: durability_tests kill append|replace KILLS\n       durability_tests full FOLDER\n");
+    return 2;
+}
+
+}  // namespace
+
+int wmain(int count, wchar_t** arguments) {
+    try {
+        return run({arguments + std::min(count, 1), arguments + count});
+    } catch (const quillomat::Error& error) {
+        std::printf("failed: error %d\n", static_cast<int>(error.code()));
+        return 1;
+    }
+}

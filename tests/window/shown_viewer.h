@@ -1,0 +1,54 @@
+#pragma once
+
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+
+#include "common/session.h"
+#include "shell/viewer_link.h"
+#include "support.h"
+#include "temporary.h"
+#include "viewer/frmCtlView.h"
+#include "win/code_page.h"
+
+namespace quillomat {
+
+/// A database in a folder of its own, opened in a real viewer, for the windows that work on what the viewer shows.
+class ShownViewerTest : public WindowTest {
+  protected:
+    void open_viewer(std::string_view database) {
+        write("Cheats.dat", database);
+        session.program_folder = folder.path().wstring();
+        session.settings = registry.settings();
+        viewer = std::make_unique<frmCtlView>(application, session, viewer_windows);
+        link = std::make_unique<OpenViewer>(*viewer);
+        viewer->show();
+        pump();
+    }
+
+    /// Opens the file as the next run of the program does.
+    void read_again() {
+        viewer.reset();
+        session.catalogue.load(decode(bytes("Cheats.dat")), [](std::wstring_view) {});
+    }
+
+    void write(const std::filesystem::path& name, std::string_view bytes) const {
+        std::ofstream(folder.path() / name, std::ios::binary)
+            .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+    std::string bytes(const std::filesystem::path& name) const {
+        std::ifstream stream(folder.path() / name, std::ios::binary);
+        EXPECT_TRUE(stream.is_open()) << name;
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+    TemporaryFolder folder;
+    TemporarySettings registry;
+    Session session;
+    ViewerWindows viewer_windows;
+    std::unique_ptr<frmCtlView> viewer;
+    std::unique_ptr<OpenViewer> link;
+};
+
+}  // namespace quillomat
