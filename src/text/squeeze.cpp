@@ -1,0 +1,64 @@
+#include "text/squeeze.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+namespace quillomat {
+namespace {
+
+/// The columns of the picture that fall on one column of the result, and how much of it each of them covers.
+struct Coverage {
+    std::size_t first_column = 0;
+    std::vector<float> shares;
+    float background_share = 1;
+};
+
+Coverage coverage_of(int column, int width, double factor) {
+    const double middle = width / 2.0;
+    const double one_end = middle + (column - middle) / factor;
+    const double other_end = middle + (column + 1 - middle) / factor;
+    const double from = std::clamp(std::min(one_end, other_end), 0.0, static_cast<double>(width));
+    const double to = std::clamp(std::max(one_end, other_end), 0.0, static_cast<double>(width));
+    Coverage coverage;
+    coverage.first_column = static_cast<std::size_t>(from);
+    for (double left = std::floor(from); left < to; ++left) {
+        const double overlap = std::min(left + 1, to) - std::max(left, from);
+        coverage.shares.push_back(static_cast<float>(overlap * std::abs(factor)));
+        coverage.background_share -= coverage.shares.back();
+    }
+    return coverage;
+}
+
+std::uint32_t mixed(const Coverage& coverage, const std::uint32_t* row, std::uint32_t background) {
+    std::uint32_t result = 0;
+    for (const int shift : {0, 8, 16}) {
+        const auto channel = [shift](std::uint32_t pixel) { return static_cast<float>(pixel >> shift & 0xFF); };
+        float sum = coverage.background_share * channel(background);
+        const std::uint32_t* pixel = row + coverage.first_column;
+        for (const float share : coverage.shares) sum += share * channel(*pixel++);
+        result |= static_cast<std::uint32_t>(std::clamp(std::lround(sum), 0L, 255L)) << shift;
+    }
+    return result;
+}
+
+}  // namespace
+
+PixelPicture squeezed(const PixelPicture& picture, double factor, std::uint32_t background) {
+    PixelPicture result{picture.width, picture.height, std::vector<std::uint32_t>(picture.pixels.size(), background)};
+    // Thinner than this nothing of it is to be seen.
+    constexpr double edge_on = 1e-4;
+    if (std::abs(factor) < edge_on) return result;
+    for (int column = 0; column < picture.width; ++column) {
+        const Coverage coverage = coverage_of(column, picture.width, factor);
+        if (coverage.shares.empty()) continue;
+        for (int row = 0; row < picture.height; ++row) {
+            const auto start = static_cast<std::size_t>(row) * static_cast<std::size_t>(picture.width);
+            result.pixels[start + static_cast<std::size_t>(column)] =
+                mixed(coverage, picture.pixels.data() + start, background);
+        }
+    }
+    return result;
+}
+
+}  // namespace quillomat
