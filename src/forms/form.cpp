@@ -150,6 +150,11 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
                 command->second->pick();
                 return 0;
             }
+            // What the dialog keys make of Escape.
+            if (LOWORD(wparam) == IDCANCEL && !lparam && cancel_button_) {
+                if (cancel_button_->enabled() && cancel_button_->visible()) cancel_button_->click();
+                return 0;
+            }
             break;
         case WM_INITMENUPOPUP:
             for (const auto& [id, menu] : commands_) {
@@ -233,6 +238,17 @@ void Form::set_caption(std::wstring caption) {
     if (caption == caption_) return;
     caption_ = std::move(caption);
     SetWindowTextW(window_, caption_.c_str());
+}
+
+void Form::set_icon(const Picture& picture) {
+    const auto resolution = static_cast<UINT>(dpi_);
+    Icon small_icon = picture.icon(GetSystemMetricsForDpi(SM_CXSMICON, resolution));
+    Icon large_icon = picture.icon(GetSystemMetricsForDpi(SM_CXICON, resolution));
+    SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon.get()));
+    SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large_icon.get()));
+    // The former ones end only now that the window shows others.
+    small_icon_ = std::move(small_icon);
+    large_icon_ = std::move(large_icon);
 }
 
 WindowState Form::window_state() const {
