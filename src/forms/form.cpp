@@ -150,11 +150,6 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
                 command->second->pick();
                 return 0;
             }
-            // What the dialog keys make of Escape.
-            if (LOWORD(wparam) == IDCANCEL && !lparam && cancel_button_) {
-                if (cancel_button_->enabled() && cancel_button_->visible()) cancel_button_->click();
-                return 0;
-            }
             break;
         case WM_INITMENUPOPUP:
             for (const auto& [id, menu] : commands_) {

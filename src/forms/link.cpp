@@ -1,7 +1,5 @@
 #include "forms/link.h"
 
-#include <algorithm>
-
 #include "forms/application.h"
 #include "forms/container.h"
 #include "forms/form.h"
@@ -15,6 +13,8 @@ constexpr Colour held_down{0x0000FF};
 // Room for the frame that shows the focus.
 constexpr int margin_pixels = 2;
 
+constexpr UINT text_format = DT_LEFT | DT_VCENTER | DT_SINGLELINE;
+
 }  // namespace
 
 Link::Link(Container& container, std::wstring_view caption, double left, double top)
@@ -23,11 +23,18 @@ Link::Link(Container& container, std::wstring_view caption, double left, double 
 }
 
 void Link::fit_to_caption() {
-    std::wstring shown = caption();
-    std::erase(shown, L'&');
-    const SIZE size = text_extent(form().application().fonts().get(font(), dpi()), shown);
-    set_width(to_twips(static_cast<int>(size.cx) + 2 * margin_pixels, dpi()));
-    set_height(to_twips(static_cast<int>(size.cy) + 2 * margin_pixels, dpi()));
+    const std::wstring text = caption();
+    const HDC canvas = GetDC(window());
+    RECT area{};
+    {
+        const Selection selected(canvas, form().application().fonts().get(font(), dpi()));
+        DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | text_format);
+    }
+    ReleaseDC(window(), canvas);
+    // Fonts whose small sizes were drawn by hand can come out a little wider than the system measures them.
+    const LONG spare = area.bottom / 2;
+    set_width(to_twips(static_cast<int>(area.right + spare) + 2 * margin_pixels, dpi()));
+    set_height(to_twips(static_cast<int>(area.bottom) + 2 * margin_pixels, dpi()));
 }
 
 void Link::resolution_changed() {
@@ -50,8 +57,7 @@ void Link::draw(const DRAWITEMSTRUCT& request) {
     InflateRect(&area, -margin_pixels, 0);
     const std::wstring text = caption();
     const UINT hidden_prefix = request.itemState & ODS_NOACCEL ? DT_HIDEPREFIX : 0;
-    DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area,
-              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP | hidden_prefix);
+    DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area, text_format | hidden_prefix);
     if ((request.itemState & ODS_FOCUS) && !(request.itemState & ODS_NOFOCUSRECT)) {
         SetTextColor(canvas, resolve(colours::window_text));
         DrawFocusRect(canvas, &request.rcItem);

@@ -70,6 +70,7 @@ void Dialog1::bind_hover_help() {
     for (Button& button : cmdButton) {
         button.on_mouse_move = [this, &button](const MouseEvent& event) { place_help_box(button, event); };
     }
+    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
     // The help box never keeps the focus.
     HelpBox.on_got_focus = [this] {
         HelpBox.set_visible(false);

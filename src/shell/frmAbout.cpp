@@ -17,7 +17,7 @@ frmAbout::frmAbout(Application& application, PointerState& pointer, std::int16_t
     : Form(application, {.name = L"frmAbout",
                          .caption = L"About Quillomat",
                          .width = 6000,
-                         .height = 4395,
+                         .height = 4470,
                          .border = FormBorder::Dialog}),
       StartUpTimes(start_up_times),
       picIcon(*this, Picture(PICTURE_APPLICATION), L"Quillomat", {240, 240, 720, 720}),
@@ -69,6 +69,7 @@ void frmAbout::bind_hover_help() {
     for (Button& button : cmdButton) {
         button.on_mouse_move = [this, &button](const MouseEvent& event) { place_help_box(button, event); };
     }
+    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
     // The help box never keeps the focus.
     Text1.on_got_focus = [this] {
         Text1.set_visible(false);
