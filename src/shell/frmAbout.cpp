@@ -34,7 +34,7 @@ frmAbout::frmAbout(Application& application, PointerState& pointer, std::int16_t
         label->set_font({.points = 12, .bold = true});
     }
     picIcon.set_tool_tip(L"Double-click to start the Easter egg!");
-    set_title_size(title_points_);
+    show_title_size();
     set_default_button(&cmdButton[0]);
     set_cancel_button(&cmdButton[0]);
     cmdButton[0].set_focus();
@@ -61,6 +61,9 @@ void frmAbout::bind() {
     mnuOK.on_click = [this] { close(); };
     Timer1.on_timer = [this] { Timer1_Timer(); };
     Timer2.on_timer = [this] { Timer2_Timer(); };
+    // The size changes as fast as the timers tick. It is drawn as often as the eye can follow, because drawing is what
+    // costs.
+    FrameTimer.on_timer = [this] { show_title_size(); };
 }
 
 void frmAbout::bind_hover_help() {
@@ -102,14 +105,13 @@ void frmAbout::Label4_Click() {
                  {.text = L"Why did you click me?", .title = application().title(), .icon = MessageIcon::Question});
 }
 
-void frmAbout::set_title_size(double points) {
-    title_points_ = points;
-    lblTitle.set_font({.points = points, .bold = true});
+void frmAbout::show_title_size() {
+    lblTitle.set_font({.points = title_points_, .bold = true});
 }
 
 void frmAbout::Timer2_Timer() {
     if (const auto points = next_shrinking_title(title_points_)) {
-        set_title_size(*points);
+        title_points_ = *points;
     } else {
         Timer2.set_enabled(false);
         Timer1.set_enabled(true);
@@ -118,7 +120,7 @@ void frmAbout::Timer2_Timer() {
 
 void frmAbout::Timer1_Timer() {
     if (const auto points = next_growing_title(title_points_)) {
-        set_title_size(*points);
+        title_points_ = *points;
     } else {
         Timer1.set_enabled(false);
         Timer2.set_enabled(true);

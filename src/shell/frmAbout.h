@@ -46,6 +46,7 @@ class frmAbout final : public Form {
     Timer Timer1{*this, 1, Timer::State::Disabled};
     Timer Timer2{*this, 1};
     Timer Timer3{*this, 1};
+    Timer FrameTimer{*this, 30};
     Menu mnuMail{*this, {}};
     Menu mnuMailMe{mnuMail, L"Use &Quillomat's Mail program"};
     Menu mnuDefaultMail{mnuMail, L"Use &Default Mail Program"};
@@ -63,7 +64,7 @@ class frmAbout final : public Form {
     void mnuMailMe_Click();
     void StartSysInfo();
 
-    void set_title_size(double points);
+    void show_title_size();
     void emboss(EmbossStyle style);
     void place_help_box(const Control& control, const MouseEvent& event);
 

@@ -7,11 +7,15 @@
 namespace quillomat {
 namespace {
 
+// Shares of a pixel are in whole 65536ths: this is drawn many times a second.
+constexpr int share_bits = 16;
+constexpr std::uint32_t whole = 1U << share_bits;
+
 /// The columns of the picture that fall on one column of the result, and how much of it each of them covers.
 struct Coverage {
     std::size_t first_column = 0;
-    std::vector<float> shares;
-    float background_share = 1;
+    std::vector<std::uint32_t> shares;
+    std::uint32_t background_share = whole;
 };
 
 Coverage coverage_of(int column, int width, double factor) {
@@ -24,22 +28,27 @@ Coverage coverage_of(int column, int width, double factor) {
     coverage.first_column = static_cast<std::size_t>(from);
     for (double left = std::floor(from); left < to; ++left) {
         const double overlap = std::min(left + 1, to) - std::max(left, from);
-        coverage.shares.push_back(static_cast<float>(overlap * std::abs(factor)));
-        coverage.background_share -= coverage.shares.back();
+        const auto share = static_cast<std::uint32_t>(overlap * std::abs(factor) * whole);
+        coverage.shares.push_back(share);
+        coverage.background_share -= share;
     }
     return coverage;
 }
 
 std::uint32_t mixed(const Coverage& coverage, const std::uint32_t* row, std::uint32_t background) {
-    std::uint32_t result = 0;
-    for (const int shift : {0, 8, 16}) {
-        const auto channel = [shift](std::uint32_t pixel) { return static_cast<float>(pixel >> shift & 0xFF); };
-        float sum = coverage.background_share * channel(background);
-        const std::uint32_t* pixel = row + coverage.first_column;
-        for (const float share : coverage.shares) sum += share * channel(*pixel++);
-        result |= static_cast<std::uint32_t>(std::clamp(std::lround(sum), 0L, 255L)) << shift;
-    }
-    return result;
+    std::uint32_t red = 0;
+    std::uint32_t green = 0;
+    std::uint32_t blue = 0;
+    const auto add = [&](std::uint32_t pixel, std::uint32_t share) {
+        red += share * (pixel >> 16 & 0xFF);
+        green += share * (pixel >> 8 & 0xFF);
+        blue += share * (pixel & 0xFF);
+    };
+    add(background, coverage.background_share);
+    const std::uint32_t* pixel = row + coverage.first_column;
+    for (const std::uint32_t share : coverage.shares) add(*pixel++, share);
+    const auto rounded = [](std::uint32_t sum) { return (sum + whole / 2) >> share_bits; };
+    return rounded(red) << 16 | rounded(green) << 8 | rounded(blue);
 }
 
 }  // namespace

@@ -81,9 +81,10 @@ TEST_F(AboutTest, AClickOnTheRunCountAsksWhy) {
 TEST_F(AboutTest, TheTitlePulsesBetweenTwentyAndTwoPoints) {
     open();
     const auto ink = [this] { return pixels_unlike(*about, about->lblTitle.pixels(), about->back_colour()); };
-    const auto run = [](Timer& timer) {
+    const auto run = [this](Timer& timer) {
         int ticks = 0;
         for (; timer.enabled() && ticks < 100; ++ticks) timer.tick();
+        about->FrameTimer.tick();
         return ticks;
     };
     run(about->Timer2);
@@ -217,6 +218,7 @@ TEST_F(AboutTest, ThePulseLeavesNothingBehind) {
         for (int i = 0; i < ticks; ++i) {
             about->Timer1.tick();
             about->Timer2.tick();
+            about->FrameTimer.tick();
             UpdateWindow(about->window());
         }
     };
