@@ -12,12 +12,19 @@
 #include "win/system_information.h"
 
 namespace quillomat {
+namespace {
+
+// Of what is inside of the border.
+constexpr double design_width = 5910;
+constexpr double design_height = 3945;
+
+}  // namespace
 
 frmAbout::frmAbout(Application& application, PointerState& pointer, std::int16_t start_up_times)
     : Form(application, {.name = L"frmAbout",
                          .caption = L"About Quillomat",
-                         .width = 6000,
-                         .height = 4470,
+                         .width = design_width,
+                         .height = design_height,
                          .border = FormBorder::Dialog}),
       StartUpTimes(start_up_times),
       picIcon(*this, Picture(PICTURE_APPLICATION), L"Quillomat", {240, 240, 720, 720}),
@@ -89,6 +96,7 @@ void frmAbout::place_help_box(const Control& control, const MouseEvent& event) {
 }
 
 void frmAbout::Form_Load() {
+    set_inner_size(design_width, design_height);
     centre_on_screen();
     lblTitle.set_caption(application().title());
     Label4.set_caption(L"You have run Quillomat " + std::to_wstring(StartUpTimes) + L" times.");

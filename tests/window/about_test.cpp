@@ -3,9 +3,13 @@
 #include <memory>
 
 #include "object_counts.h"
+#include "open_forms.h"
 #include "pixels.h"
 #include "registry_override.h"
+#include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
+#include "shell/frmMain.h"
+#include "shell/windows.h"
 #include "support.h"
 
 namespace quillomat {
@@ -226,6 +230,50 @@ TEST_F(AboutTest, ThePulseLeavesNothingBehind) {
     const ObjectCounts before = count_objects();
     pulse(3000);
     EXPECT_EQ(count_objects(), before);
+}
+
+/// The main screen as the program opens it.
+class AboutFromMainScreenTest : public WindowTest {
+  protected:
+    AboutFromMainScreenTest() {
+        session.settings = registry.settings();
+        session.settings.write(settings::Counter, 6);
+        windows.open_main_screen();
+    }
+    /// Opens a dialog with a button and closes it again; whether the main screen had to wait meanwhile.
+    template <class Dialog>
+    bool opens(Button& button, const std::function<void(const Dialog&)>& look) {
+        Form& main_screen = button.form();
+        bool main_screen_waited = false;
+        Timer closer(main_screen, 10);
+        closer.on_timer = [&] {
+            auto* dialog = find_form<Dialog>();
+            if (!dialog || !IsWindowVisible(dialog->window())) return;
+            main_screen_waited = !IsWindowEnabled(main_screen.window());
+            look(*dialog);
+            closer.set_enabled(false);
+            dialog->close();
+        };
+        button.click();
+        EXPECT_EQ(find_form<Dialog>(), nullptr);
+        EXPECT_TRUE(IsWindowEnabled(main_screen.window()));
+        return main_screen_waited;
+    }
+
+    TemporarySettings registry;
+    Session session;
+    Windows windows{application, session};
+};
+
+TEST_F(AboutFromMainScreenTest, OpensInFrontOfItWithTheNumberOfThisRun) {
+    auto& main_screen = *find_form<frmMain>();
+    const auto has_count = [](const frmAbout& box) {
+        EXPECT_EQ(box.Label4.caption(), L"You have run Quillomat 7 times.");
+    };
+    EXPECT_TRUE(opens<frmAbout>(main_screen.Command6, has_count));
+    EXPECT_TRUE(opens<Dialog1>(main_screen.Command8, [&](const Dialog1& dialog) {
+        EXPECT_EQ(GetWindow(dialog.window(), GW_OWNER), main_screen.window());
+    }));
 }
 
 }  // namespace

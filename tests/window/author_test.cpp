@@ -254,7 +254,7 @@ TEST_F(AuthorTest, ItsAnimationsLeaveNothingBehind) {
     animate(all_ticks);
     const ObjectCounts before = count_objects();
     const std::size_t bytes = allocated_bytes();
-    animate(30 * all_ticks);
+    animate(10 * all_ticks);
     EXPECT_EQ(count_objects(), before);
     EXPECT_LT(allocated_bytes(), bytes + 100'000);
 }
