@@ -21,6 +21,8 @@ class Button : public Control {
     void draw(const DRAWITEMSTRUCT& request) override;
 
   protected:
+    /// Whether the pointer is over it.
+    bool hot() const { return hot_; }
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:

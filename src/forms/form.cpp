@@ -239,6 +239,17 @@ void Form::set_caption(std::wstring caption) {
     SetWindowTextW(window_, caption_.c_str());
 }
 
+void Form::set_icon(const Picture& picture) {
+    const auto resolution = static_cast<UINT>(dpi_);
+    Icon small_icon = picture.icon(GetSystemMetricsForDpi(SM_CXSMICON, resolution));
+    Icon large_icon = picture.icon(GetSystemMetricsForDpi(SM_CXICON, resolution));
+    SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon.get()));
+    SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large_icon.get()));
+    // The former ones end only now that the window shows others.
+    small_icon_ = std::move(small_icon);
+    large_icon_ = std::move(large_icon);
+}
+
 WindowState Form::window_state() const {
     if (!shown_) return state_;
     if (IsIconic(window_)) return WindowState::Minimised;

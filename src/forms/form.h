@@ -8,6 +8,7 @@
 #include "forms/container.h"
 #include "forms/events.h"
 #include "forms/geometry.h"
+#include "forms/picture.h"
 #include "forms/tool_tips.h"
 
 namespace quillomat {
@@ -75,6 +76,8 @@ class Form : public Container, public MouseEvents {
 
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption);
+    /// The picture in the title bar and the taskbar, instead of the program's own.
+    void set_icon(const Picture& picture);
 
     /// Outer position and size in twips.
     double left() const;
@@ -91,6 +94,8 @@ class Form : public Container, public MouseEvents {
     void set_inner_size(double width, double height);
     /// Puts the window in the middle of the screen's free area.
     void centre_on_screen();
+    /// Moves the window, and makes it smaller if need be, so that all of it is in reach of the user.
+    void place_on_screen();
 
     WindowState window_state() const;
     void set_window_state(WindowState state);
@@ -141,7 +146,6 @@ class Form : public Container, public MouseEvents {
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
     void load();
-    void place_on_screen();
     void resized();
     void limit_sizing(WPARAM edge, RECT& area) const;
     void resolution_changed(int dpi, const RECT& suggested);
@@ -155,6 +159,8 @@ class Form : public Container, public MouseEvents {
 
     Application& application_;
     std::wstring caption_;
+    Icon small_icon_;
+    Icon large_icon_;
     double minimum_width_;
     double minimum_height_;
     HWND window_ = nullptr;

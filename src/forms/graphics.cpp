@@ -89,6 +89,7 @@ void Label::set_fore_colour(Colour colour) {
 }
 
 void Label::set_font(FontSpec font) {
+    if (font == font_) return;
     font_ = std::move(font);
     invalidate();
 }

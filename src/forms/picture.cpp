@@ -3,9 +3,9 @@
 namespace quillomat {
 namespace {
 
-HICON load(int resource, int width, int height) {
-    return static_cast<HICON>(
-        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resource), IMAGE_ICON, width, height, LR_DEFAULTCOLOR));
+Icon load(int resource, int width, int height) {
+    return Icon(static_cast<HICON>(
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resource), IMAGE_ICON, width, height, LR_DEFAULTCOLOR)));
 }
 
 }  // namespace
@@ -13,10 +13,8 @@ HICON load(int resource, int width, int height) {
 void Picture::draw(HDC canvas, const RECT& area) const {
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;
-    const HICON icon = load(resource_, width, height);
-    if (!icon) return;
-    DrawIconEx(canvas, area.left, area.top, icon, width, height, 0, nullptr, DI_NORMAL);
-    DestroyIcon(icon);
+    const Icon icon = load(resource_, width, height);
+    if (icon) DrawIconEx(canvas, area.left, area.top, icon.get(), width, height, 0, nullptr, DI_NORMAL);
 }
 
 GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
@@ -32,6 +30,10 @@ GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
     DeleteDC(memory);
     ReleaseDC(nullptr, screen);
     return bitmap;
+}
+
+Icon Picture::icon(int pixels) const {
+    return load(resource_, pixels, pixels);
 }
 
 }  // namespace quillomat

@@ -1,8 +1,17 @@
 #pragma once
 
+#include <memory>
+#include <type_traits>
+
 #include "forms/gdi.h"
 
 namespace quillomat {
+
+struct IconDestroyer {
+    void operator()(HICON icon) const { DestroyIcon(icon); }
+};
+/// Owns an icon and destroys it.
+using Icon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer>;
 
 /// A picture of the program: an icon among its resources, drawn for several sizes.
 class Picture {
@@ -18,6 +27,8 @@ class Picture {
     void draw(HDC canvas, const RECT& area) const;
     /// A square bitmap of it on a background, as menus take it: they do not blend what they show.
     GdiObject<HBITMAP> bitmap(int pixels, Colour background) const;
+    /// An icon of it, as windows take it.
+    Icon icon(int pixels) const;
 
   private:
     int resource_ = 0;

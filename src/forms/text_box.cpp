@@ -26,6 +26,8 @@ DWORD style_of(TextBoxKind kind, bool breaks_lines) {
             return multi_line | unbroken;
         case TextBoxKind::Reading:
             return multi_line | unbroken | ES_READONLY;
+        case TextBoxKind::Note:
+            return ES_MULTILINE | ES_READONLY | WS_TABSTOP | WS_GROUP;
         case TextBoxKind::Help:
             return ES_READONLY | ES_AUTOHSCROLL | WS_BORDER;
     }
@@ -147,7 +149,7 @@ LRESULT TextBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_GETDLGCODE: {
             // Unasked, a box for several lines takes itself for part of a dialog and closes its window on Escape.
             LRESULT wanted = default_message(message, wparam, 0);
-            if (kind_ == TextBoxKind::Reading) wanted &= ~DLGC_WANTALLKEYS;
+            if (kind_ == TextBoxKind::Reading || kind_ == TextBoxKind::Note) wanted &= ~DLGC_WANTALLKEYS;
             return wanted;
         }
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "text/author_links.h"
 #include "text/numbers.h"
 #include "text/product.h"
 
@@ -69,17 +70,14 @@ void frmMain::bind() {
     Command4.on_click = [this] { raise(windows_.cheats); };
     Command6.on_click = [this] { raise(windows_.about); };
     Command8.on_click = [this] { raise(windows_.about_author); };
-    const auto open_site = [this](const wchar_t* path) {
-        return [this, path] { raise(windows_.link, std::wstring(L"http://") + product::web_site + path); };
-    };
-    Command5.on_click = open_site(L"");
+    Command5.on_click = [this] { raise(windows_.link, web_site_link()); };
 
     menus.mnuFileCheat.on_click = Command4.on_click;
     menus.mnuMailMe.on_click = [this] { raise(windows_.mail_author); };
     menus.mnuLinksSite.on_click = Command5.on_click;
-    menus.mnuLinksSign.on_click = open_site(product::guestbook_path);
+    menus.mnuLinksSign.on_click = [this] { raise(windows_.link, guestbook_link()); };
     menus.mnuLinksNews.on_click = [this] { raise(windows_.link, product::mailing_list_page); };
-    menus.mnuLinksMail.on_click = [this] { raise(windows_.link, std::wstring(L"mailto:") + product::mail_address); };
+    menus.mnuLinksMail.on_click = [this] { raise(windows_.link, mail_link()); };
     menus.mnuHelpAbout.on_click = Command6.on_click;
 }
 

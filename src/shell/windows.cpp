@@ -8,6 +8,8 @@
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
 #include "output/frmSave.h"
+#include "shell/Dialog1.h"
+#include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
@@ -19,6 +21,8 @@ namespace quillomat {
 Windows::Windows(Application& application, Session& session) : application_(application), session_(session) {
     main_windows_.cheats = [this] { open_loading_window(); };
     main_windows_.mail_author = [this] { open_author_mail(); };
+    main_windows_.about = [this] { open_about(); };
+    main_windows_.about_author = [this] { open_author(); };
     main_windows_.link = [this](const std::wstring& address) { OpenLink(*main_screen_, address); };
     main_windows_.close_all = [this] { application_.close_all_forms(); };
     viewer_windows_.restore_main_screen = [this] { restore_main_screen(); };
@@ -89,6 +93,16 @@ void Windows::open_add_game() {
 void Windows::open_save() {
     OpenViewer link(*viewer_);
     frmSave(application_, session_, link).show_modal(nullptr);
+}
+
+void Windows::open_about() {
+    frmAbout about(application_, session_.pointer, session_.StartUpTimes);
+    about.show_modal(main_screen_.get());
+    if (about.next() == frmAbout::Next::MessageToAuthor) raise(main_windows_.mail_author);
+}
+
+void Windows::open_author() {
+    Dialog1(application_, session_.pointer).show_modal(main_screen_.get());
 }
 
 void Windows::quit_after_last() {

@@ -36,6 +36,9 @@ class Windows {
   private:
     template <class Window, class... Arguments>
     void open(std::unique_ptr<Window>& place, Arguments&&... arguments);
+    // Dialogs of the main screen: they return when they have closed.
+    void open_about();
+    void open_author();
     void restore_main_screen();
     void open_add_game();
     void open_save();

@@ -1,6 +1,8 @@
 #include "text/animation.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace quillomat {
@@ -22,6 +24,19 @@ constexpr double exit_width_asking = 2500;
 constexpr double exit_width_step = 400;
 constexpr double answer_top_asking = 3614.896;
 constexpr double answer_top_step = 100;
+
+constexpr double smallest_title = 2;
+constexpr double largest_title = 20;
+
+constexpr double first_turn = 0.1;
+constexpr double turn_step = 0.01;
+// A little less than a whole circle, as the picture has always turned.
+constexpr double full_turn = 6.28;
+
+constexpr int last_icon = 2;
+
+constexpr double author_dialog_height_with_links = 6705;
+constexpr double author_dialog_step = 100;
 
 }  // namespace
 
@@ -92,6 +107,54 @@ std::optional<double> next_game_panel_left(double left) {
 std::optional<double> next_search_panel_left(double left) {
     if (left <= panel_resting_left) return std::nullopt;
     return left - panel_step;
+}
+
+std::optional<double> next_shrinking_title(double points) {
+    if (points <= smallest_title) return std::nullopt;
+    return points - 1;
+}
+
+std::optional<double> next_growing_title(double points) {
+    if (points >= largest_title) return std::nullopt;
+    return points + 1;
+}
+
+int next_capital(int position, std::size_t caption_length) {
+    return position < static_cast<int>(caption_length) ? position + 1 : 1;
+}
+
+std::wstring with_capital(std::wstring_view caption, int position, std::size_t address_length) {
+    const auto capital = static_cast<std::size_t>(position) - 1;
+    if (capital >= caption.size()) return std::wstring(caption);
+    const std::size_t tail = address_length - std::min(address_length, capital + 1);
+    std::wstring result(caption.substr(0, capital + 1));
+    wchar_t& letter = result.back();
+    if (letter >= L'a' && letter <= L'z') letter = static_cast<wchar_t>(letter - L'a' + L'A');
+    return result.append(caption.substr(capital + 1, tail));
+}
+
+double next_turn(std::optional<double> turn) {
+    if (!turn) return first_turn;
+    const double next = *turn + turn_step;
+    return next > 1 ? next - 1 : next;
+}
+
+double turned_width(double turn) {
+    return std::cos(turn * full_turn);
+}
+
+int next_icon(int icon) {
+    return icon == last_icon ? 0 : icon + 1;
+}
+
+std::optional<double> next_expanded_height(double height) {
+    if (height >= author_dialog_height_with_links) return std::nullopt;
+    return height + author_dialog_step;
+}
+
+std::optional<double> next_contracted_height(double height) {
+    if (height <= author_dialog_height) return std::nullopt;
+    return height - author_dialog_step;
 }
 
 }  // namespace quillomat

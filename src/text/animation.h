@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillomat {
@@ -65,5 +68,30 @@ inline constexpr double search_panel_start_left = 2655;
 /// The next position of a panel that slides to its rest; nothing once it has arrived or passed it.
 std::optional<double> next_game_panel_left(double left);
 std::optional<double> next_search_panel_left(double left);
+
+/// The next size of the about box's title while it shrinks or grows, in points; nothing once it must turn round.
+std::optional<double> next_shrinking_title(double points);
+std::optional<double> next_growing_title(double points);
+
+/// Which character of the author dialog's caption is the next one in upper case, counted from 1; 0 is before the first.
+int next_capital(int position, std::size_t caption_length);
+/// `caption` with the character at `position`, counted from 1, in upper case. What follows it is cut to
+/// `address_length` less `position` characters, the length of the dialog's address text.
+std::wstring with_capital(std::wstring_view caption, int position, std::size_t address_length);
+
+/// The author dialog's picture turns about its vertical axis: the fraction of a turn it has made, from the fraction
+/// before, of which there is none on the first tick.
+double next_turn(std::optional<double> turn);
+/// How wide the picture looks at a fraction of a turn, from 1 over 0, seen from its edge, to -1, seen from behind.
+double turned_width(double turn);
+
+/// Which of its three pictures the author dialog's icon shows next, from 0.
+int next_icon(int icon);
+
+/// The next height of the author dialog's window while it grows to show the links or shrinks to hide them, in twips;
+/// nothing once it is there. It may go a little further than its goal.
+inline constexpr double author_dialog_height = 5400;
+std::optional<double> next_expanded_height(double height);
+std::optional<double> next_contracted_height(double height);
 
 }  // namespace quillomat

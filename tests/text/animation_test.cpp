@@ -4,6 +4,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace quillomat {
 namespace {
@@ -110,6 +111,89 @@ TEST(SlidingPanels, ArriveAfter26Steps) {
     EXPECT_EQ(slide(game_panel_start_left, next_game_panel_left), std::pair(27, 165.0));
     EXPECT_EQ(next_search_panel_left(panel_resting_left), std::nullopt);
     EXPECT_EQ(next_game_panel_left(panel_resting_left), std::nullopt);
+}
+
+TEST(TitlePulse, TurnsRoundAtTwoAndAtTwentyPoints) {
+    double points = 20;
+    std::vector<double> sizes;
+    while (const auto next = next_shrinking_title(points)) sizes.push_back(points = *next);
+    while (const auto next = next_growing_title(points)) sizes.push_back(points = *next);
+    std::vector<double> expected;
+    for (int size = 19; size >= 2; --size) expected.push_back(size);
+    for (int size = 3; size <= 20; ++size) expected.push_back(size);
+    EXPECT_EQ(sizes, expected);
+}
+
+TEST(RunningCapital, RunsAlongTheCaptionAndStartsAgain) {
+    const std::wstring caption = L"me - tob";
+    const wchar_t* const frames[] = {L"Me - tob", L"mE - tob", L"me - tob", L"me - tob", L"me - tob",
+                                     L"me - Tob", L"me - tOb", L"me - toB", L"Me - tob"};
+    int position = 0;
+    for (std::size_t tick = 0; tick < std::size(frames); ++tick) {
+        position = next_capital(position, caption.size());
+        EXPECT_EQ(with_capital(caption, position, 30), frames[tick]) << "tick " << tick;
+    }
+}
+
+TEST(RunningCapital, TheAddressesDecideHowMuchFollows) {
+    const struct {
+        std::wstring_view caption;
+        int position;
+        std::size_t address_length;
+        std::wstring_view shown;
+    } cases[] = {
+        {L"author", 2, 6, L"aUthor"},     {L"author", 2, 5, L"aUtho"},
+        {L"author", 2, 2, L"aU"},         {L"author", 4, 2, L"autH"},
+        {L"author", 6, 0, L"authoR"},     {L"author", 7, 9, L"author"},
+        {L"author", 0, 9, L"author"},     {L"", 1, 9, L""},
+        {L"\u00e9A-", 1, 9, L"\u00e9A-"},
+    };
+    for (const auto& [caption, position, address_length, shown] : cases) {
+        EXPECT_EQ(with_capital(caption, position, address_length), shown) << position << ", " << address_length;
+    }
+    EXPECT_EQ(next_capital(0, 0), 1);
+}
+
+TEST(Turn, TakesAHundredTicksFromATenthOn) {
+    std::optional<double> turn;
+    const struct {
+        int tick;
+        double turn;
+        double width;
+    } cases[] = {
+        {1, 0.1, 0.80920}, {2, 0.11, 0.77074},   {16, 0.25, 0.00080},
+        {41, 0.5, -1.0},   {66, 0.75, -0.00239}, {101, 0.1, 0.80920},
+    };
+    int tick = 0;
+    for (const auto& expected : cases) {
+        for (; tick < expected.tick; ++tick) turn = next_turn(turn);
+        EXPECT_NEAR(*turn, expected.turn, 1e-9) << tick;
+        EXPECT_NEAR(turned_width(*turn), expected.width, 1e-5) << tick;
+    }
+    for (; tick < 10'000; ++tick) {
+        turn = next_turn(turn);
+        ASSERT_TRUE(*turn > 0 && *turn <= 1) << tick;
+    }
+    EXPECT_NEAR(next_turn(1.0), 0.01, 1e-9);
+}
+
+TEST(Icon, ThreePicturesTakeTurns) {
+    std::vector<int> shown;
+    for (int icon = 0; shown.size() < 4;) shown.push_back(icon = next_icon(icon));
+    EXPECT_EQ(shown, (std::vector{1, 2, 0, 1}));
+}
+
+TEST(AuthorDialog, GrowsAndShrinksPastItsGoalByLessThanAStep) {
+    const auto run = [](double height, std::optional<double> (*next_height)(double)) {
+        while (const auto next = next_height(height)) height = *next;
+        return height;
+    };
+    EXPECT_EQ(run(author_dialog_height, next_expanded_height), 6800);
+    EXPECT_EQ(run(6800, next_contracted_height), author_dialog_height);
+    EXPECT_EQ(run(6765, next_contracted_height), 5365);
+    EXPECT_EQ(next_expanded_height(6705), std::nullopt);
+    EXPECT_EQ(next_expanded_height(6704), 6804);
+    EXPECT_EQ(next_contracted_height(5401), 5301);
 }
 
 }  // namespace

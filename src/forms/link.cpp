@@ -1,0 +1,79 @@
+#include "forms/link.h"
+
+#include "forms/application.h"
+#include "forms/container.h"
+#include "forms/form.h"
+
+namespace quillomat {
+namespace {
+
+constexpr Colour idle{0xFF0000};
+constexpr Colour held_down{0x0000FF};
+
+// Room for the frame that shows the focus.
+constexpr int margin_pixels = 2;
+
+constexpr UINT text_format = DT_LEFT | DT_VCENTER | DT_SINGLELINE;
+
+}  // namespace
+
+Link::Link(Container& container, std::wstring_view caption, double left, double top)
+    : Button(container, caption, {left, top, 0, 0}) {
+    fit_to_caption();
+}
+
+void Link::fit_to_caption() {
+    const std::wstring text = caption();
+    const HDC canvas = GetDC(window());
+    RECT area{};
+    {
+        const Selection selected(canvas, form().application().fonts().get(font(), dpi()));
+        DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | text_format);
+    }
+    ReleaseDC(window(), canvas);
+    // Fonts whose small sizes were drawn by hand can come out a little wider than the system measures them.
+    const LONG spare = area.bottom / 2;
+    set_width(to_twips(static_cast<int>(area.right + spare) + 2 * margin_pixels, dpi()));
+    set_height(to_twips(static_cast<int>(area.bottom) + 2 * margin_pixels, dpi()));
+}
+
+void Link::resolution_changed() {
+    Button::resolution_changed();
+    fit_to_caption();
+}
+
+void Link::draw(const DRAWITEMSTRUCT& request) {
+    const BufferedCanvas buffer(request.hDC, request.rcItem);
+    const HDC canvas = buffer.canvas();
+    fill(canvas, request.rcItem, container().back_colour());
+    // While the mouse holds it, it is down wherever the pointer has gone.
+    const bool down = (request.itemState & ODS_SELECTED) || GetCapture() == window();
+    FontSpec spec = font();
+    spec.underline = hot();
+    const Selection selected(canvas, form().application().fonts().get(spec, dpi()));
+    SetBkMode(canvas, TRANSPARENT);
+    SetTextColor(canvas, resolve(down ? held_down : idle));
+    RECT area = request.rcItem;
+    InflateRect(&area, -margin_pixels, 0);
+    const std::wstring text = caption();
+    const UINT hidden_prefix = request.itemState & ODS_NOACCEL ? DT_HIDEPREFIX : 0;
+    DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area, text_format | hidden_prefix);
+    if ((request.itemState & ODS_FOCUS) && !(request.itemState & ODS_NOFOCUSRECT)) {
+        SetTextColor(canvas, resolve(colours::window_text));
+        DrawFocusRect(canvas, &request.rcItem);
+    }
+}
+
+LRESULT Link::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_SETCURSOR:
+            SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_HAND)));
+            return TRUE;
+        case WM_CAPTURECHANGED:
+            InvalidateRect(window(), nullptr, FALSE);
+            break;
+    }
+    return Button::handle_message(message, wparam, lparam);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "forms/button.h"
+
+namespace quillomat {
+
+/// A text that is pressed like a button, with the mouse or by keyboard, and looks like a link: blue, red while it is
+/// pressed, underlined under the pointer.
+class Link : public Button {
+  public:
+    /// As wide as its caption; `left` and `top` are in twips.
+    Link(Container& container, std::wstring_view caption, double left, double top);
+
+    void resolution_changed() override;
+    void draw(const DRAWITEMSTRUCT& request) override;
+
+  protected:
+    LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  private:
+    void fit_to_caption();
+};
+
+}  // namespace quillomat

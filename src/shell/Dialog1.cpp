@@ -1,0 +1,141 @@
+#include "shell/Dialog1.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "common/desktop.h"
+#include "forms/application.h"
+#include "resources/pictures.h"
+#include "text/animation.h"
+#include "text/author_links.h"
+#include "text/product.h"
+
+namespace quillomat {
+namespace {
+
+constexpr wchar_t title[] = L"about the author - tobin ferrand";
+constexpr int pause_between_steps = 5;
+
+}  // namespace
+
+Dialog1::Dialog1(Application& application, PointerState& pointer)
+    : Form(application, {.name = L"Dialog1",
+                         .caption = title,
+                         .width = 6000,
+                         .height = author_dialog_height,
+                         .border = FormBorder::Dialog}),
+      picSpin(PICTURE_COIN),
+      Picture1{Picture(PICTURE_QUILL_FIRST), Picture(PICTURE_QUILL_FIRST + 1), Picture(PICTURE_QUILL_FIRST + 2)},
+      picCopy(*this, picSpin, L"A coin that turns", {240, 240, 2340, 2340}),
+      Label1(*this, product::author, {2835, 795, 2835, 420}),
+      pointer_(pointer) {
+    picCopy.set_back_colour(colours::white);
+    picCopy.set_tool_tip(L"Cool, eh?");
+    Label1.set_font({.points = 16, .bold = true});
+    Text1.set_text(std::wstring(product::mail_address) + L"\r\n" + product::web_site);
+    cmdButton[1].set_visible(false);
+    set_links_visible(false);
+    set_icon(Picture1[0]);
+    set_default_button(&cmdButton[2]);
+    set_cancel_button(&cmdButton[2]);
+    cmdButton[0].set_focus();
+    bind();
+    bind_links();
+    bind_hover_help();
+}
+
+void Dialog1::bind() {
+    on_load = [this] { Form_Load(); };
+    Text1.on_double_click = [this] { Text1_DblClick(); };
+    cmdButton[0].on_click = [this] { Expand(); };
+    cmdButton[1].on_click = [this] { Contract(); };
+    cmdButton[2].on_click = [this] { close(); };
+    Timer1.on_timer = [this] { Timer1_Timer(); };
+    Timer2.on_timer = [this] { Timer2_Timer(); };
+    Timer4.on_timer = [this] { Timer4_Timer(); };
+}
+
+void Dialog1::bind_links() {
+    Label3.on_click = [this] { OpenLink(*this, web_site_link()); };
+    Label4.on_click = [this] { OpenLink(*this, product::mailing_list_page); };
+    Label5.on_click = [this] { OpenLink(*this, guestbook_link()); };
+    Label6.on_click = [this] { OpenLink(*this, mail_link()); };
+    Label8.on_click = [this] { OpenLink(*this, downloads_link()); };
+}
+
+void Dialog1::bind_hover_help() {
+    hover_help_.add(cmdButton[0], L"Click here to see the links to my pages");
+    hover_help_.add(cmdButton[1], L"Click here to hide the links again");
+    hover_help_.add(cmdButton[2], L"Click here to go back to the main screen");
+    for (Button& button : cmdButton) {
+        button.on_mouse_move = [this, &button](const MouseEvent& event) { place_help_box(button, event); };
+    }
+    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
+    // The help box never keeps the focus.
+    HelpBox.on_got_focus = [this] {
+        HelpBox.set_visible(false);
+        cmdButton[2].set_focus();
+    };
+    Timer3.on_timer = [this] { hover_help_.tick(); };
+}
+
+void Dialog1::place_help_box(const Control& control, const MouseEvent& event) {
+    const double left = control.left() + event.x - HelpBox.width() / 2;
+    const double top = control.top() + event.y - 500;
+    HelpBox.move({std::clamp(left, 0.0, std::max(0.0, inner_width() - HelpBox.width())), top, HelpBox.width(),
+                  HelpBox.height()});
+}
+
+void Dialog1::Form_Load() {
+    centre_on_screen();
+}
+
+void Dialog1::set_links_visible(bool visible) {
+    for (Link* link : {&Label3, &Label4, &Label5, &Label6, &Label8}) link->set_visible(visible);
+}
+
+void Dialog1::show_step(double height) {
+    set_height(height);
+    RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    pause_milliseconds(pause_between_steps);
+}
+
+void Dialog1::Expand() {
+    cmdButton[1].set_visible(true);
+    if (cmdButton[0].has_focus()) cmdButton[1].set_focus();
+    cmdButton[0].set_visible(false);
+    set_links_visible(true);
+    while (const auto next = next_expanded_height(height())) show_step(*next);
+    place_on_screen();
+}
+
+void Dialog1::Contract() {
+    cmdButton[0].set_visible(true);
+    if (cmdButton[1].has_focus()) cmdButton[0].set_focus();
+    cmdButton[1].set_visible(false);
+    while (const auto next = next_contracted_height(height())) show_step(*next);
+    // Out of sight they are out of reach of the keyboard too.
+    set_links_visible(false);
+}
+
+void Dialog1::Text1_DblClick() {
+    if (const auto link = link_of_address(Text1.selected_text())) OpenLink(*this, *link);
+}
+
+void Dialog1::Timer1_Timer() {
+    constexpr std::wstring_view whole = title;
+    capital_ = next_capital(capital_, whole.size());
+    set_caption(with_capital(whole, capital_, Text1.text().size()));
+}
+
+void Dialog1::Timer2_Timer() {
+    turn_ = next_turn(turn_);
+    picCopy.set_width_factor(turned_width(*turn_));
+}
+
+void Dialog1::Timer4_Timer() {
+    icon_ = next_icon(icon_);
+    set_icon(Picture1[icon_]);
+}
+
+}  // namespace quillomat

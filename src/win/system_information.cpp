@@ -1,0 +1,76 @@
+#include "win/system_information.h"
+
+#include <cstdint>
+#include <cstring>
+#include <iterator>
+
+#include "win/handle.h"
+// Need the system's header.
+#include <shellapi.h>
+
+namespace quillomat {
+namespace {
+
+std::wstring hexadecimal(std::uint32_t number) {
+    std::wstring digits;
+    for (int shift = 28; shift >= 0; shift -= 4) digits += L"0123456789ABCDEF"[number >> shift & 0xF];
+    return digits;
+}
+
+/// A path in which the system's variables, such as the program folder, have their values.
+std::wstring expanded(const std::wstring& text) {
+    std::wstring result(ExpandEnvironmentStringsW(text.c_str(), nullptr, 0), L'\0');
+    const DWORD length = ExpandEnvironmentStringsW(text.c_str(), result.data(), static_cast<DWORD>(result.size()));
+    if (length == 0 || length > result.size()) return text;
+    result.resize(length - 1);
+    return result;
+}
+
+bool is_file(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+}  // namespace
+
+std::optional<std::wstring> GetKeyValue(HKEY root, const std::wstring& key, const std::wstring& name) {
+    RegistryKey opened;
+    if (RegOpenKeyExW(root, key.c_str(), 0, KEY_QUERY_VALUE, opened.receive()) != ERROR_SUCCESS) return std::nullopt;
+    wchar_t buffer[1024];
+    DWORD type = REG_NONE;
+    DWORD bytes = sizeof buffer;
+    const LSTATUS status =
+        RegQueryValueExW(opened.get(), name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(buffer), &bytes);
+    if (status != ERROR_SUCCESS) return std::nullopt;
+    if (type == REG_DWORD && bytes == sizeof(std::uint32_t)) {
+        std::uint32_t number = 0;
+        std::memcpy(&number, buffer, sizeof number);
+        return L"&h" + hexadecimal(number);
+    }
+    if (type != REG_SZ && type != REG_EXPAND_SZ) return std::nullopt;
+    // Whoever stored it may have left the terminating zero out.
+    const std::wstring stored(buffer, bytes / sizeof(wchar_t));
+    const std::wstring text = stored.substr(0, stored.find(L'\0'));
+    return type == REG_EXPAND_SZ ? expanded(text) : text;
+}
+
+std::optional<std::wstring> system_information_tool() {
+    if (auto path = GetKeyValue(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", L"PATH")) return path;
+    const auto folder = GetKeyValue(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools Location", L"MSINFO");
+    if (!folder) return std::nullopt;
+    std::wstring path = *folder + L"\\MSINFO32.EXE";
+    if (!is_file(path)) return std::nullopt;
+    return path;
+}
+
+bool start_program(const std::wstring& path) {
+    SHELLEXECUTEINFOW request{};
+    request.cbSize = sizeof request;
+    // A failure is the caller's to report, once.
+    request.fMask = SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
+    request.lpFile = path.c_str();
+    request.nShow = SW_SHOWNORMAL;
+    return ShellExecuteExW(&request) != FALSE;
+}
+
+}  // namespace quillomat

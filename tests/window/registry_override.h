@@ -1,0 +1,69 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "temporary.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+/// While it lives, this process finds a test's own, at first empty key in the place of a root of the registry.
+class RegistryOverride {
+  public:
+    explicit RegistryOverride(HKEY root) : root_(root) {
+        RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str());
+        RegCreateKeyExW(HKEY_CURRENT_USER, path_.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr);
+        RegOverridePredefKey(root_, key_);
+    }
+    ~RegistryOverride() {
+        RegOverridePredefKey(root_, nullptr);
+        RegCloseKey(key_);
+        RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str());
+    }
+    RegistryOverride(const RegistryOverride&) = delete;
+    RegistryOverride& operator=(const RegistryOverride&) = delete;
+
+    void set(const std::wstring& key, const wchar_t* name, DWORD type, const void* bytes, std::size_t size) const {
+        RegSetKeyValueW(key_, key.c_str(), name, type, bytes, static_cast<DWORD>(size));
+    }
+    void set(const std::wstring& key, const wchar_t* name, const std::wstring& text, DWORD type = REG_SZ) const {
+        set(key, name, type, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    }
+    void remove(const std::wstring& key) const { RegDeleteTreeW(key_, key.c_str()); }
+
+  private:
+    HKEY root_;
+    HKEY key_ = nullptr;
+    std::wstring path_ = L"Software\\QuillomatTestRoot" + std::to_wstring(GetCurrentProcessId());
+};
+
+/// While it lives, web and mail addresses are opened by a program that writes them down.
+class CaughtLinks {
+  public:
+    CaughtLinks() {
+        for (const wchar_t* protocol : {L"http", L"mailto"}) {
+            classes_.set(protocol, L"URL Protocol", L"");
+            classes_.set(std::wstring(protocol) + L"\\shell\\open\\command", nullptr,
+                         L"cmd.exe /c echo %1>\"" + file_.wstring() + L"\"");
+        }
+    }
+
+    /// The address opened since the last call; empty when there is none yet.
+    std::string take() const {
+        std::string address;
+        std::getline(std::ifstream(file_), address);
+        if (address.ends_with('\r')) address.pop_back();
+        std::error_code ignored;
+        if (!address.empty()) std::filesystem::remove(file_, ignored);
+        return address;
+    }
+
+  private:
+    TemporaryFolder folder_;
+    std::filesystem::path file_ = folder_.path() / "link.txt";
+    RegistryOverride classes_{HKEY_CLASSES_ROOT};
+};
+
+}  // namespace quillomat
