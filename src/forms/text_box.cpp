@@ -26,6 +26,8 @@ DWORD style_of(TextBoxKind kind, bool breaks_lines) {
             return multi_line | unbroken;
         case TextBoxKind::Reading:
             return multi_line | unbroken | ES_READONLY;
+        case TextBoxKind::Result:
+            return ES_AUTOHSCROLL | ES_READONLY | WS_TABSTOP | WS_GROUP;
         case TextBoxKind::Help:
             return ES_READONLY | ES_AUTOHSCROLL | WS_BORDER;
     }
@@ -54,7 +56,9 @@ TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
       kind_(kind),
       breaks_lines_(may_break_lines(kind)) {
     const bool help = kind == TextBoxKind::Help;
-    set_default_back_colour(help ? colours::tip_background : colours::window);
+    set_default_back_colour(help                          ? colours::tip_background
+                            : kind == TextBoxKind::Result ? colours::button_face
+                                                          : colours::window);
     if (help) {
         set_fore_colour(colours::tip_text);
         set_visible(false);

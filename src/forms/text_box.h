@@ -15,6 +15,8 @@ enum class TextBoxKind {
     Writing,
     /// Several lines for reading only; lines that are not extremely long break at the box's width.
     Reading,
+    /// One line that the program fills in and the user reads, and can copy.
+    Result,
     /// A small box that shows a help text; it stands in front of other controls and has no place in the Tab order.
     Help,
 };

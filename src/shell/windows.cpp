@@ -6,6 +6,7 @@
 #include "forms/application.h"
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
+#include "output/frmPrintGames.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
@@ -24,6 +25,7 @@ Windows::Windows(Application& application, Session& session) : application_(appl
         open_author_mail();
         if (author_mail_) author_mail_->propose_message(text);
     };
+    viewer_windows_.print_list = [this] { show_print_list(); };
 }
 
 Windows::~Windows() = default;
@@ -73,6 +75,14 @@ void Windows::mail_cheats() {
     GamesToPick games{.names = {}, .selected = viewer_->List2.selected_index()};
     for (int index = 0; index < viewer_->List2.count(); ++index) games.names.push_back(viewer_->List2.item(index));
     frmMailCheats form(application_, session_, std::move(games));
+    form.show_modal(viewer_.get());
+}
+
+void Windows::show_print_list() {
+    const ListBox& list = viewer_->List2;
+    frmPrintGames form(
+        application_, session_,
+        {.count = [&list] { return list.count(); }, .name = [&list](int index) { return list.item(index); }});
     form.show_modal(viewer_.get());
 }
 

@@ -39,6 +39,7 @@ class Windows {
     void restore_main_screen();
     void quit_after_last();
     void mail_cheats();
+    void show_print_list();
 
     Application& application_;
     Session& session_;

@@ -33,6 +33,8 @@ const wchar_t* standard_description(ErrorCode code) {
             return L"Path not found";
         case ErrorCode::PrinterError:
             return L"Printer error";
+        case ErrorCode::ClipboardError:
+            return L"Can't open Clipboard";
         case ErrorCode::MailFailure:
             return L"The message could not be sent";
     }

@@ -20,6 +20,7 @@ enum class ErrorCode {
     DiskNotReady = 71,
     PathNotFound = 76,
     PrinterError = 482,
+    ClipboardError = 521,
     MailFailure = 32002,
 };
 

@@ -116,6 +116,10 @@ void DefaultPrinter::abort_document() noexcept {
     AbortDoc(canvas_);
 }
 
+std::unique_ptr<PrintDevice> open_default_printer() {
+    return std::make_unique<DefaultPrinter>();
+}
+
 PrintJob::PrintJob(PrintDevice& device, const std::wstring& document_name) : device_(device) {
     device_.start_document(document_name.substr(0, longest_document_name));
     try {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,6 +45,12 @@ class DefaultPrinter final : public PrintDevice {
   private:
     HDC canvas_;
 };
+
+/// How a window gets at the printer; tests print elsewhere.
+using PrinterFactory = std::function<std::unique_ptr<PrintDevice>()>;
+
+/// Throws as the constructor of `DefaultPrinter` does.
+std::unique_ptr<PrintDevice> open_default_printer();
 
 /// A document while it is printed: a page in twips, on which text goes from a print position downward and on to as many
 /// pages as it needs. Positions count from the corner of the printable area, so that nothing is cut off.
