@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "common/desktop.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/game_range.h"
@@ -32,8 +33,8 @@ frmPrintGames::frmPrintGames(Application& application, Session& session, ListedG
       session_(session),
       games_(std::move(games)) {
     bind();
-    bind_number_box(Text1, Text2);
-    bind_number_box(Text2, Command1);
+    bind_number_box(Text1, [this] { SelectAllText(Text2); });
+    bind_number_box(Text2, [this] { Command1.set_focus(); });
     bind_hover_help();
     set_default_button(&Command1);
     set_cancel_button(&Command2);
@@ -52,12 +53,12 @@ void frmPrintGames::bind() {
     Command2.on_click = [this] { close(); };
 }
 
-void frmPrintGames::bind_number_box(TextBox& box, Control& next) {
+void frmPrintGames::bind_number_box(TextBox& box, std::function<void()> go_on) {
     box.on_change = [this] { Total(); };
-    box.on_key_down = [&next](KeyEvent& event) {
+    box.on_key_down = [go_on = std::move(go_on)](KeyEvent& event) {
         if (event.key != keys::enter) return;
         event.handled = true;
-        next.set_focus();
+        go_on();
     };
     box.on_key_press = [](CharacterEvent& event) {
         const bool is_digit = event.character >= L'0' && event.character <= L'9';

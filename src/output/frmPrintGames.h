@@ -46,7 +46,7 @@ class frmPrintGames final : public Form {
 
   private:
     void bind();
-    void bind_number_box(TextBox& box, Control& next);
+    void bind_number_box(TextBox& box, std::function<void()> go_on);
     void bind_hover_help();
 
     void Form_Load();

@@ -177,9 +177,12 @@ void frmCtlView::Image1_MouseMove(const MouseEvent& event) {
 void frmCtlView::show_image_help(const Image& image, const wchar_t* text, Bounds bounds) {
     // A control that was left for the image hides the box; it has to do so before the image shows it.
     hover_help_.tick();
-    hovered_ = &image;
-    if (Text4.text() != text) Text4.set_text(text);
     Text4.move(bounds);
+    if (hovered_ != &image) {
+        hovered_ = &image;
+        Text4.set_text(text);
+        Text4.fit_font_to_width();
+    }
     Text4.bring_to_front();
     Text4.set_visible(true);
 }
@@ -196,6 +199,7 @@ void frmCtlView::hide_image_help() {
 void frmCtlView::tidy_image_bar() {
     hovered_ = nullptr;
     hide_image_help();
+    Text4.set_font({});
     Label1_reset();
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 // Programs that watch the clipboard open it for a moment whenever it changes.
 constexpr int attempts = 10;
-constexpr DWORD pause_between_attempts = 30;  // milliseconds
+constexpr DWORD pause_between_attempts = 50;  // milliseconds
 
 /// The clipboard while this program has it open.
 class OpenClipboardScope {
