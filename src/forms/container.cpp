@@ -141,8 +141,8 @@ void Container::press(MouseEvents& target, POINT origin) {
     // Until the release all movements belong to what was pressed, also outside of it.
     pressed_ = &target;
     pressed_origin_ = origin;
-    ++presses_;
-    SetCapture(window());
+    // Capturing the mouse once more would look as if it was taken away.
+    if (presses_++ == 0) SetCapture(window());
 }
 
 void Container::release(const MouseEvent& event, WPARAM buttons_held) {
