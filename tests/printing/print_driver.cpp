@@ -1,45 +1,27 @@
-// Prints with the program as it is shipped, as a user would: starts it, gives its commands, and tells what it says.
-//   print_driver PROGRAM cheats GAME    prints the cheats of a game
-//   print_driver PROGRAM list           prints the list of all games
-// Writes the text of the message box that comes instead of a printed page, if one does. Exits with 0 when the program
-// has done what it was told, and ended.
+// Prints with the program as it is handed out, as a player would by the keyboard:
+//   print_driver PROGRAM DATABASE cheats    prints the cheats of the first game
+//   print_driver PROGRAM DATABASE list      prints the list of all games
+// Writes the message that comes instead of a printed page, if one does. Exits with 0 when the program has done what it
+// was told.
 
 #include <cstdio>
-#include <functional>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 
-#include "win/api.h"
+#include "program/program.h"
 
+namespace quillomat {
 namespace {
-
-constexpr DWORD patience = 20'000;  // milliseconds
 
 struct Failure {
     const char* description;
 };
 
 void wait_until(const char* what, const std::function<bool()>& condition) {
-    const ULONGLONG deadline = GetTickCount64() + patience;
-    while (!condition()) {
-        if (GetTickCount64() > deadline) throw Failure{what};
-        Sleep(10);
-    }
-}
-
-HWND wait_for_window(const wchar_t* class_name) {
-    HWND window = nullptr;
-    wait_until("a window does not come", [&] {
-        window = FindWindowW(class_name, nullptr);
-        return window && IsWindowVisible(window);
-    });
-    return window;
-}
-
-HWND control(HWND window, const wchar_t* class_name, const wchar_t* text) {
-    HWND found = FindWindowExW(window, nullptr, class_name, text);
-    if (!found) throw Failure{"a control is missing"};
-    return found;
+    if (!Program::wait_until(condition)) throw Failure{what};
 }
 
 void press(WORD key, DWORD flags) {
@@ -51,9 +33,9 @@ void press(WORD key, DWORD flags) {
     SendInput(1, &input, sizeof input);
 }
 
-void type(WORD key) {
-    press(key, 0);
-    press(key, KEYEVENTF_KEYUP);
+void type(char key) {
+    press(static_cast<WORD>(key), 0);
+    press(static_cast<WORD>(key), KEYEVENTF_KEYUP);
 }
 
 bool is_in_menu(HWND window) {
@@ -62,7 +44,7 @@ bool is_in_menu(HWND window) {
     return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) && (info.flags & GUI_INMENUMODE);
 }
 
-/// Gives the command of an entry of the "Print" submenu, by its access key.
+/// Gives the command of an entry of the menu "Options", "Print" by its access key.
 void choose_print_command(HWND viewer, char access_key) {
     wait_until("the viewer is not in front", [viewer] { return GetForegroundWindow() == viewer; });
     press(VK_MENU, 0);
@@ -70,70 +52,55 @@ void choose_print_command(HWND viewer, char access_key) {
     press(VK_MENU, KEYEVENTF_KEYUP);
     wait_until("the menu does not open", [viewer] { return is_in_menu(viewer); });
     type('P');
-    type(static_cast<WORD>(access_key));
+    type(access_key);
     // Now the command is on its way, in front of all that is posted later.
     wait_until("the menu does not close", [viewer] { return !is_in_menu(viewer); });
 }
 
-void select_game(HWND viewer, const wchar_t* name) {
-    const HWND list = control(viewer, L"LISTBOX", nullptr);
-    wait_until("the game is not listed", [&] {
-        return SendMessageW(list, LB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name)) >= 0;
-    });
-    SendMessageW(viewer, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+void print_list(const Program& program) {
+    choose_print_command(program.viewer(), 'L');
+    wait_until("the window does not come", [&] { return program.find(L"frmPrintGames") != nullptr; });
+    const HWND window = program.find(L"frmPrintGames");
+    PostMessageW(FindWindowExW(window, nullptr, L"Button", L"&OK"), BM_CLICK, 0, 0);
+    wait_until("printing does not end", [&] { return !program.message().empty() || !IsWindow(window); });
+    if (!IsWindow(window)) return;
+    std::printf("%ls\n", program.message().c_str());
+    program.dismiss_message();
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    wait_until("the window does not close", [window] { return !IsWindow(window); });
 }
 
-/// Reads a message box and closes it.
-void read_out(HWND box) {
-    constexpr int text_control = 0xFFFF;
-    wchar_t text[1024]{};
-    wait_until("the message says nothing", [&] { return GetDlgItemTextW(box, text_control, text, 1024) != 0; });
-    std::wprintf(L"%ls\n", text);
-    PostMessageW(box, WM_COMMAND, IDOK, 0);
-    wait_until("the message does not close", [box] { return !IsWindow(box); });
-}
-
-void print_list(HWND viewer) {
-    choose_print_command(viewer, 'L');
-    const HWND dialog = wait_for_window(L"frmPrintGames");
-    PostMessageW(control(dialog, L"BUTTON", L"&OK"), BM_CLICK, 0, 0);
-    HWND box = nullptr;
-    wait_until("printing does not end", [&] {
-        box = FindWindowW(L"#32770", nullptr);
-        return box || !IsWindow(dialog);
-    });
-    if (!box) return;
-    read_out(box);
-    SendMessageW(dialog, WM_CLOSE, 0, 0);
-}
-
-void run(int argument_count, wchar_t** arguments) {
-    const bool cheats = argument_count == 4 && std::wstring_view(arguments[2]) == L"cheats";
-    const bool list = argument_count == 3 && std::wstring_view(arguments[2]) == L"list";
-    if (!cheats && !list) throw Failure{"usage: print_driver PROGRAM cheats GAME | print_driver PROGRAM list"};
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
-    PROCESS_INFORMATION program{};
-    if (!CreateProcessW(arguments[1], nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &program))
-        throw Failure{"the program does not start"};
-    const HWND viewer = wait_for_window(L"frmCtlView");
+void run(const std::filesystem::path& database, bool cheats) {
+    Program program;
+    std::ifstream file(database, std::ios::binary);
+    program.write_database(std::string(std::istreambuf_iterator<char>(file), {}));
+    program.start();
+    if (!program.reach_viewer() || !program.message().empty()) throw Failure{"the viewer does not come"};
+    const HWND viewer = program.viewer();
     if (cheats) {
-        select_game(viewer, arguments[3]);
+        cheats_of(viewer, 0);
         choose_print_command(viewer, 'C');
     } else {
-        print_list(viewer);
+        print_list(program);
     }
     PostMessageW(viewer, WM_CLOSE, 0, 0);
-    if (WaitForSingleObject(program.hProcess, patience) != WAIT_OBJECT_0) throw Failure{"the program does not end"};
+    wait_until("the viewer does not close", [viewer] { return !IsWindow(viewer); });
 }
 
 }  // namespace
+}  // namespace quillomat
 
-int wmain(int argument_count, wchar_t** arguments) {
+int wmain(int count, wchar_t** arguments) {
+    const std::wstring_view what = count == 4 ? arguments[3] : L"";
+    if (what != L"cheats" && what != L"list") {
+        std::printf("usage: print_driver PROGRAM DATABASE cheats|list\n");
+        return 2;
+    }
     try {
-        run(argument_count, arguments);
+        quillomat::Program::executable = arguments[1];
+        quillomat::run(arguments[2], what == L"cheats");
         return 0;
-    } catch (const Failure& failure) {
+    } catch (const quillomat::Failure& failure) {
         std::printf("print_driver: %s\n", failure.description);
         return 1;
     }
