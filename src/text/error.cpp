@@ -35,6 +35,8 @@ const wchar_t* standard_description(ErrorCode code) {
             return L"Printer error";
         case ErrorCode::ClipboardError:
             return L"Can't open Clipboard";
+        case ErrorCode::Cancelled:
+            return L"Cancel was selected";
         case ErrorCode::MailFailure:
             return L"The message could not be sent";
     }

@@ -21,6 +21,8 @@ enum class ErrorCode {
     PathNotFound = 76,
     PrinterError = 482,
     ClipboardError = 521,
+    /// The user has changed their mind; no message tells them so.
+    Cancelled = 32755,
     MailFailure = 32002,
 };
 

@@ -96,7 +96,12 @@ void DefaultPrinter::start_document(const std::wstring& name) {
     DOCINFOW document{};
     document.cbSize = sizeof document;
     document.lpszDocName = name.c_str();
-    printed([&] { return StartDocW(canvas_, &document); });
+    printed([&] {
+        const int job = StartDocW(canvas_, &document);
+        // A printer that prints to a file asks for its name, and the user may give none.
+        if (job <= 0 && GetLastError() == ERROR_CANCELLED) throw Error(ErrorCode::Cancelled);
+        return job;
+    });
 }
 
 HDC DefaultPrinter::start_page() {

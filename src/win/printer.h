@@ -35,7 +35,8 @@ class DefaultPrinter final : public PrintDevice {
     DefaultPrinter(const DefaultPrinter&) = delete;
     DefaultPrinter& operator=(const DefaultPrinter&) = delete;
 
-    /// Throws `Error`: PrinterError, also when the user thinks better of it, DiskFull or OutOfMemory.
+    /// Throws `Error`: Cancelled when the user thinks better of it, PrinterError, also for a job that was deleted from
+    /// its queue, DiskFull or OutOfMemory.
     void start_document(const std::wstring& name) override;
     HDC start_page() override;
     void end_page() override;

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "text/error.h"
-
 namespace quillomat {
 namespace {
 
@@ -61,7 +59,7 @@ void MetafilePrinter::end_page() {
     Reading reading;
     EnumEnhMetaFile(nullptr, page, read_record, &reading, nullptr);
     DeleteEnhMetaFile(page);
-    if (printed_.pages.size() + 1 == printed_.jams_at_page) throw Error(ErrorCode::PrinterError);
+    if (printed_.pages.size() + 1 == printed_.fails_at_page) throw Error(printed_.failure);
     printed_.pages.push_back(std::move(reading.page));
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "text/error.h"
 #include "win/printer.h"
 
 namespace quillomat {
@@ -28,8 +29,9 @@ struct Printed {
     std::vector<Page> pages;
     int documents_ended = 0;
     int documents_aborted = 0;
-    /// The page at whose end the paper jams; 0 for never.
-    std::size_t jams_at_page = 0;
+    /// The page at whose end there is an error; 0 for none.
+    std::size_t fails_at_page = 0;
+    ErrorCode failure = ErrorCode::PrinterError;
 
     /// The lines of all pages in their order.
     std::vector<std::wstring> lines() const;
