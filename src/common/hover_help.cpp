@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "forms/graphics.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
 
@@ -32,6 +33,14 @@ void HideTip(Control& control, TextBox& help_box) {
     control.set_back_colour(colours::button_face);
     control.set_underlined(false);
     help_box.set_visible(false);
+}
+
+bool is_under_pointer(const PointerState& pointer, const Graphic& item) {
+    const HWND window = item.container().window();
+    if (pointer.PointerWindow != window) return false;
+    POINT position = pointer.PointerPos;
+    ScreenToClient(window, &position);
+    return PtInRect(&item.pixels(), position);
 }
 
 HoverHelp::HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)

@@ -10,6 +10,7 @@
 namespace quillomat {
 
 class Control;
+class Graphic;
 class TextBox;
 class Timer;
 
@@ -17,6 +18,9 @@ class Timer;
 void ShowTip(Control& control, TextBox& help_box, const std::wstring& text);
 /// Takes the light off the control and hides the help box.
 void HideTip(Control& control, TextBox& help_box);
+
+/// Whether the pointer, when it was last read, was over a painted item and over nothing in front of its container.
+bool is_under_pointer(const PointerState& pointer, const Graphic& item);
 
 /// The help texts of one window: each is shown exactly while the pointer is over its control. The window's hover timer
 /// calls `tick`; where the help box stands is the window's business.

@@ -7,6 +7,7 @@
 #include "common/settings.h"
 #include "database/catalogue.h"
 #include "database/search_texts.h"
+#include "win/printer.h"
 #include "win/text_file.h"
 #include "win/upper_case.h"
 
@@ -19,6 +20,7 @@ struct ViewerState {
     std::wstring current_title;    ///< name of the game shown last
     std::wstring search_keyword;   ///< upper-cased text of the last search
     std::int16_t next_letter = 0;  ///< code of the next letter of the alphabet bar
+    std::wstring last_jump;        ///< caption of the alphabet bar's label that was clicked last
 };
 
 /// What outlives the windows of a run. Owned by the entry and handed down.
@@ -31,6 +33,7 @@ struct Session {
     SearchTexts search_texts{catalogue, upper_case};
     PointerState pointer;
     ViewerState viewer;
+    PrinterFactory open_printer = open_default_printer;
 };
 
 }  // namespace quillomat

@@ -73,6 +73,7 @@ void Application::report_current_exception(HWND owner) {
     try {
         throw;
     } catch (const Error& error) {
+        if (error.code() == ErrorCode::Cancelled) return;
         description = error.description();
     } catch (const std::bad_alloc&) {
         description = Error(ErrorCode::OutOfMemory).description();

@@ -1,6 +1,7 @@
 #include "forms/container.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/control.h"
 #include "forms/form.h"
@@ -25,10 +26,12 @@ MouseEvent to_mouse_event(UINT message, WPARAM wparam, LPARAM lparam, POINT orig
             break;
         case WM_RBUTTONDOWN:
         case WM_RBUTTONUP:
+        case WM_RBUTTONDBLCLK:
             event.button = MouseButton::Right;
             break;
         case WM_MBUTTONDOWN:
         case WM_MBUTTONUP:
+        case WM_MBUTTONDBLCLK:
             event.button = MouseButton::Middle;
             break;
         default:
@@ -51,7 +54,10 @@ void Container::set_back_colour(Colour colour) {
 
 void Container::remove(Graphic& graphic) {
     std::erase(graphics_, &graphic);
-    if (pressed_ == &graphic) pressed_ = nullptr;
+    if (pressed_ == &graphic) {
+        pressed_ = nullptr;
+        presses_ = 0;
+    }
 }
 
 void Container::bring_to_front(Graphic& graphic) {
@@ -108,26 +114,57 @@ std::optional<LRESULT> Container::handle_mouse(UINT message, WPARAM wparam, LPAR
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
         case WM_MBUTTONDOWN:
-            // Until the release all movements belong to what was pressed, also outside of it.
-            pressed_ = target;
-            pressed_origin_ = origin;
-            SetCapture(window());
+        case WM_RBUTTONDBLCLK:
+        case WM_MBUTTONDBLCLK:
+            press(*target, origin);
             raise(target->on_mouse_down, event);
             break;
         case WM_LBUTTONDBLCLK:
             // The second press of a double-click is a double-click instead of a press; its release is a release.
+            press(*target, origin);
+            double_clicked_ = true;
             raise(target->on_double_click);
             break;
         default: {
-            const bool was_pressed = pressed_ != nullptr;
-            pressed_ = nullptr;
-            if (was_pressed) ReleaseCapture();
-            raise(target->on_mouse_up, event);
+            // A button that went down elsewhere, on a menu for example, is not released here.
+            if (presses_ == 0) break;
+            const bool clicked = message == WM_LBUTTONUP && !std::exchange(double_clicked_, false);
+            release(event, wparam);
             const bool still_on_it = target == &surface() || static_cast<MouseEvents*>(graphic_at(point)) == target;
-            if (was_pressed && message == WM_LBUTTONUP && still_on_it) raise(target->on_click);
+            if (clicked && still_on_it) raise(target->on_click);
         }
     }
     return 0;
+}
+
+void Container::press(MouseEvents& target, POINT origin) {
+    // Until the release all movements belong to what was pressed, also outside of it.
+    pressed_ = &target;
+    pressed_origin_ = origin;
+    // Capturing the mouse once more would look as if it was taken away.
+    if (presses_++ == 0) SetCapture(window());
+}
+
+void Container::release(const MouseEvent& event, WPARAM buttons_held) {
+    MouseEvents& target = *pressed_;
+    // With no button down any more, no press is left without its release.
+    const int releases = buttons_held & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON) ? 1 : presses_;
+    presses_ -= releases;
+    if (presses_ == 0) {
+        pressed_ = nullptr;
+        ReleaseCapture();
+    }
+    for (int i = 0; i < releases; ++i) raise(target.on_mouse_up, event);
+}
+
+void Container::release_all() {
+    // Another window has taken the mouse away; what looks pressed is let go, as its release will not be heard of.
+    double_clicked_ = false;
+    while (presses_ > 0) {
+        MouseEvents& target = *pressed_;
+        if (--presses_ == 0) pressed_ = nullptr;
+        raise(target.on_mouse_up, MouseEvent{});
+    }
 }
 
 std::optional<LRESULT> Container::handle_container_message(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -146,11 +183,13 @@ std::optional<LRESULT> Container::handle_container_message(UINT message, WPARAM 
         case WM_LBUTTONDBLCLK:
         case WM_RBUTTONDOWN:
         case WM_RBUTTONUP:
+        case WM_RBUTTONDBLCLK:
         case WM_MBUTTONDOWN:
         case WM_MBUTTONUP:
+        case WM_MBUTTONDBLCLK:
             return handle_mouse(message, wparam, lparam);
         case WM_CAPTURECHANGED:
-            pressed_ = nullptr;
+            release_all();
             return 0;
         case WM_COMMAND:
             if (Control* control = Control::from(reinterpret_cast<HWND>(lparam))) {

@@ -50,6 +50,9 @@ class Container {
     void paint();
     void paint_onto(HDC canvas);
     std::optional<LRESULT> handle_mouse(UINT message, WPARAM wparam, LPARAM lparam);
+    void press(MouseEvents& target, POINT origin);
+    void release(const MouseEvent& event, WPARAM buttons_held);
+    void release_all();
     Graphic* graphic_at(POINT point) const;
 
     Colour back_colour_ = colours::button_face;
@@ -57,6 +60,8 @@ class Container {
     std::vector<Graphic*> graphics_;
     MouseEvents* pressed_ = nullptr;
     POINT pressed_origin_{};
+    int presses_ = 0;  // without their release
+    bool double_clicked_ = false;
 };
 
 /// The mouse event of a message whose position is in pixels from `origin`.

@@ -174,6 +174,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SYSCOLORCHANGE:
         case WM_THEMECHANGED:
             for (Control* control : controls()) SendMessageW(control->window(), message, wparam, lparam);
+            renew_menu_pictures();
             InvalidateRect(window_, nullptr, TRUE);
             break;
     }
@@ -297,6 +298,10 @@ void Form::remove_command(int id) {
 
 void Form::set_menu_bar(HMENU bar) {
     SetMenu(window_, bar);
+}
+
+void Form::renew_menu_pictures() {
+    for (const auto& [id, menu] : commands_) menu->renew_pictures();
 }
 
 void Form::menu_changed() {

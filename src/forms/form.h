@@ -149,6 +149,7 @@ class Form : public Container, public MouseEvents {
     void resized();
     void limit_sizing(WPARAM edge, RECT& area) const;
     void resolution_changed(int dpi, const RECT& suggested);
+    void renew_menu_pictures();
     void pop_up_at(Menu& menu, POINT screen, const Menu* default_item);
     bool raise_key_down(int key);
     bool handle_dialog_key(const MSG& message);

@@ -113,6 +113,7 @@ void Form::limit_sizing(WPARAM edge, RECT& area) const {
 void Form::resolution_changed(int dpi, const RECT& suggested) {
     dpi_ = application_.forced_dpi() ? application_.forced_dpi() : dpi;
     items_resolution_changed();
+    renew_menu_pictures();
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
     if (shown_) raise(on_resize);

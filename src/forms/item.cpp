@@ -40,6 +40,10 @@ void Item::move(Bounds bounds) {
     apply_bounds();
 }
 
+void Item::move_by(double right, double down) {
+    move({bounds_.left + right, bounds_.top + down, bounds_.width, bounds_.height});
+}
+
 void Item::set_visible(bool visible) {
     if (visible == visible_) return;
     visible_ = visible;

@@ -33,6 +33,8 @@ class Item : public MouseEvents {
     void set_width(double twips);
     void set_height(double twips);
     void move(Bounds bounds);
+    /// Moves the item by a distance in twips; there and back again is exactly where it was.
+    void move_by(double right, double down);
 
     bool visible() const { return visible_; }
     void set_visible(bool visible);

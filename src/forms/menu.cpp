@@ -100,11 +100,20 @@ void Menu::set_enabled(bool enabled) {
 }
 
 void Menu::set_pictures(const Picture& unchecked, const Picture& checked) {
+    unchecked_picture_ = unchecked;
+    checked_picture_ = checked;
+    renew_pictures();
+}
+
+void Menu::renew_pictures() {
+    if (!unchecked_picture_ && !checked_picture_) return;
     const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(form_.dpi()));
-    unchecked_picture_ = unchecked.bitmap(size, colours::menu);
-    checked_picture_ = checked.bitmap(size, colours::menu);
-    SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked_picture_.get(),
-                       checked_picture_.get());
+    auto unchecked = unchecked_picture_.bitmap(size, colours::menu);
+    auto checked = checked_picture_.bitmap(size, colours::menu);
+    SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked.get(), checked.get());
+    // The former ones are in use until here.
+    unchecked_bitmap_ = std::move(unchecked);
+    checked_bitmap_ = std::move(checked);
 }
 
 void Menu::pick() {

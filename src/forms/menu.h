@@ -59,8 +59,10 @@ class Menu {
     // For the toolkit.
     HMENU handle() const { return handle_; }
     int id() const { return id_; }
-    /// Raises the event, as if the user had picked the entry.
+    /// Raises the event, as if the user had picked the entry; not while it is disabled.
     void pick();
+    /// Makes the pictures again for the form's resolution and the user's colours.
+    void renew_pictures();
 
   private:
     void attach(HMENU parent);
@@ -76,8 +78,10 @@ class Menu {
     std::wstring caption_;
     bool checked_ = false;
     bool enabled_ = true;
-    GdiObject<HBITMAP> unchecked_picture_;
-    GdiObject<HBITMAP> checked_picture_;
+    Picture unchecked_picture_;
+    Picture checked_picture_;
+    GdiObject<HBITMAP> unchecked_bitmap_;
+    GdiObject<HBITMAP> checked_bitmap_;
 };
 
 }  // namespace quillomat

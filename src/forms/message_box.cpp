@@ -51,4 +51,8 @@ MessageAnswer show_message(HWND owner, const Message& message) {
     }
 }
 
+void beep() {
+    MessageBeep(MB_OK);
+}
+
 }  // namespace quillomat

@@ -22,4 +22,7 @@ struct Message {
 /// used meanwhile.
 MessageAnswer show_message(HWND owner, const Message& message);
 
+/// Sounds the system's beep, for a key that does nothing.
+void beep();
+
 }  // namespace quillomat

@@ -1,5 +1,8 @@
 #include "forms/picture.h"
 
+#include <cstdint>
+#include <span>
+
 namespace quillomat {
 namespace {
 
@@ -18,9 +21,16 @@ void Picture::draw(HDC canvas, const RECT& area) const {
 }
 
 GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    GdiObject<HBITMAP> bitmap(CreateCompatibleBitmap(screen, pixels, pixels));
+    BITMAPINFO format{};
+    format.bmiHeader.biSize = sizeof format.bmiHeader;
+    format.bmiHeader.biWidth = pixels;
+    format.bmiHeader.biHeight = pixels;
+    format.bmiHeader.biPlanes = 1;
+    format.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (!bitmap) return bitmap;
+    const HDC memory = CreateCompatibleDC(nullptr);
     {
         const Selection selected(memory, bitmap.get());
         const RECT area{0, 0, pixels, pixels};
@@ -28,7 +38,11 @@ GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
         draw(memory, area);
     }
     DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
+    GdiFlush();
+    // Menus that do blend find every pixel opaque, instead of taking the background's unset alpha for transparent.
+    constexpr std::uint32_t opaque = 0xFF000000;
+    for (std::uint32_t& pixel : std::span(static_cast<std::uint32_t*>(bits), static_cast<std::size_t>(pixels) * pixels))
+        pixel |= opaque;
     return bitmap;
 }
 

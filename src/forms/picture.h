@@ -25,7 +25,7 @@ class Picture {
 
     /// Draws it into `area`, in pixels, from the size drawn for it.
     void draw(HDC canvas, const RECT& area) const;
-    /// A square bitmap of it on a background, as menus take it: they do not blend what they show.
+    /// A square bitmap of it on a background, as menus take it: not all of them blend what they show.
     GdiObject<HBITMAP> bitmap(int pixels, Colour background) const;
     /// An icon of it, as windows take it.
     Icon icon(int pixels) const;

@@ -28,6 +28,8 @@ DWORD style_of(TextBoxKind kind, bool breaks_lines) {
             return multi_line | unbroken | ES_READONLY;
         case TextBoxKind::Note:
             return ES_MULTILINE | ES_READONLY | WS_TABSTOP | WS_GROUP;
+        case TextBoxKind::Result:
+            return ES_AUTOHSCROLL | ES_READONLY | WS_TABSTOP | WS_GROUP;
         case TextBoxKind::Help:
             return ES_READONLY | ES_AUTOHSCROLL | WS_BORDER;
     }
@@ -56,7 +58,9 @@ TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
       kind_(kind),
       breaks_lines_(may_break_lines(kind)) {
     const bool help = kind == TextBoxKind::Help;
-    set_default_back_colour(help ? colours::tip_background : colours::window);
+    set_default_back_colour(help                          ? colours::tip_background
+                            : kind == TextBoxKind::Result ? colours::button_face
+                                                          : colours::window);
     if (help) {
         set_fore_colour(colours::tip_text);
         set_visible(false);
@@ -111,14 +115,31 @@ void TextBox::select(std::size_t start, std::size_t length) {
 }
 
 void TextBox::fit_width_to_text() {
-    const SIZE text_size = text_extent(form().application().fonts().get(font(), dpi()), text());
     RECT area{};
-    RECT formatting{};
     GetWindowRect(window(), &area);
-    send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&formatting));
-    const LONG frame = (area.right - area.left) - (formatting.right - formatting.left);
+    const int frame = area.right - area.left - room();
+    set_width(to_twips(text_width() + frame, dpi()));
+}
+
+void TextBox::fit_font_to_width() {
+    constexpr double smallest = 6;
+    constexpr double step = 0.25;
+    FontSpec fitting = font();
+    for (fitting.points = FontSpec{}.points; fitting.points >= smallest; fitting.points -= step) {
+        set_font(fitting);
+        if (text_width() <= room()) return;
+    }
+}
+
+int TextBox::text_width() const {
     // One more pixel than the text, or the box scrolls to make room for the caret.
-    set_width(to_twips(static_cast<int>(text_size.cx + frame + 1), dpi()));
+    return text_extent(form().application().fonts().get(font(), dpi()), text()).cx + 1;
+}
+
+int TextBox::room() const {
+    RECT formatting{};
+    send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&formatting));
+    return formatting.right - formatting.left;
 }
 
 void TextBox::notified(WORD code) {

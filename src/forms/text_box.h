@@ -17,6 +17,8 @@ enum class TextBoxKind {
     Reading,
     /// A few lines for reading only, all of them in sight.
     Note,
+    /// One line that the program fills in and the user reads, and can copy.
+    Result,
     /// A small box that shows a help text; it stands in front of other controls and has no place in the Tab order.
     Help,
 };
@@ -44,6 +46,8 @@ class TextBox : public Control {
 
     /// Makes the box as wide as its text needs. For help boxes.
     void fit_width_to_text();
+    /// Makes the font as large as the box's width lets the text be, up to the size of other texts.
+    void fit_font_to_width();
 
     void notified(WORD code) override;
 
@@ -51,6 +55,8 @@ class TextBox : public Control {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:
+    int text_width() const;
+    int room() const;
     void choose_line_breaks(std::wstring_view text);
 
     TextBoxKind kind_;

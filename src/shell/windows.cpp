@@ -7,6 +7,7 @@
 #include "output/frmAddNew.h"
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
+#include "output/frmPrintGames.h"
 #include "output/frmSave.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
@@ -33,6 +34,7 @@ Windows::Windows(Application& application, Session& session) : application_(appl
     };
     viewer_windows_.add_game = [this] { open_add_game(); };
     viewer_windows_.save = [this] { open_save(); };
+    viewer_windows_.print_list = [this] { show_print_list(); };
 }
 
 Windows::~Windows() = default;
@@ -103,6 +105,14 @@ void Windows::open_about() {
 
 void Windows::open_author() {
     Dialog1(application_, session_.pointer).show_modal(main_screen_.get());
+}
+
+void Windows::show_print_list() {
+    const ListBox& list = viewer_->List2;
+    frmPrintGames form(
+        application_, session_,
+        {.count = [&list] { return list.count(); }, .name = [&list](int index) { return list.item(index); }});
+    form.show_modal(viewer_.get());
 }
 
 void Windows::quit_after_last() {

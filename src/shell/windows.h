@@ -44,6 +44,7 @@ class Windows {
     void open_save();
     void quit_after_last();
     void mail_cheats();
+    void show_print_list();
 
     Application& application_;
     Session& session_;

@@ -33,8 +33,12 @@ const wchar_t* standard_description(ErrorCode code) {
             return L"Path not found";
         case ErrorCode::PrinterError:
             return L"Printer error";
+        case ErrorCode::ClipboardError:
+            return L"Can't open Clipboard";
         case ErrorCode::MailFailure:
             return L"The message could not be sent";
+        case ErrorCode::Cancelled:
+            return L"Cancel was selected";
     }
     return L"Unknown error";
 }

@@ -20,7 +20,10 @@ enum class ErrorCode {
     DiskNotReady = 71,
     PathNotFound = 76,
     PrinterError = 482,
+    ClipboardError = 521,
     MailFailure = 32002,
+    /// The user has changed their mind; no message tells them so.
+    Cancelled = 32755,
 };
 
 /// The one exception type of the program: a number and a sentence that can be shown to the user as it stands.

@@ -13,9 +13,10 @@ namespace {
 
 constexpr double picture_size = 360;
 constexpr double picture_button_size = 420;
-
-constexpr Colour label_idle_text = rgb(0, 0, 255);
-constexpr Colour label_idle_background = rgb(0, 255, 255);
+// The image bar, so that the help text below each image, which is centred on the pointer from the third one on, stays
+// within the window: the way home, save and add, and the rest.
+constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
+constexpr double colour_image_left = 3530;
 
 }  // namespace
 
@@ -26,23 +27,26 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
                          .height = 6660,
                          .minimum_width = viewer_minimum_size.width,
                          .minimum_height = viewer_minimum_size.height}),
-      Image1(*this, Picture(PICTURE_COLOUR), {3120, 30, picture_button_size, picture_button_size}),
+      Image1(*this, Picture(PICTURE_COLOUR), {colour_image_left, 30, picture_button_size, picture_button_size}),
       session_(session),
       windows_(windows) {
     for (int i = 0; i < 7; ++i) {
         Image2
             .emplace_back(*this, Picture(PICTURE_COMMAND_FIRST + i),
-                          Bounds{90 + i * 430.0, 30, picture_button_size, picture_button_size})
+                          Bounds{image_lefts[i], 30, picture_button_size, picture_button_size})
             .set_picture_size(picture_size);
     }
     Image1.set_picture_size(picture_size);
     Shape1.bring_to_front();
+    Shape1.set_border_colour(colours::highlight);
     Label1.emplace_back(*this, L"#", Bounds{120, 525, 195, 225});
     Option1.set_value(true);
     Option3.set_value(true);
     Frame2.set_visible(false);
     bind();
     bind_search();
+    bind_commands();
+    bind_image_bar();
     bind_list(List1);
     bind_list(List2);
     bind_hover_help();
@@ -52,7 +56,7 @@ void frmCtlView::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_move = [this](const MouseEvent&) { Form_MouseMove(); };
+    on_mouse_move = [this](const MouseEvent&) { tidy_image_bar(); };
     on_mouse_down = [this](const MouseEvent& event) {
         if (event.button == MouseButton::Left) drag();
     };
@@ -60,18 +64,6 @@ void frmCtlView::bind() {
     Text1.on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
     Text1.set_tool_tip(L"Double-click a word to search for it");
     List2.on_click = [this] { List2_Click(); };
-    menus.mnuSave.on_click = [this] { raise(windows_.save); };
-    menus.mnuSelectedSave.on_click = [this] { raise(windows_.save); };
-    menus.mnuAddNew.on_click = [this] { raise(windows_.add_game); };
-    menus.mnuSelectedAddNew.on_click = [this] { raise(windows_.add_game); };
-    Image2[1].on_click = [this] { raise(windows_.save); };
-    Image2[2].on_click = [this] { raise(windows_.add_game); };
-    menus.mnuExit.on_click = [this] { close(); };
-    menus.mnuColour.on_click = [this] {
-        menus.mnuColour.set_checked(!menus.mnuColour.checked());
-        apply_colours();
-    };
-    menus.mnuAutoSelect.on_click = [this] { menus.mnuAutoSelect.set_checked(!menus.mnuAutoSelect.checked()); };
 }
 
 void frmCtlView::bind_list(ListBox& list) {
@@ -96,7 +88,7 @@ void frmCtlView::bind_hover_help() {
         Text4.set_visible(false);
         Text1.set_focus();
     };
-    Timer1.on_timer = [this] { hover_help_.tick(); };
+    Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 
 void frmCtlView::place_help_box(const Control& control, const MouseEvent& event) {
@@ -135,19 +127,6 @@ void frmCtlView::Form_Resize() {
     List2.set_height(layout.game_list_height);
     List1.set_height(layout.result_list_height);
     Frame2.set_height(layout.search_panel_height);
-}
-
-void frmCtlView::Form_MouseMove() {
-    Text4.set_visible(false);
-    Shape1.set_visible(false);
-    Label1_reset();
-}
-
-void frmCtlView::Label1_reset() {
-    for (Label& label : Label1) {
-        label.set_fore_colour(label_idle_text);
-        label.set_back_colour(label_idle_background);
-    }
 }
 
 void frmCtlView::Form_KeyDown(KeyEvent& event) {
@@ -212,16 +191,6 @@ void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
     if (event.button != MouseButton::Right) return;
     list.select_text(list.item(list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()))));
     pop_up(menus.mnuSelected, &menus.mnuSelectedSave);
-}
-
-void frmCtlView::apply_colours() {
-    const bool coloured = menus.mnuColour.checked();
-    Text1.set_back_colour(coloured ? rgb(255, 192, 255) : colours::white);
-    Text1.set_fore_colour(coloured ? rgb(128, 0, 128) : colours::black);
-    for (ListBox* list : {&List1, &List2}) {
-        list->set_back_colour(coloured ? rgb(192, 192, 255) : colours::white);
-        list->set_fore_colour(coloured ? rgb(0, 0, 255) : colours::black);
-    }
 }
 
 }  // namespace quillomat

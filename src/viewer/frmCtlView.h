@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <deque>
 
 #include "common/hover_help.h"
@@ -67,13 +68,15 @@ class frmCtlView final : public Form {
   private:
     void bind();
     void bind_search();
+    void bind_commands();
+    void bind_image_bar();
+    void bind_alphabet_bar();
     void bind_list(ListBox& list);
     void bind_hover_help();
 
     void Form_Load();
     void Form_Resize();
     void Form_Unload();
-    void Form_MouseMove();
     void Form_KeyDown(KeyEvent& event);
     void Command1_Click();
     void Text1_DblClick();
@@ -85,7 +88,15 @@ class frmCtlView final : public Form {
     void List_MouseDown(ListBox& list, const MouseEvent& event);
     void Option1_Click();
     void Option2_Click();
+    void Image1_MouseMove(const MouseEvent& event);
+    void Image2_Click(std::size_t index);
+    void Image2_MouseDown(Image& image);
+    void Image2_MouseUp(Image& image);
+    void Image2_MouseMove(std::size_t index, const MouseEvent& event);
+    void Label1_Click(std::size_t index);
+    void Label1_MouseMove(std::size_t index);
     void Label1_reset();
+    void Timer1_Timer();
     void show_slide_step();
 
     // The steps of opening the window, in their order.
@@ -98,12 +109,20 @@ class frmCtlView final : public Form {
 
     void save_settings();
     void ask_for_help();
+    void copy_cheats();
+    void print_cheats();
+    void toggle_colours();
+    void show_image_help(const Image& image, const wchar_t* text, Bounds bounds);
+    void frame_image(const Image& image);
+    void hide_image_help();
+    void tidy_image_bar();
     std::wstring hover_text(const ListBox& list, int index) const;
     void place_help_box(const Control& control, const MouseEvent& event);
 
     Session& session_;
     const ViewerWindows& windows_;
     HoverHelp hover_help_{session_.pointer, Text4, Timer1};
+    const Graphic* hovered_ = nullptr;  // the image or the letter that shows that the pointer is over it
 };
 
 }  // namespace quillomat

@@ -55,7 +55,6 @@ void frmCtlView::restore_settings() {
     Text1.set_font(font);
     menus.mnuColour.set_checked(stored.read(settings::Colour));
     menus.mnuAutoSelect.set_checked(stored.read(settings::AutoSelect));
-    Image1.set_border(menus.mnuColour.checked() ? ImageBorder::Single : ImageBorder::None);
     set_window_state(window_state_of(stored.read(settings::FrmCtlViewWindowState)));
     Text1.set_text(stored.read(settings::Text1));
     Text3.set_text(stored.read(settings::SearchText));
@@ -91,6 +90,7 @@ void frmCtlView::build_alphabet_bar() {
         label.set_back_style(BackStyle::Opaque);
     }
     Label1_reset();
+    bind_alphabet_bar();
 }
 
 void frmCtlView::Form_Unload() {

@@ -96,7 +96,12 @@ void DefaultPrinter::start_document(const std::wstring& name) {
     DOCINFOW document{};
     document.cbSize = sizeof document;
     document.lpszDocName = name.c_str();
-    printed([&] { return StartDocW(canvas_, &document); });
+    printed([&] {
+        const int job = StartDocW(canvas_, &document);
+        // A printer that prints to a file asks for its name, and the user may give none.
+        if (job <= 0 && GetLastError() == ERROR_CANCELLED) throw Error(ErrorCode::Cancelled);
+        return job;
+    });
 }
 
 HDC DefaultPrinter::start_page() {
@@ -114,6 +119,10 @@ void DefaultPrinter::end_document() {
 
 void DefaultPrinter::abort_document() noexcept {
     AbortDoc(canvas_);
+}
+
+std::unique_ptr<PrintDevice> open_default_printer() {
+    return std::make_unique<DefaultPrinter>();
 }
 
 PrintJob::PrintJob(PrintDevice& device, const std::wstring& document_name) : device_(device) {

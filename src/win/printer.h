@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -34,7 +35,8 @@ class DefaultPrinter final : public PrintDevice {
     DefaultPrinter(const DefaultPrinter&) = delete;
     DefaultPrinter& operator=(const DefaultPrinter&) = delete;
 
-    /// Throws `Error`: PrinterError, also when the user thinks better of it, DiskFull or OutOfMemory.
+    /// Throws `Error`: Cancelled when the user thinks better of it, PrinterError, also for a job that was deleted from
+    /// its queue, DiskFull or OutOfMemory.
     void start_document(const std::wstring& name) override;
     HDC start_page() override;
     void end_page() override;
@@ -44,6 +46,12 @@ class DefaultPrinter final : public PrintDevice {
   private:
     HDC canvas_;
 };
+
+/// How a window gets at the printer; tests print elsewhere.
+using PrinterFactory = std::function<std::unique_ptr<PrintDevice>()>;
+
+/// Throws as the constructor of `DefaultPrinter` does.
+std::unique_ptr<PrintDevice> open_default_printer();
 
 /// A document while it is printed: a page in twips, on which text goes from a print position downward and on to as many
 /// pages as it needs. Positions count from the corner of the printable area, so that nothing is cut off.

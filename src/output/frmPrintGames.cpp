@@ -1,0 +1,146 @@
+#include "output/frmPrintGames.h"
+
+#include <utility>
+
+#include "common/desktop.h"
+#include "forms/application.h"
+#include "forms/message_box.h"
+#include "text/game_range.h"
+#include "text/printout.h"
+
+namespace quillomat {
+namespace {
+
+constexpr wchar_t backspace = 8;
+
+// In twips.
+constexpr double help_below_button = 60;
+constexpr double print_margin = 100;
+constexpr double rule_right = 10000;
+constexpr double upper_rule_top = 100;
+constexpr double lower_rule_top = 350;
+// In dots of the printer.
+constexpr int rule_width = 3;
+
+}  // namespace
+
+frmPrintGames::frmPrintGames(Application& application, Session& session, ListedGames games)
+    : Form(application, {.name = L"frmPrintGames",
+                         .caption = L"Number of Games",
+                         .width = 4830,
+                         .height = 3660,
+                         .border = FormBorder::Dialog}),
+      session_(session),
+      games_(std::move(games)) {
+    bind();
+    bind_number_box(Text1, [this] { SelectAllText(Text2); });
+    bind_number_box(Text2, [this] { Command1.set_focus(); });
+    bind_hover_help();
+    set_default_button(&Command1);
+    set_cancel_button(&Command2);
+    Option1.set_value(true);
+}
+
+void frmPrintGames::bind() {
+    on_load = [this] { Form_Load(); };
+    on_unload = [this] { Form_Unload(); };
+    on_mouse_down = [this](const MouseEvent& event) {
+        if (event.button == MouseButton::Left) drag();
+    };
+    Option1.on_click = [this] { Option1_Click(); };
+    Option2.on_click = [this] { Option2_Click(); };
+    Command1.on_click = [this] { Command1_Click(); };
+    Command2.on_click = [this] { close(); };
+}
+
+void frmPrintGames::bind_number_box(TextBox& box, std::function<void()> go_on) {
+    box.on_change = [this] { Total(); };
+    box.on_key_down = [go_on = std::move(go_on)](KeyEvent& event) {
+        if (event.key != keys::enter) return;
+        event.handled = true;
+        go_on();
+    };
+    box.on_key_press = [](CharacterEvent& event) {
+        const bool is_digit = event.character >= L'0' && event.character <= L'9';
+        if (is_digit || event.character == backspace) return;
+        event.handled = true;
+        beep();
+    };
+}
+
+void frmPrintGames::bind_hover_help() {
+    hover_help_.add(Command1, L"Print Now!");
+    hover_help_.add(Command2, L"Cancel Printing");
+    for (Button* button : {&Command1, &Command2}) {
+        button->on_mouse_move = [this, button](const MouseEvent&) {
+            Text4.move(
+                {button->left(), button->top() + button->height() + help_below_button, Text4.width(), Text4.height()});
+        };
+    }
+    // The help box never keeps the focus.
+    Text4.on_got_focus = [this] {
+        Text4.set_visible(false);
+        Command1.set_focus();
+    };
+    Timer1.on_timer = [this] { hover_help_.tick(); };
+}
+
+void frmPrintGames::Form_Load() {
+    // One past the last game: the user is meant to choose where the range ends.
+    const auto beyond_last = static_cast<std::int16_t>(games_.count() + 1);
+    Text2.set_text(std::to_wstring(session_.settings.read(settings::UpperLimit, beyond_last)));
+    Text1.set_text(session_.settings.read(settings::LowerLimit));
+    Total();
+    centre_on_screen();
+    CenterMouseOn(Command1.window());
+}
+
+void frmPrintGames::Form_Unload() {
+    session_.settings.write(settings::LowerLimit, Text1.text());
+    // As it was typed: what is no number gives way to the default when it is read.
+    session_.settings.write(SettingKey<std::wstring_view>{settings::UpperLimit.key}, Text2.text());
+}
+
+void frmPrintGames::Total() {
+    Text3.set_text(typed_range_total(Text1.text(), Text2.text()));
+}
+
+void frmPrintGames::Option1_Click() {
+    enable_range(false);
+}
+
+void frmPrintGames::Option2_Click() {
+    enable_range(true);
+}
+
+void frmPrintGames::enable_range(bool enabled) {
+    for (Control* control : std::initializer_list<Control*>{&Frame1, &Label1, &Label2, &Label3, &Text1, &Text2, &Text3})
+        control->set_enabled(enabled);
+}
+
+void frmPrintGames::Command1_Click() {
+    const int count = games_.count();
+    if (Option1.value()) {
+        print(all_game_names(count, games_.name));
+    } else if (const auto range = typed_range(Text1.text(), Text2.text(), count)) {
+        print(game_names_in_range(range->first, range->last, games_.name));
+    } else {
+        show_message(window(), {.text = typed_range_hint(count), .title = L"Error!", .icon = MessageIcon::Information});
+        return;
+    }
+    close();
+}
+
+void frmPrintGames::print(const std::vector<std::wstring>& names) {
+    const Hourglass hourglass(*this);
+    const auto printer = session_.open_printer();
+    PrintJob job(*printer, std::wstring(game_list_heading));
+    job.set_position(print_margin, print_margin);
+    job.print(game_list_heading);
+    job.set_line_width(rule_width);
+    for (const double top : {upper_rule_top, lower_rule_top}) job.draw_line(print_margin, top, rule_right, top);
+    job.print(game_list_printout(names));
+    job.end();
+}
+
+}  // namespace quillomat
