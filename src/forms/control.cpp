@@ -137,7 +137,8 @@ LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
 
 bool Control::raise_key_down(int key) {
     KeyEvent event{.key = key, .modifiers = current_modifiers()};
-    raise(on_key_down, event);
+    raise(on_shortcut_key, event);
+    if (!event.handled) raise(on_key_down, event);
     return event.handled;
 }
 
