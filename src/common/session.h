@@ -7,6 +7,7 @@
 #include "common/settings.h"
 #include "database/catalogue.h"
 #include "database/search_texts.h"
+#include "text/find_in_text.h"
 #include "win/text_file.h"
 #include "win/upper_case.h"
 
@@ -31,6 +32,7 @@ struct Session {
     SearchTexts search_texts{catalogue, upper_case};
     PointerState pointer;
     ViewerState viewer;
+    FindState find;
 };
 
 }  // namespace quillomat

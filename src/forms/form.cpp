@@ -91,6 +91,8 @@ LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARA
     Form* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!form) return DefWindowProcW(window, message, wparam, lparam);
     if (message == WM_NCDESTROY) {
+        // An owner that has closed waits for its windows.
+        PostMessageW(GetWindow(window, GW_OWNER), destroy_message, 0, 0);
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         form->window_ = nullptr;
         // The handler may destroy the form, itself included, so it is moved out of it first.
@@ -120,7 +122,26 @@ LRESULT Form::guarded(const std::function<LRESULT()>& work) {
 }
 
 void Form::destroy_when_idle() {
-    if (closed_ && !modal_ && handlers_running_ == 0 && window_) DestroyWindow(window_);
+    if (!closed_ || modal_ || handlers_running_ > 0 || !window_) return;
+    // The system destroys owned windows first, and one of those may not be idle.
+    if (owned_forms().empty()) DestroyWindow(window_);
+}
+
+std::vector<Form*> Form::owned_forms() const {
+    struct Search {
+        HWND owner;
+        std::vector<Form*> forms;
+    } search{window_, {}};
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& [owner, forms] = *reinterpret_cast<Search*>(parameter);
+            if (GetWindow(window, GW_OWNER) != owner) return TRUE;
+            if (Form* form = Form::from(window)) forms.push_back(form);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.forms;
 }
 
 LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -204,10 +225,13 @@ void Form::show() {
     if (state_ != WindowState::Minimised) SetForegroundWindow(window_);
 }
 
+void Form::set_owner(const Form& owner) {
+    SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner.window()));
+}
+
 void Form::show_modal(Form* owner) {
     modal_ = true;
-    // Sets the owner: the dialog stays in front of it and has no place of its own in the taskbar.
-    if (owner) SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->window()));
+    if (owner) set_owner(*owner);
     {
         ModalScope modal(window_);
         show();
@@ -219,6 +243,7 @@ void Form::show_modal(Form* owner) {
 
 void Form::close() {
     if (std::exchange(closed_, true)) return;
+    for (Form* form : owned_forms()) form->close();
     guarded([this] {
         raise(on_unload);
         return LRESULT{};

@@ -65,9 +65,13 @@ class Form : public Container, public MouseEvents {
 
     /// Shows the window without waiting for it to close.
     void show();
+    /// Keeps the window in front of `owner` and out of the taskbar, and closes it with that one; the user can work in
+    /// both. To be called before the window is shown.
+    void set_owner(const Form& owner);
     /// Shows the window as a dialog of `owner` and returns when it has closed.
     void show_modal(Form* owner);
-    /// Runs `on_unload`, hides the window and has it destroyed as soon as no handler of it is running.
+    /// Closes the windows it owns, runs `on_unload`, hides the window and has it destroyed as soon as no handler of it
+    /// is running.
     void close();
     bool closed() const { return closed_; }
     /// Whether the window has been shown, so that it exists for the user.
@@ -151,6 +155,7 @@ class Form : public Container, public MouseEvents {
     void move_focus(bool backwards);
     void restore_focus();
     void destroy_when_idle();
+    std::vector<Form*> owned_forms() const;
     RECT outer() const;
 
     Application& application_;

@@ -10,6 +10,7 @@
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
 #include "viewer/frmCtlView.h"
+#include "viewer/frmFind.h"
 
 namespace quillomat {
 
@@ -24,6 +25,7 @@ Windows::Windows(Application& application, Session& session) : application_(appl
         open_author_mail();
         if (author_mail_) author_mail_->propose_message(text);
     };
+    viewer_windows_.find = [this] { open_find(*viewer_, viewer_->Text1); };
 }
 
 Windows::~Windows() = default;
@@ -74,6 +76,15 @@ void Windows::mail_cheats() {
     for (int index = 0; index < viewer_->List2.count(); ++index) games.names.push_back(viewer_->List2.item(index));
     frmMailCheats form(application_, session_, std::move(games));
     form.show_modal(viewer_.get());
+}
+
+void Windows::open_find(Form& searched, TextBox& box) {
+    if (find_ && &find_->searched_box() != &box) {
+        find_->close();
+        find_.reset();
+    }
+    open(find_, session_.find, searched, box);
+    find_->txtFind.set_focus();
 }
 
 void Windows::quit_after_last() {
