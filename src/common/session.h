@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "common/pointer.h"
@@ -8,6 +9,7 @@
 #include "database/catalogue.h"
 #include "database/search_texts.h"
 #include "text/find_in_text.h"
+#include "win/installed_fonts.h"
 #include "win/text_file.h"
 #include "win/upper_case.h"
 
@@ -31,6 +33,7 @@ struct Session {
     Catalogue catalogue;
     SearchTexts search_texts{catalogue, upper_case};
     PointerState pointer;
+    std::function<ScreenFonts()> screen_fonts = installed_fonts;
     ViewerState viewer;
     FindState find;
 };

@@ -254,6 +254,10 @@ void Form::close() {
     PostMessageW(window_, destroy_message, 0, 0);
 }
 
+void Form::set_closable(bool closable) {
+    EnableMenuItem(GetSystemMenu(window_, FALSE), SC_CLOSE, closable ? MF_ENABLED : MF_GRAYED);
+}
+
 void Form::set_caption(std::wstring caption) {
     if (caption == caption_) return;
     caption_ = std::move(caption);
@@ -297,8 +301,15 @@ void Form::refresh() {
 }
 
 int Form::add_command(Menu& menu) {
-    commands_[next_command_id_] = &menu;
-    return next_command_id_++;
+    // A command reaches the window as 16 bits, of which the system has the upper numbers for itself, and entries come
+    // and go: a number is used again when its entry has gone.
+    constexpr int first = 100;
+    constexpr int last = 0xEFFF;
+    if (commands_.size() > last - first) throw Error(ErrorCode::OutOfMemory);
+    while (!commands_.try_emplace(next_command_id_, &menu).second) {
+        next_command_id_ = next_command_id_ < last ? next_command_id_ + 1 : first;
+    }
+    return next_command_id_;
 }
 
 void Form::remove_command(int id) {

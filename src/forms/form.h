@@ -74,6 +74,8 @@ class Form : public Container, public MouseEvents {
     /// is running.
     void close();
     bool closed() const { return closed_; }
+    /// Whether the user can close the window by its border.
+    void set_closable(bool closable);
     /// Whether the window has been shown, so that it exists for the user.
     bool shown() const { return shown_; }
 

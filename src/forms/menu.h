@@ -15,6 +15,9 @@ class Form;
 /// A text for a caption in which an ampersand is an ampersand and no access key.
 std::wstring without_access_keys(std::wstring_view text);
 
+/// What an ampersand in a caption is.
+enum class Ampersands { MarkAccessKeys, AreShown };
+
 /// The menu bar of a form; it shows the menus made with it, in that order.
 class MenuBar {
   public:
@@ -39,7 +42,7 @@ class Menu {
     /// A menu that only pops up.
     Menu(Form& form, std::wstring caption);
     /// An entry of another menu.
-    Menu(Menu& parent, std::wstring caption);
+    Menu(Menu& parent, std::wstring caption, Ampersands ampersands = Ampersands::MarkAccessKeys);
     ~Menu();
     Menu(const Menu&) = delete;
     Menu& operator=(const Menu&) = delete;
@@ -66,6 +69,7 @@ class Menu {
     void attach(HMENU parent);
     void become_submenu();
     int position() const;
+    std::wstring shown_caption() const;
     void update(const MENUITEMINFOW& info) const;
 
     Form& form_;
@@ -74,6 +78,7 @@ class Menu {
     HMENU handle_ = nullptr;     // the menu of its own entries
     int id_;
     std::wstring caption_;
+    Ampersands ampersands_ = Ampersands::MarkAccessKeys;
     bool checked_ = false;
     bool enabled_ = true;
     GdiObject<HBITMAP> unchecked_picture_;

@@ -7,6 +7,7 @@
 #include "resources/pictures.h"
 #include "text/game_list.h"
 #include "text/window_size.h"
+#include "viewer/frmStatus.h"
 
 namespace quillomat {
 namespace {
@@ -48,6 +49,8 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
     bind_hover_help();
 }
 
+frmCtlView::~frmCtlView() = default;
+
 void frmCtlView::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
@@ -67,6 +70,9 @@ void frmCtlView::bind() {
         menus.mnuColour.set_checked(!menus.mnuColour.checked());
         apply_colours();
     };
+    menus.mnuSelectedFind.on_click = [this] { raise(windows_.find); };
+    menus.mnuTextBoxFind.on_click = [this] { raise(windows_.find); };
+    menus.mnuFontName_Click = [this](std::size_t Index) { mnuFontName_Click(Index); };
     menus.mnuAutoSelect.on_click = [this] { menus.mnuAutoSelect.set_checked(!menus.mnuAutoSelect.checked()); };
 }
 
