@@ -49,12 +49,17 @@ std::wstring Menu::shown_caption() const {
     return ampersands_ == Ampersands::AreShown ? without_access_keys(caption_) : caption_;
 }
 
+UINT Menu::shown_type() const {
+    return caption_.empty() ? MFT_SEPARATOR : MFT_STRING;
+}
+
 void Menu::attach(HMENU parent) {
     container_ = parent;
     std::wstring text = shown_caption();
     MENUITEMINFOW info{};
     info.cbSize = sizeof info;
-    info.fMask = MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
+    info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STRING | MIIM_SUBMENU;
+    info.fType = shown_type();
     info.wID = static_cast<UINT>(id_);
     info.dwTypeData = text.data();
     info.hSubMenu = handle_;
@@ -95,7 +100,8 @@ void Menu::set_caption(std::wstring caption) {
     caption_ = std::move(caption);
     std::wstring text = shown_caption();
     MENUITEMINFOW info{};
-    info.fMask = MIIM_STRING;
+    info.fMask = MIIM_FTYPE | MIIM_STRING;
+    info.fType = shown_type();
     info.dwTypeData = text.data();
     update(info);
 }

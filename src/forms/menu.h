@@ -34,7 +34,7 @@ class MenuBar {
 };
 
 /// A menu or an entry of one. An entry comes at the end of its parent and leaves it when it is destroyed; with entries
-/// of its own it is a submenu.
+/// of its own it is a submenu, and without a caption a line between the others.
 class Menu {
   public:
     /// A menu of the bar.
@@ -70,6 +70,7 @@ class Menu {
     void become_submenu();
     int position() const;
     std::wstring shown_caption() const;
+    UINT shown_type() const;
     void update(const MENUITEMINFOW& info) const;
 
     Form& form_;

@@ -52,8 +52,7 @@ void frmCtlView::mnuFontName_Click(std::size_t Index) {
     }
     FontSpec font = Text1.font();
     font.name = menus.mnuFontName[Index]->caption();
-    // One entry more is collected than there are fonts; it has no name, and no text can be shown in it.
-    if (!font.name.empty()) Text1.set_font(font);
+    Text1.set_font(font);
 }
 
 void frmCtlView::offer_installed_fonts() {
@@ -129,7 +128,8 @@ void frmCtlView::fill_font_menu(const ScreenFonts& fonts) {
             application().let_pending_events_run();
         }
         if (!status_->GoingOn || status_->closed() || closed()) return;
-        // The fonts count from 0, so the first one is never offered; the file and the menu have always been like that.
+        // Fonts count from 0, so the first one is not offered, and the entry past the last one has no name: sorted, it
+        // is the line that parts the fonts from the menu's own entry.
         menus.add_font(fonts.name(i));
     }
 }
