@@ -122,6 +122,7 @@ LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             return result;
         }
         case WM_SETFOCUS: {
+            form().keep_owned_in_front();
             const LRESULT result = default_message(message, wparam, lparam);
             raise(on_got_focus);
             return result;

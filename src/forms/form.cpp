@@ -183,7 +183,12 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_ACTIVATE:
             if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = GetFocus();
             break;
+        case WM_NEXTDLGCTL:
+            // The access key of a caption gives that the focus, and then asks for the next control.
+            LOWORD(lparam) ? static_cast<void>(SetFocus(reinterpret_cast<HWND>(wparam))) : move_focus(wparam != 0);
+            return 0;
         case WM_SETFOCUS:
+            keep_owned_in_front();
             restore_focus();
             return 0;
         case WM_SETCURSOR:
@@ -227,6 +232,13 @@ void Form::show() {
 
 void Form::set_owner(const Form& owner) {
     SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner.window()));
+}
+
+void Form::keep_owned_in_front() {
+    // The system does it by itself, but Wine without a window manager puts a window in front when it gets the focus.
+    for (const Form* form : owned_forms()) {
+        SetWindowPos(form->window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
 }
 
 void Form::show_modal(Form* owner) {

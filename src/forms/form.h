@@ -137,6 +137,8 @@ class Form : public Container, public MouseEvents {
     /// Runs what may raise events: no exception gets out to the system, the user sees its description instead; and the
     /// form stays alive until it is done.
     LRESULT guarded(const std::function<LRESULT()>& work);
+    /// Puts the windows it owns in front of it; for its controls when they have got the focus.
+    void keep_owned_in_front();
     /// Draws the keyboard cues (focus frame, underlined access keys) from now on.
     void show_keyboard_cues();
 

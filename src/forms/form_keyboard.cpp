@@ -23,10 +23,10 @@ bool takes_tab(HWND window) {
 
 // In the order in which the controls were made, which is the order of reading. The order of the system's windows is
 // not: it changes when one of them comes to the front.
-void collect_tab_stops(const Container& container, std::vector<HWND>& stops) {
+void collect_in_reading_order(const Container& container, std::vector<HWND>& windows) {
     for (Control* control : container.controls()) {
-        if (takes_tab(control->window())) stops.push_back(control->window());
-        if (const auto* inner = dynamic_cast<const Container*>(control)) collect_tab_stops(*inner, stops);
+        windows.push_back(control->window());
+        if (const auto* inner = dynamic_cast<const Container*>(control)) collect_in_reading_order(*inner, windows);
     }
 }
 
@@ -91,13 +91,15 @@ bool Form::handle_dialog_key(const MSG& message) {
 }
 
 void Form::move_focus(bool backwards) {
-    std::vector<HWND> stops;
-    collect_tab_stops(*this, stops);
-    if (stops.empty()) return;
-    if (backwards) std::reverse(stops.begin(), stops.end());
+    std::vector<HWND> windows;
+    collect_in_reading_order(*this, windows);
+    if (backwards) std::reverse(windows.begin(), windows.end());
+    // From the one behind the focus, which need not be a stop itself, once around.
     const Control* focused = Control::from(GetFocus());
-    const auto current = std::find(stops.begin(), stops.end(), focused ? focused->window() : nullptr);
-    const auto next = current == stops.end() || std::next(current) == stops.end() ? stops.begin() : std::next(current);
+    const auto current = std::find(windows.begin(), windows.end(), focused ? focused->window() : nullptr);
+    if (current != windows.end()) std::rotate(windows.begin(), std::next(current), windows.end());
+    const auto next = std::find_if(windows.begin(), windows.end(), takes_tab);
+    if (next == windows.end()) return;
     SetFocus(*next);
     // As in every dialog, what stands in an input can be typed over; a long text is left as it is.
     const bool is_input = SendMessageW(*next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
