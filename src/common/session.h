@@ -1,12 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "common/pointer.h"
 #include "common/settings.h"
 #include "database/catalogue.h"
 #include "database/search_texts.h"
+#include "text/find_in_text.h"
+#include "win/installed_fonts.h"
 #include "win/printer.h"
 #include "win/text_file.h"
 #include "win/upper_case.h"
@@ -32,8 +35,10 @@ struct Session {
     Catalogue catalogue;
     SearchTexts search_texts{catalogue, upper_case};
     PointerState pointer;
+    std::function<ScreenFonts()> screen_fonts = installed_fonts;
     ViewerState viewer;
     PrinterFactory open_printer = open_default_printer;
+    FindState find;
 };
 
 }  // namespace quillomat

@@ -122,6 +122,7 @@ LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             return result;
         }
         case WM_SETFOCUS: {
+            form().keep_owned_in_front();
             const LRESULT result = default_message(message, wparam, lparam);
             raise(on_got_focus);
             return result;
@@ -137,7 +138,8 @@ LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
 
 bool Control::raise_key_down(int key) {
     KeyEvent event{.key = key, .modifiers = current_modifiers()};
-    raise(on_key_down, event);
+    raise(on_shortcut_key, event);
+    if (!event.handled) raise(on_key_down, event);
     return event.handled;
 }
 

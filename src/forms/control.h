@@ -21,6 +21,8 @@ class Control : public Item {
     std::function<void()> on_got_focus;
     std::function<void()> on_lost_focus;
     std::function<void(KeyEvent&)> on_key_down;
+    /// A key that goes down, before `on_key_down`: for the shortcuts that an object beside the form gives the control.
+    std::function<void(KeyEvent&)> on_shortcut_key;
     std::function<void(CharacterEvent&)> on_key_press;
 
     HWND window() const { return window_; }

@@ -33,6 +33,7 @@ inline constexpr int escape = 27;
 inline constexpr int up = 38;
 inline constexpr int down = 40;
 inline constexpr int f1 = 112;
+inline constexpr int f10 = 121;
 }  // namespace keys
 
 /// A key that goes down. A handler that sets `handled` keeps it from the control and from the dialog keys.

@@ -91,6 +91,8 @@ LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARA
     Form* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!form) return DefWindowProcW(window, message, wparam, lparam);
     if (message == WM_NCDESTROY) {
+        // An owner that has closed waits for its windows.
+        PostMessageW(GetWindow(window, GW_OWNER), destroy_message, 0, 0);
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         form->window_ = nullptr;
         // The handler may destroy the form, itself included, so it is moved out of it first.
@@ -120,7 +122,26 @@ LRESULT Form::guarded(const std::function<LRESULT()>& work) {
 }
 
 void Form::destroy_when_idle() {
-    if (closed_ && !modal_ && handlers_running_ == 0 && window_) DestroyWindow(window_);
+    if (!closed_ || modal_ || handlers_running_ > 0 || !window_) return;
+    // The system destroys owned windows first, and one of those may not be idle.
+    if (owned_forms().empty()) DestroyWindow(window_);
+}
+
+std::vector<Form*> Form::owned_forms() const {
+    struct Search {
+        HWND owner;
+        std::vector<Form*> forms;
+    } search{window_, {}};
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& [owner, forms] = *reinterpret_cast<Search*>(parameter);
+            if (GetWindow(window, GW_OWNER) != owner) return TRUE;
+            if (Form* form = Form::from(window)) forms.push_back(form);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.forms;
 }
 
 LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -162,7 +183,12 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_ACTIVATE:
             if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = GetFocus();
             break;
+        case WM_NEXTDLGCTL:
+            // The access key of a caption gives that the focus, and then asks for the next control.
+            LOWORD(lparam) ? static_cast<void>(SetFocus(reinterpret_cast<HWND>(wparam))) : move_focus(wparam != 0);
+            return 0;
         case WM_SETFOCUS:
+            keep_owned_in_front();
             restore_focus();
             return 0;
         case WM_SETCURSOR:
@@ -209,10 +235,20 @@ void Form::show() {
     if (state != WindowState::Minimised) SetForegroundWindow(window_);
 }
 
+void Form::set_owner(const Form& owner) {
+    SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner.window()));
+}
+
+void Form::keep_owned_in_front() {
+    // The system does it by itself, but Wine without a window manager puts a window in front when it gets the focus.
+    for (const Form* form : owned_forms()) {
+        SetWindowPos(form->window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+}
+
 void Form::show_modal(Form* owner) {
     modal_ = true;
-    // Sets the owner: the dialog stays in front of it and has no place of its own in the taskbar.
-    if (owner) SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->window()));
+    if (owner) set_owner(*owner);
     {
         ModalScope modal(window_);
         show();
@@ -224,6 +260,7 @@ void Form::show_modal(Form* owner) {
 
 void Form::close() {
     if (std::exchange(closed_, true)) return;
+    for (Form* form : owned_forms()) form->close();
     guarded([this] {
         raise(on_unload);
         return LRESULT{};
@@ -232,6 +269,10 @@ void Form::close() {
     // A dialog is hidden by its modal loop, after its owner can be activated again.
     if (!modal_) ShowWindow(window_, SW_HIDE);
     PostMessageW(window_, destroy_message, 0, 0);
+}
+
+void Form::set_closable(bool closable) {
+    EnableMenuItem(GetSystemMenu(window_, FALSE), SC_CLOSE, closable ? MF_ENABLED : MF_GRAYED);
 }
 
 void Form::set_caption(std::wstring caption) {
@@ -288,8 +329,15 @@ void Form::refresh() {
 }
 
 int Form::add_command(Menu& menu) {
-    commands_[next_command_id_] = &menu;
-    return next_command_id_++;
+    // A command reaches the window as 16 bits, of which the system has the upper numbers for itself, and entries come
+    // and go: a number is used again when its entry has gone.
+    constexpr int first = 100;
+    constexpr int last = 0xEFFF;
+    if (commands_.size() > last - first) throw Error(ErrorCode::OutOfMemory);
+    while (!commands_.try_emplace(next_command_id_, &menu).second) {
+        next_command_id_ = next_command_id_ < last ? next_command_id_ + 1 : first;
+    }
+    return next_command_id_;
 }
 
 void Form::remove_command(int id) {

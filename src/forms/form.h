@@ -66,11 +66,17 @@ class Form : public Container, public MouseEvents {
 
     /// Shows the window without waiting for it to close.
     void show();
+    /// Keeps the window in front of `owner` and out of the taskbar, and closes it with that one; the user can work in
+    /// both. To be called before the window is shown.
+    void set_owner(const Form& owner);
     /// Shows the window as a dialog of `owner` and returns when it has closed.
     void show_modal(Form* owner);
-    /// Runs `on_unload`, hides the window and has it destroyed as soon as no handler of it is running.
+    /// Closes the windows it owns, runs `on_unload`, hides the window and has it destroyed as soon as no handler of it
+    /// is running.
     void close();
     bool closed() const { return closed_; }
+    /// Whether the user can close the window by its border.
+    void set_closable(bool closable);
     /// Whether the window has been shown, so that it exists for the user.
     bool shown() const { return shown_; }
 
@@ -136,6 +142,8 @@ class Form : public Container, public MouseEvents {
     /// Runs what may raise events: no exception gets out to the system, the user sees its description instead; and the
     /// form stays alive until it is done.
     LRESULT guarded(const std::function<LRESULT()>& work);
+    /// Puts the windows it owns in front of it; for its controls when they have got the focus.
+    void keep_owned_in_front();
     /// Draws the keyboard cues (focus frame, underlined access keys) from now on.
     void show_keyboard_cues();
 
@@ -156,6 +164,7 @@ class Form : public Container, public MouseEvents {
     void move_focus(bool backwards);
     void restore_focus();
     void destroy_when_idle();
+    std::vector<Form*> owned_forms() const;
     RECT outer() const;
 
     Application& application_;

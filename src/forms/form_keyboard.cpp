@@ -11,6 +11,7 @@
 namespace quillomat {
 namespace {
 
+constexpr LPARAM alt_held = 1 << 29;
 constexpr LPARAM was_down_before = 1 << 30;
 
 bool is_key_down(UINT message) {
@@ -23,10 +24,10 @@ bool takes_tab(HWND window) {
 
 // In the order in which the controls were made, which is the order of reading. The order of the system's windows is
 // not: it changes when one of them comes to the front.
-void collect_tab_stops(const Container& container, std::vector<HWND>& stops) {
+void collect_in_reading_order(const Container& container, std::vector<HWND>& windows) {
     for (Control* control : container.controls()) {
-        if (takes_tab(control->window())) stops.push_back(control->window());
-        if (const auto* inner = dynamic_cast<const Container*>(control)) collect_tab_stops(*inner, stops);
+        windows.push_back(control->window());
+        if (const auto* inner = dynamic_cast<const Container*>(control)) collect_in_reading_order(*inner, windows);
     }
 }
 
@@ -47,7 +48,8 @@ bool Form::translate(MSG& message) {
                 (message.message == WM_KEYDOWN && handle_dialog_key(message)) || IsDialogMessageW(window_, &message);
         }
         // Unless the system hears of a key pressed with Alt, it opens the menu bar when Alt is released.
-        if (handled && message.message == WM_SYSKEYDOWN && message.wParam != VK_F4 && window_) {
+        const bool with_alt = message.message == WM_SYSKEYDOWN && (message.lParam & alt_held);
+        if (handled && with_alt && message.wParam != VK_F4 && window_) {
             DefWindowProcW(window_, message.message, message.wParam, message.lParam);
         }
         // The key may have been given to another window or dropped; the next one is a new one in any case.
@@ -91,13 +93,15 @@ bool Form::handle_dialog_key(const MSG& message) {
 }
 
 void Form::move_focus(bool backwards) {
-    std::vector<HWND> stops;
-    collect_tab_stops(*this, stops);
-    if (stops.empty()) return;
-    if (backwards) std::reverse(stops.begin(), stops.end());
+    std::vector<HWND> windows;
+    collect_in_reading_order(*this, windows);
+    if (backwards) std::reverse(windows.begin(), windows.end());
+    // From the one behind the focus, which need not be a stop itself, once around.
     const Control* focused = Control::from(GetFocus());
-    const auto current = std::find(stops.begin(), stops.end(), focused ? focused->window() : nullptr);
-    const auto next = current == stops.end() || std::next(current) == stops.end() ? stops.begin() : std::next(current);
+    const auto current = std::find(windows.begin(), windows.end(), focused ? focused->window() : nullptr);
+    if (current != windows.end()) std::rotate(windows.begin(), std::next(current), windows.end());
+    const auto next = std::find_if(windows.begin(), windows.end(), takes_tab);
+    if (next == windows.end()) return;
     SetFocus(*next);
     // As in every dialog, what stands in an input can be typed over; a long text is left as it is.
     const bool is_input = SendMessageW(*next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;

@@ -154,7 +154,13 @@ void Shape::set_border_colour(Colour colour) {
     invalidate();
 }
 
+void Shape::set_fill_colour(Colour colour) {
+    fill_colour_ = colour;
+    invalidate();
+}
+
 void Shape::draw(HDC canvas) const {
+    if (fill_colour_) fill(canvas, pixels(), *fill_colour_);
     SetDCBrushColor(canvas, resolve(border_colour_));
     FrameRect(canvas, &pixels(), static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }

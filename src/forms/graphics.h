@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "forms/colour.h"
@@ -96,19 +97,22 @@ class Image : public Graphic {
     ImageBorder border_ = ImageBorder::None;
 };
 
-/// A painted rectangle. The mouse meets what lies behind it.
+/// A painted rectangle, or only its border. The mouse meets what lies behind it.
 class Shape : public Graphic {
   public:
     Shape(Container& container, Bounds bounds);
 
     void set_border_colour(Colour colour);
     Colour border_colour() const { return border_colour_; }
+    /// Paints the inside too, which is transparent before.
+    void set_fill_colour(Colour colour);
 
     void draw(HDC canvas) const override;
     bool takes_mouse() const override { return false; }
 
   private:
     Colour border_colour_ = colours::black;
+    std::optional<Colour> fill_colour_;
 };
 
 /// A painted straight line along the upper or left edge of its bounds. The mouse meets what lies behind it.

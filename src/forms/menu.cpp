@@ -27,8 +27,12 @@ Menu::Menu(MenuBar& bar, std::wstring caption)
 Menu::Menu(Form& form, std::wstring caption)
     : form_(form), handle_(CreatePopupMenu()), id_(form_.add_command(*this)), caption_(std::move(caption)) {}
 
-Menu::Menu(Menu& parent, std::wstring caption)
-    : form_(parent.form_), parent_(&parent), id_(form_.add_command(*this)), caption_(std::move(caption)) {
+Menu::Menu(Menu& parent, std::wstring caption, Ampersands ampersands)
+    : form_(parent.form_),
+      parent_(&parent),
+      id_(form_.add_command(*this)),
+      caption_(std::move(caption)),
+      ampersands_(ampersands) {
     parent.become_submenu();
     attach(parent.handle_);
 }
@@ -41,13 +45,23 @@ Menu::~Menu() {
     if (handle_) DestroyMenu(handle_);
 }
 
+std::wstring Menu::shown_caption() const {
+    return ampersands_ == Ampersands::AreShown ? without_access_keys(caption_) : caption_;
+}
+
+UINT Menu::shown_type() const {
+    return caption_.empty() ? MFT_SEPARATOR : MFT_STRING;
+}
+
 void Menu::attach(HMENU parent) {
     container_ = parent;
+    std::wstring text = shown_caption();
     MENUITEMINFOW info{};
     info.cbSize = sizeof info;
-    info.fMask = MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
+    info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STRING | MIIM_SUBMENU;
+    info.fType = shown_type();
     info.wID = static_cast<UINT>(id_);
-    info.dwTypeData = caption_.data();
+    info.dwTypeData = text.data();
     info.hSubMenu = handle_;
     if (!InsertMenuItemW(parent, static_cast<UINT>(GetMenuItemCount(parent)), TRUE, &info)) throw_last_error();
 }
@@ -82,10 +96,13 @@ void Menu::update(const MENUITEMINFOW& info) const {
 }
 
 void Menu::set_caption(std::wstring caption) {
+    if (caption == caption_) return;
     caption_ = std::move(caption);
+    std::wstring text = shown_caption();
     MENUITEMINFOW info{};
-    info.fMask = MIIM_STRING;
-    info.dwTypeData = caption_.data();
+    info.fMask = MIIM_FTYPE | MIIM_STRING;
+    info.fType = shown_type();
+    info.dwTypeData = text.data();
     update(info);
 }
 

@@ -15,6 +15,9 @@ class Form;
 /// A text for a caption in which an ampersand is an ampersand and no access key.
 std::wstring without_access_keys(std::wstring_view text);
 
+/// What an ampersand in a caption is.
+enum class Ampersands { MarkAccessKeys, AreShown };
+
 /// The menu bar of a form; it shows the menus made with it, in that order.
 class MenuBar {
   public:
@@ -31,7 +34,7 @@ class MenuBar {
 };
 
 /// A menu or an entry of one. An entry comes at the end of its parent and leaves it when it is destroyed; with entries
-/// of its own it is a submenu.
+/// of its own it is a submenu, and without a caption a line between the others.
 class Menu {
   public:
     /// A menu of the bar.
@@ -39,7 +42,7 @@ class Menu {
     /// A menu that only pops up.
     Menu(Form& form, std::wstring caption);
     /// An entry of another menu.
-    Menu(Menu& parent, std::wstring caption);
+    Menu(Menu& parent, std::wstring caption, Ampersands ampersands = Ampersands::MarkAccessKeys);
     ~Menu();
     Menu(const Menu&) = delete;
     Menu& operator=(const Menu&) = delete;
@@ -68,6 +71,8 @@ class Menu {
     void attach(HMENU parent);
     void become_submenu();
     int position() const;
+    std::wstring shown_caption() const;
+    UINT shown_type() const;
     void update(const MENUITEMINFOW& info) const;
 
     Form& form_;
@@ -76,6 +81,7 @@ class Menu {
     HMENU handle_ = nullptr;     // the menu of its own entries
     int id_;
     std::wstring caption_;
+    Ampersands ampersands_ = Ampersands::MarkAccessKeys;
     bool checked_ = false;
     bool enabled_ = true;
     Picture unchecked_picture_;

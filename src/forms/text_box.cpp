@@ -86,10 +86,6 @@ void TextBox::choose_line_breaks(std::wstring_view text) {
     send(EM_SETLIMITTEXT, no_limit);
 }
 
-int TextBox::line_count() const {
-    return static_cast<int>(send(EM_GETLINECOUNT));
-}
-
 std::size_t TextBox::selection_start() const {
     DWORD start = 0;
     send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), 0);

@@ -35,9 +35,6 @@ class TextBox : public Control {
     void set_text(std::wstring_view text);
     bool empty() const { return GetWindowTextLengthW(window()) == 0; }
 
-    /// The number of lines as they are shown; an empty text has one.
-    int line_count() const;
-
     std::size_t selection_start() const;
     std::size_t selection_length() const;
     std::wstring selected_text() const;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/desktop.h"
+#include "common/line_count.h"
 #include "common/window_settings.h"
 #include "database/record.h"
 #include "forms/application.h"
@@ -47,7 +48,7 @@ frmAddNew::frmAddNew(Application& application, Session& session, ViewerLink& vie
     bind();
     bind_hover_help();
     UpdateAddButton();
-    ShowLineCount();
+    show_line_count(lines_);
 }
 
 void frmAddNew::bind() {
@@ -60,13 +61,11 @@ void frmAddNew::bind() {
     on_mouse_move = [this](const MouseEvent& event) { Form_MouseMove(event); };
     Text1.on_change = [this] { UpdateAddButton(); };
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
+    keep_line_count(lines_);
     Text2.on_change = [this] {
         UpdateAddButton();
-        ShowLineCount();
+        show_line_count(lines_);
     };
-    Text2.on_click = [this] { ShowLineCount(); };
-    Text2.on_key_press = [this](CharacterEvent&) { ShowLineCount(); };
-    Text2.on_mouse_move = [this](const MouseEvent&) { ShowLineCount(); };
     Text2.on_key_down = [this](KeyEvent& event) { leave_by_escape(event); };
     cmdButton[add_button]->on_click = [this] { AddGame(); };
     cmdButton[cancel_button]->on_click = [this] { close(); };
@@ -181,10 +180,6 @@ void frmAddNew::show_help_box(std::size_t index, double x, double y) {
 
 void frmAddNew::UpdateAddButton() {
     cmdButton[add_button]->set_enabled(!Text1.empty() && !Text2.empty());
-}
-
-void frmAddNew::ShowLineCount() {
-    Text2.set_tool_tip(line_count_tooltip(Text2.line_count()));
 }
 
 void frmAddNew::AddGame() {

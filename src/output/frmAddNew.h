@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "common/clsTextBox.h"
 #include "common/hover_help.h"
 #include "common/session.h"
 #include "forms/button.h"
@@ -54,7 +55,6 @@ class frmAddNew final : public Form {
     /// Shows the help text of a button for the pointer at a place in it, in twips.
     void show_help_box(std::size_t index, double x, double y);
     void UpdateAddButton();
-    void ShowLineCount();
     void leave_by_escape(KeyEvent& event);
     bool correct_size();
     void centre_over_viewer();
@@ -65,6 +65,7 @@ class frmAddNew final : public Form {
 
     Session& session_;
     ViewerLink& viewer_;
+    clsTextBox lines_{Text2};
     HoverHelp hover_help_{session_.pointer, Text3, Timer1};
     bool pointer_placed_ = false;
 };

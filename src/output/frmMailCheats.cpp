@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/line_count.h"
 #include "output/mail_window.h"
 #include "text/error.h"
 #include "text/line_end.h"
@@ -79,9 +80,9 @@ void frmMailCheats::bind_inputs() {
     Text1.on_change = [this] { UpdateSendButton(); };
     Text2.on_change = [this] { Text2_Change(); };
     Text4.on_change = [this] { UpdateSendButton(); };
-    keep_line_count(Text3);
-    Text3.on_change = [this, show_line_count = Text3.on_change] {
-        show_line_count();
+    keep_line_count(lines_);
+    Text3.on_change = [this] {
+        show_line_count(lines_);
         UpdateSendButton();
     };
     Text3.on_double_click = [this] { Text3_DblClick(); };

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "common/clsTextBox.h"
 #include "common/hover_help.h"
 #include "common/session.h"
 #include "forms/button.h"
@@ -71,6 +72,7 @@ class frmMailCheats final : public Form {
 
     Session& session_;
     GamesToPick games_;
+    clsTextBox lines_{Text3};
     HoverHelp hover_help_{session_.pointer, Text5, Timer1};
 };
 

@@ -1,5 +1,6 @@
 #include "output/frmMailMe.h"
 
+#include "common/line_count.h"
 #include "common/pointer.h"
 #include "common/window_settings.h"
 #include "output/mail_window.h"
@@ -38,9 +39,9 @@ void frmMailMe::bind() {
     };
     Combo1.on_change = [this] { UpdateSendButton(); };
     Combo1.on_key_down = [this](KeyEvent& event) { Combo1_KeyDown(event); };
-    keep_line_count(Text1);
-    Text1.on_change = [this, show_line_count = Text1.on_change] {
-        show_line_count();
+    keep_line_count(lines_);
+    Text1.on_change = [this] {
+        show_line_count(lines_);
         UpdateSendButton();
     };
     Command1.on_click = [this] { SendToAuthor(); };

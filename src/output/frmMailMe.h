@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "common/clsTextBox.h"
 #include "common/hover_help.h"
 #include "common/session.h"
 #include "forms/button.h"
@@ -46,6 +47,7 @@ class frmMailMe final : public Form {
     void SendToAuthor();
 
     Session& session_;
+    clsTextBox lines_{Text1};
     HoverHelp hover_help_{session_.pointer, Text2, Timer1};
 };
 

@@ -7,7 +7,6 @@
 #include "forms/graphics.h"
 #include "forms/message_box.h"
 #include "forms/text_box.h"
-#include "text/game_list.h"
 #include "text/mail.h"
 
 namespace quillomat {
@@ -45,14 +44,6 @@ void keep_above_pointer(TextBox& help_box, HoverHelp& hover_help, std::initializ
         button->on_mouse_move = [place, button](const MouseEvent& pointer) { place(*button, pointer); };
     }
     hover_help.on_shown = place;
-}
-
-void keep_line_count(TextBox& message) {
-    const auto ShowLineCount = [&message] { message.set_tool_tip(line_count_tooltip(message.line_count())); };
-    message.on_change = ShowLineCount;
-    message.on_click = ShowLineCount;
-    message.on_key_press = [ShowLineCount](CharacterEvent&) { ShowLineCount(); };
-    message.on_mouse_move = [ShowLineCount](const MouseEvent&) { ShowLineCount(); };
 }
 
 }  // namespace quillomat

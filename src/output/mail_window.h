@@ -37,7 +37,4 @@ class Sending {
 /// Keeps a help box above the pointer while that is on one of the buttons; inside of the window, as far as it fits.
 void keep_above_pointer(TextBox& help_box, HoverHelp& hover_help, std::initializer_list<Button*> buttons);
 
-/// Keeps the tooltip of a message's box saying how many lines it has.
-void keep_line_count(TextBox& message);
-
 }  // namespace quillomat

@@ -16,6 +16,7 @@
 #include "shell/frmWait.h"
 #include "shell/viewer_link.h"
 #include "viewer/frmCtlView.h"
+#include "viewer/frmFind.h"
 
 namespace quillomat {
 
@@ -35,6 +36,7 @@ Windows::Windows(Application& application, Session& session) : application_(appl
     viewer_windows_.add_game = [this] { open_add_game(); };
     viewer_windows_.save = [this] { open_save(); };
     viewer_windows_.print_list = [this] { show_print_list(); };
+    viewer_windows_.find = [this] { open_find(*viewer_, viewer_->Text1); };
 }
 
 Windows::~Windows() = default;
@@ -113,6 +115,15 @@ void Windows::show_print_list() {
         application_, session_,
         {.count = [&list] { return list.count(); }, .name = [&list](int index) { return list.item(index); }});
     form.show_modal(viewer_.get());
+}
+
+void Windows::open_find(Form& searched, TextBox& box) {
+    if (find_ && &find_->searched_box() != &box) {
+        find_->close();
+        find_.reset();
+    }
+    open(find_, session_.find, searched, box);
+    find_->txtFind.set_focus();
 }
 
 void Windows::quit_after_last() {

@@ -9,7 +9,10 @@
 namespace quillomat {
 
 class Application;
+class Form;
+class TextBox;
 class frmCtlView;
+class frmFind;
 class frmMailMe;
 class frmMain;
 class frmSplash;
@@ -32,6 +35,9 @@ class Windows {
     void open_viewer();
     /// Opens the message to the author, or brings the open one to the front.
     void open_author_mail();
+    /// Opens the find dialog for a text box of a window, or brings it to the front if it is open for that one. There
+    /// is one at a time: one that was open for another box closes.
+    void open_find(Form& searched, TextBox& box);
 
   private:
     template <class Window, class... Arguments>
@@ -54,6 +60,7 @@ class Windows {
     std::unique_ptr<frmMain> main_screen_;
     std::unique_ptr<frmWait> loading_window_;
     std::unique_ptr<frmCtlView> viewer_;
+    std::unique_ptr<frmFind> find_;
     std::unique_ptr<frmMailMe> author_mail_;
 };
 

@@ -7,6 +7,7 @@
 #include "resources/pictures.h"
 #include "text/game_list.h"
 #include "text/window_size.h"
+#include "viewer/frmStatus.h"
 
 namespace quillomat {
 namespace {
@@ -51,6 +52,8 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
     bind_list(List2);
     bind_hover_help();
 }
+
+frmCtlView::~frmCtlView() = default;
 
 void frmCtlView::bind() {
     on_load = [this] { Form_Load(); };

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <memory>
 
 #include "common/hover_help.h"
 #include "common/session.h"
@@ -19,12 +20,15 @@
 
 namespace quillomat {
 
+class frmStatus;
+
 /// The cheat viewer: the full list of games beside the cheat text of the selected one, and the search panel that
 /// slides in over the list.
 class frmCtlView final : public Form {
   public:
     /// `session` and `windows` must outlive the form.
     frmCtlView(Application& application, Session& session, const ViewerWindows& windows);
+    ~frmCtlView() override;
 
     // The controls, by the names the whole program knows them by. Other windows read the current game from them.
     Line Line1{*this, {0, 480, 100000, 30}};
@@ -62,6 +66,10 @@ class frmCtlView final : public Form {
     void SearchFor(SearchScope scope);
     /// Sorts the captions of the font menu's entries `lower` to `upper`, both included.
     void QuickSort(int lower, int upper);
+    /// Makes the font menu offer the installed fonts, sorted, and keeps their names in the file beside the program,
+    /// while a window shows the progress and takes the user's wish to cancel; what was collected until then is kept.
+    /// Throws `Error` when the file cannot be written; the progress window then stays open.
+    void collect_fonts();
     /// Colours the text and both lists by the check mark of the colour entry.
     void apply_colours();
 
@@ -97,6 +105,11 @@ class frmCtlView final : public Form {
     void Label1_MouseMove(std::size_t index);
     void Label1_reset();
     void Timer1_Timer();
+    void mnuFontName_Click(std::size_t Index);
+    void offer_installed_fonts();
+    std::wstring fonts_file() const;
+    void open_status();
+    void fill_font_menu(const ScreenFonts& fonts);
     void show_slide_step();
 
     // The steps of opening the window, in their order.
@@ -123,6 +136,7 @@ class frmCtlView final : public Form {
     const ViewerWindows& windows_;
     HoverHelp hover_help_{session_.pointer, Text4, Timer1};
     const Graphic* hovered_ = nullptr;  // the image or the letter that shows that the pointer is over it
+    std::unique_ptr<frmStatus> status_;
 };
 
 }  // namespace quillomat

@@ -58,6 +58,9 @@ void frmCtlView::bind_commands() {
     menus.mnuCopy.on_click = [this] { copy_cheats(); };
     menus.mnuColour.on_click = [this] { toggle_colours(); };
     menus.mnuAutoSelect.on_click = [this] { menus.mnuAutoSelect.set_checked(!menus.mnuAutoSelect.checked()); };
+    menus.mnuSelectedFind.on_click = [this] { raise(windows_.find); };
+    menus.mnuTextBoxFind.on_click = [this] { raise(windows_.find); };
+    menus.mnuFontName_Click = [this](std::size_t Index) { mnuFontName_Click(Index); };
 
     const std::pair<Menu*, const Menu*> same_commands[] = {
         {&menus.mnuSelectedSave, &menus.mnuSave},

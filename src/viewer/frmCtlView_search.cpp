@@ -1,14 +1,10 @@
 // Searching the catalogue, and the two panels that take turns at the left of the viewer.
 
-#include <chrono>
-#include <random>
-
 #include "common/desktop.h"
 #include "common/pointer.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/animation.h"
-#include "text/quick_sort.h"
 #include "text/search_text.h"
 #include "viewer/frmCtlView.h"
 #include "win/upper_case.h"
@@ -120,23 +116,6 @@ void frmCtlView::show_slide_step() {
     RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     Line1.refresh();
     pause_milliseconds(1);
-}
-
-void frmCtlView::QuickSort(int lower, int upper) {
-    std::mt19937 generator(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
-    std::uniform_real_distribution<double> random(0, 1);
-    auto& fonts = menus.mnuFontName;
-    quick_sort(
-        lower, upper,
-        [&fonts](int a, int b) {
-            return fonts[static_cast<std::size_t>(a)]->caption() < fonts[static_cast<std::size_t>(b)]->caption();
-        },
-        [&fonts](int a, int b) {
-            const std::wstring caption = fonts[static_cast<std::size_t>(a)]->caption();
-            fonts[static_cast<std::size_t>(a)]->set_caption(fonts[static_cast<std::size_t>(b)]->caption());
-            fonts[static_cast<std::size_t>(b)]->set_caption(caption);
-        },
-        [&] { return random(generator); });
 }
 
 }  // namespace quillomat

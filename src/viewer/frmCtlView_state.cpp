@@ -3,7 +3,6 @@
 #include "common/window_settings.h"
 #include "forms/message_box.h"
 #include "text/error.h"
-#include "text/font_list.h"
 #include "text/numbers.h"
 #include "viewer/frmCtlView.h"
 #include "win/database_file.h"
@@ -66,15 +65,6 @@ void frmCtlView::restore_size() {
     if (window_state() != WindowState::Normal) return;
     set_height(session_.settings.read(settings::FrmCtlViewHeight));
     set_width(session_.settings.read(settings::FrmCtlViewWidth));
-}
-
-void frmCtlView::list_cached_fonts() {
-    const std::wstring path = session_.program_folder + L"\\Fonts.dat";
-    if (!file_exists(path)) return;
-    session_.text_file.open_for_reading(path);
-    const DecodedText text = session_.text_file.read_all();
-    session_.text_file.close();
-    menus.list_fonts(font_names(text.view()));
 }
 
 void frmCtlView::build_alphabet_bar() {

@@ -1,11 +1,12 @@
 #include "viewer/viewer_menus.h"
 
+#include "forms/events.h"
 #include "resources/pictures.h"
 
 namespace quillomat {
 
 ViewerMenus::ViewerMenus(Form& form) : bar(form), mnuSelected(form, L"Selected"), mnuTextBox(form, L"TextBox") {
-    mnuFontName.push_back(std::make_unique<Menu>(mnuFont, L"Click &here to get font list..."));
+    add_font_entry(L"Click &here to get font list...", Ampersands::MarkAccessKeys);
 }
 
 void ViewerMenus::attach_pictures() {
@@ -20,9 +21,14 @@ void ViewerMenus::attach_pictures() {
     mnuPrintGames.set_pictures(Image3(8), Image3(8));
 }
 
-void ViewerMenus::list_fonts(const std::vector<std::wstring>& names) {
-    mnuFontName.resize(1);
-    for (const std::wstring& name : names) mnuFontName.push_back(std::make_unique<Menu>(mnuFont, name));
+void ViewerMenus::add_font(const std::wstring& name) {
+    add_font_entry(name, Ampersands::AreShown);
+}
+
+void ViewerMenus::add_font_entry(const std::wstring& caption, Ampersands ampersands) {
+    const std::size_t index = mnuFontName.size();
+    mnuFontName.push_back(std::make_unique<Menu>(mnuFont, caption, ampersands));
+    mnuFontName.back()->on_click = [this, index] { raise(mnuFontName_Click, index); };
 }
 
 }  // namespace quillomat

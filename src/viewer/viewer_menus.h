@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "forms/menu.h"
@@ -30,6 +32,7 @@ struct ViewerMenus {
     Menu mnuFont{bar, L"&Font"};
     /// Entry 0 collects the fonts; the others each carry the name of one.
     std::vector<std::unique_ptr<Menu>> mnuFontName;
+    std::function<void(std::size_t Index)> mnuFontName_Click;
 
     Menu mnuSelected;
     Menu mnuSelectedSave{mnuSelected, L"&Save..."};
@@ -49,8 +52,13 @@ struct ViewerMenus {
 
     /// Puts the pictures beside the entries of the first two menus.
     void attach_pictures();
-    /// Makes the font menu hold these names behind its first entry.
-    void list_fonts(const std::vector<std::wstring>& names);
+    /// Adds an entry for a font at the end of the font menu.
+    void add_font(const std::wstring& name);
+    /// Leaves the font menu with its first entry only.
+    void remove_fonts() { mnuFontName.resize(1); }
+
+  private:
+    void add_font_entry(const std::wstring& caption, Ampersands ampersands);
 };
 
 }  // namespace quillomat

@@ -15,18 +15,22 @@ class TemporaryFolder {
         static int count = 0;
         path_ = std::filesystem::temp_directory_path() /
                 (L"quillomat-test-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count));
+        // Numbers of processes come again: a run that was ended may have left a folder of this name.
+        remove();
         std::filesystem::create_directories(path_);
     }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
+    ~TemporaryFolder() { remove(); }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
 
   private:
+    void remove() const {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
     std::filesystem::path path_;
 };
 

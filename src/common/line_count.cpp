@@ -1,0 +1,21 @@
+#include "common/line_count.h"
+
+#include "common/clsTextBox.h"
+#include "forms/text_box.h"
+#include "text/game_list.h"
+
+namespace quillomat {
+
+void show_line_count(const clsTextBox& lines) {
+    lines.TextBox().set_tool_tip(line_count_tooltip(lines.LineCount()));
+}
+
+void keep_line_count(const clsTextBox& lines) {
+    TextBox& box = lines.TextBox();
+    box.on_change = [&lines] { show_line_count(lines); };
+    box.on_click = box.on_change;
+    box.on_key_press = [&lines](CharacterEvent&) { show_line_count(lines); };
+    box.on_mouse_move = [&lines](const MouseEvent&) { show_line_count(lines); };
+}
+
+}  // namespace quillomat

@@ -1,0 +1,31 @@
+#include "text/find_in_text.h"
+
+#include <algorithm>
+
+namespace quillomat {
+
+std::optional<std::size_t> find_in_text(const FindState& state, std::wstring text, std::size_t caret,
+                                        UpperCase upper_case) {
+    const bool on_last_match = caret == state.gCurPos && !state.gFirstTime;
+    const std::size_t start = caret + (on_last_match ? 1 : 0);
+    std::wstring wanted = state.gFindString;
+
+    // What the step cannot reach need not be converted.
+    std::size_t begin = 0;
+    std::size_t end = text.size();
+    if (state.gFindDirection) {
+        begin = std::min(start, end);
+    } else {
+        if (start < 2) return std::nullopt;
+        end = std::min(start - 2 + wanted.size(), end);
+    }
+    if (state.gFindCase == 0) {
+        upper_case(wanted.data(), wanted.size());
+        upper_case(text.data() + begin, end - begin);
+    }
+    const std::size_t found = state.gFindDirection ? text.find(wanted, start)
+                                                   : std::wstring_view(text).substr(0, end).rfind(wanted, start - 2);
+    return found == std::wstring::npos ? std::nullopt : std::optional(found);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "forms/button.h"
+#include "forms/check_box.h"
+#include "forms/form.h"
+#include "forms/frame.h"
+#include "forms/option_button.h"
+#include "forms/static_label.h"
+#include "forms/text_box.h"
+#include "text/find_in_text.h"
+
+namespace quillomat {
+
+/// Looks for a text in a text box of another window, step by step, while the user goes on working there.
+class frmFind final : public Form {
+  public:
+    /// Looks in `box`, which stands on `searched`; the dialog stays in front of that window and closes with it. What
+    /// is looked for comes from `state` and is kept there, which must outlive the dialog.
+    frmFind(Application& application, FindState& state, Form& searched, TextBox& box);
+
+    StaticLabel Label1{*this, L"Fi&nd What:", {150, 195, 930, 225}};
+    TextBox txtFind{*this, {1110, 150, 3000, 315}};
+    CheckBox chkCase{*this, L"Match &Case", {150, 855, 1410, 255}};
+    Frame Frame1{*this, L"Direction", {2010, 570, 2100, 630}, FrameBorder::Captioned};
+    OptionButton optDirection[2]{{Frame1, L"&Up", {180, 285, 765, 255}, OptionButton::Group::Starts},
+                                 {Frame1, L"&Down", {1035, 285, 915, 255}, OptionButton::Group::Continues}};
+    Button cmdFind{*this, L"&Find", {4305, 135, 1170, 345}};
+    Button cmdcancel{*this, L"C&ancel", {4305, 570, 1170, 345}};
+
+    /// The text box that is looked through.
+    const TextBox& searched_box() const { return box_; }
+
+    /// One step of the search: shows the next place in the text, or tells that there is none.
+    void FindIt();
+
+  private:
+    void bind();
+    void Form_Load();
+    void Form_Unload();
+    void txtFind_Change();
+    void stay_in_front();
+
+    FindState& state_;
+    Form& searched_;
+    TextBox& box_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,62 @@
+#include "viewer/frmStatus.h"
+
+#include "forms/message_box.h"
+
+namespace quillomat {
+
+frmStatus::frmStatus(Application& application, const Form& viewer)
+    : Form(application, {.name = L"frmStatus",
+                         .caption = L"Progress...",
+                         .width = 9105,
+                         .height = 990,
+                         .border = FormBorder::Dialog}) {
+    set_owner(viewer);
+    set_inner_size(full_progress_bar + 2 * Shape2.left(), Shape2.height() + 2 * Shape2.top());
+    Shape1.set_border_colour(colours::highlight);
+    Shape1.set_fill_colour(colours::highlight);
+    Shape2.set_border_colour(colours::grey_text);
+    on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+}
+
+void frmStatus::begin() {
+    GoingOn = true;
+    Shape1.set_width(0);
+    Shape1.set_visible(true);
+    Shape2.set_visible(true);
+    set_closable(false);
+    started_ = Clock::now();
+    shown_ = {};
+}
+
+bool frmStatus::is_due() const {
+    return Clock::now() - shown_ >= std::chrono::milliseconds(10);
+}
+
+void frmStatus::show_progress(int collected, int count) {
+    const CollectionProgress progress = collection_progress(collected, count);
+    Shape1.set_width(progress.bar_width);
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - started_);
+    set_caption(collection_caption(progress.percent, static_cast<int>(seconds.count())));
+    shown_ = Clock::now();
+}
+
+void frmStatus::end(int collected, int count) {
+    Shape1.set_width(collection_progress(collected, count).bar_width);
+    set_caption(L"Please wait...");
+    set_closable(true);
+    UpdateWindow(window());
+}
+
+void frmStatus::Form_KeyDown(KeyEvent& event) {
+    if (event.key != keys::f10) return;
+    event.handled = true;
+    const Clock::time_point asked = Clock::now();
+    const auto answer = show_message(window(), {.text = L"Are you sure you want to cancel collecting the fonts?",
+                                                .title = L"Sure?",
+                                                .buttons = MessageButtons::YesNo});
+    if (answer == MessageAnswer::Yes) GoingOn = false;
+    // The time to answer is none that the collection took.
+    started_ += Clock::now() - asked;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,42 @@
+#include "win/installed_fonts.h"
+
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "win/api.h"
+
+namespace quillomat {
+namespace {
+
+struct FoundFonts {
+    std::vector<std::wstring> names;
+    std::unordered_set<std::wstring> known;
+};
+
+// The system reports a font once for each of its scripts.
+int CALLBACK add_font(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM parameter) {
+    auto& found = *reinterpret_cast<FoundFonts*>(parameter);
+    const std::wstring name = font->lfFaceName;
+    // Those with an "@" are others once more, turned for writing downwards.
+    if (!name.empty() && name.front() != L'@' && found.known.insert(name).second) found.names.push_back(name);
+    return 1;
+}
+
+}  // namespace
+
+ScreenFonts installed_fonts() {
+    LOGFONTW any{};
+    any.lfCharSet = DEFAULT_CHARSET;
+    FoundFonts found;
+    const HDC screen = GetDC(nullptr);
+    EnumFontFamiliesExW(screen, &any, add_font, reinterpret_cast<LPARAM>(&found), 0);
+    ReleaseDC(nullptr, screen);
+    const int count = static_cast<int>(found.names.size());
+    return {count, [names = std::move(found.names)](int position) {
+                const auto index = static_cast<std::size_t>(position);
+                return index < names.size() ? names[index] : std::wstring();
+            }};
+}
+
+}  // namespace quillomat

@@ -1,0 +1,137 @@
+// The lines of a text box, and the two shortcuts it gets by them, in a real box.
+
+#include "common/clsTextBox.h"
+
+#include <optional>
+
+#include "forms/form.h"
+#include "forms/text_box.h"
+#include "support.h"
+
+namespace quillomat {
+namespace {
+
+struct Page : Form {
+    explicit Page(Application& application)
+        : Form(application, {.name = L"frmPage", .caption = L"Page", .width = 6000, .height = 6000}) {}
+
+    TextBox Text1{*this, {120, 120, 4000, 1500}, TextBoxKind::MultiLine};
+    TextBox Text2{*this, {120, 1800, 4000, 900}, TextBoxKind::MultiLine};
+};
+
+class ClsTextBoxTest : public WindowTest {
+  protected:
+    ClsTextBoxTest() { page.show(); }
+
+    std::wstring clipboard() {
+        EXPECT_TRUE(OpenClipboard(page.window()));
+        const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+        std::wstring text = data ? static_cast<const wchar_t*>(GlobalLock(data)) : L"(none)";
+        if (data) GlobalUnlock(data);
+        CloseClipboard();
+        return text;
+    }
+
+    Page page{application};
+    TextBox& box = page.Text1;
+    clsTextBox lines{box};
+};
+
+TEST_F(ClsTextBoxTest, KnowsTheLines) {
+    box.set_text(L"first\r\n\r\nthe \u00e9\u4e2d third\r\n");
+    EXPECT_EQ(lines.LineCount(), 4);
+    const struct {
+        int line;
+        std::optional<int> start;
+        int length;
+        const wchar_t* text;
+    } cases[] = {{0, 0, 5, L"first"},
+                 {1, 7, 0, L""},
+                 {2, 9, 12, L"the \u00e9\u4e2d third"},
+                 {3, 23, 0, L""},
+                 {4, std::nullopt, 0, L""},
+                 {1000, std::nullopt, 0, L""}};
+    for (const auto& [line, start, length, text] : cases) {
+        EXPECT_EQ(lines.GetCharFromLine(line), start) << line;
+        EXPECT_EQ(lines.GetLine(line), text) << line;
+        if (!start) continue;
+        EXPECT_EQ(lines.LineLen(*start), length) << line;
+        EXPECT_EQ(lines.GetLineFromChar(*start), line) << line;
+    }
+    box.set_text(L"");
+    EXPECT_EQ(lines.LineCount(), 1);
+    EXPECT_EQ(lines.GetLine(0), L"");
+}
+
+TEST_F(ClsTextBoxTest, GivesALineThatIsLongerThanTheSystemHandsOver) {
+    const std::wstring line = std::wstring(69'999, L'x') + L"y";
+    box.set_text(L"a\r\n" + line + L"\r\nb");
+    EXPECT_TRUE(lines.GetLine(1) == line);
+}
+
+TEST_F(ClsTextBoxTest, KnowsWhatIsInView) {
+    std::wstring text;
+    for (int i = 0; i < 100; ++i) text += L"line\r\n";
+    box.set_text(text);
+    EXPECT_EQ(lines.TopLine(), 0);
+    SendMessageW(box.window(), EM_LINESCROLL, 0, 40);
+    EXPECT_EQ(lines.TopLine(), 40);
+}
+
+TEST_F(ClsTextBoxTest, EmptiesALineAndLetsTheUserTakeItBack) {
+    box.set_text(L"one\r\ntwo\r\nthree");
+    EXPECT_FALSE(lines.IsDirty());
+    EXPECT_FALSE(lines.CanUndo());
+    int changes = 0;
+    box.on_change = [&] { ++changes; };
+    box.select(6, 0);
+    lines.DelLine(1);
+    EXPECT_EQ(box.text(), L"one\r\n\r\nthree");
+    EXPECT_EQ(box.selection_start(), 6u);
+    EXPECT_EQ(box.selection_length(), 0u);
+    EXPECT_EQ(changes, 1);
+    EXPECT_TRUE(lines.IsDirty());
+    EXPECT_TRUE(lines.CanUndo());
+    lines.DelLine(3);
+    EXPECT_EQ(box.text(), L"one\r\n\r\nthree") << "behind the last line there is nothing to empty";
+    lines.Undo();
+    EXPECT_EQ(box.text(), L"one\r\ntwo\r\nthree");
+    lines.set_IsDirty(false);
+    EXPECT_FALSE(lines.IsDirty());
+    lines.set_IsDirty(true);
+    EXPECT_TRUE(lines.IsDirty());
+}
+
+TEST_F(ClsTextBoxTest, ShortcutsSelectAllAndCutTheLineOfTheCaret) {
+    ASSERT_TRUE(pump_until([this] { return box.has_focus(); }));
+    box.set_text(L"one\r\ntw\u00f6\r\nthree");
+    box.select(6, 1);
+    press_key('Y', {VK_CONTROL});
+    EXPECT_TRUE(pump_until([this] { return box.text() == L"one\r\n\r\nthree"; }));
+    EXPECT_EQ(clipboard(), L"tw\u00f6");
+    EXPECT_EQ(lines.LineCount(), 3);
+    press_key('A', {VK_CONTROL});
+    EXPECT_TRUE(pump_until([this] { return box.selected_text() == L"one\r\n\r\nthree"; }));
+
+    int passed_on = 0;
+    box.on_key_down = [&](KeyEvent& event) { passed_on += event.key == 'Y' || event.key == 'A'; };
+    box.select(0, 0);
+    press_key('Y', {VK_CONTROL, VK_SHIFT});
+    press_key('A', {VK_CONTROL, VK_MENU});
+    EXPECT_TRUE(pump_until([&] { return passed_on == 2; })) << "with another key held they are no shortcuts";
+    EXPECT_EQ(box.text(), L"one\r\n\r\nthree");
+}
+
+TEST_F(ClsTextBoxTest, TurnsToAnotherBox) {
+    page.Text2.set_text(L"only");
+    lines.set_TextBox(page.Text2);
+    EXPECT_EQ(&lines.TextBox(), &page.Text2);
+    EXPECT_EQ(lines.GetLine(0), L"only");
+    EXPECT_FALSE(box.on_shortcut_key) << "the box before has lost the shortcuts";
+    page.Text2.set_focus();
+    press_key('A', {VK_CONTROL});
+    EXPECT_TRUE(pump_until([this] { return page.Text2.selected_text() == L"only"; }));
+}
+
+}  // namespace
+}  // namespace quillomat

@@ -1,0 +1,200 @@
+// The find dialog over a text box, by mouse and by keyboard.
+
+#include <memory>
+
+#include "shell/windows.h"
+#include "support.h"
+#include "viewer/frmFind.h"
+
+namespace quillomat {
+namespace {
+
+struct Page : Form {
+    explicit Page(Application& application)
+        : Form(application, {.name = L"frmPage", .caption = L"Page", .width = 6600, .height = 5400}) {}
+
+    TextBox Text1{*this, {120, 120, 6000, 3500}, TextBoxKind::Reading};
+    TextBox Text2{*this, {120, 3800, 6000, 900}, TextBoxKind::MultiLine};
+};
+
+class FindTest : public WindowTest {
+  protected:
+    FindTest() {
+        page->on_closed = [this] { page.reset(); };
+        // Away from the middle of the screen, where the virtual screen's own pointer is: windows that change their
+        // order under it would move the pointer there.
+        page->move_to(0, 0);
+        page->show();
+        page->Text1.set_text(L"a key, A KEY and\r\na key\r\n");
+    }
+
+    void open() {
+        dialog = std::make_unique<frmFind>(application, state, *page, page->Text1);
+        dialog->on_closed = [this] { dialog.reset(); };
+        dialog->show();
+        ASSERT_TRUE(pump_until([this] { return dialog->txtFind.has_focus(); }));
+    }
+    bool selected(std::size_t start, std::size_t length) {
+        return pump_until([&] {
+            return page->Text1.has_focus() && page->Text1.selection_start() == start &&
+                   page->Text1.selection_length() == length;
+        });
+    }
+    /// Whether the dialog is before its page in the order of the windows from the front to the back.
+    bool is_in_front() const {
+        HWND window = page->window();
+        while (window && window != dialog->window()) window = GetWindow(window, GW_HWNDPREV);
+        return window;
+    }
+
+    FindState state;
+    std::unique_ptr<Page> page = std::make_unique<Page>(application);
+    std::unique_ptr<frmFind> dialog;
+};
+
+TEST_F(FindTest, OpensOverItsWindowWithNothingToFind) {
+    open();
+    EXPECT_FALSE(dialog->cmdFind.enabled());
+    EXPECT_TRUE(dialog->optDirection[0].value());
+    EXPECT_FALSE(dialog->chkCase.value());
+    EXPECT_NEAR(dialog->top(), page->top(), 15);
+    EXPECT_NEAR(dialog->left() + dialog->width() / 2, page->left() + page->width() / 2, 15);
+    EXPECT_EQ(GetWindow(dialog->window(), GW_OWNER), page->window());
+    page->bring_to_foreground();
+    ASSERT_TRUE(pump_until([this] { return page->Text1.has_focus(); }));
+    EXPECT_TRUE(pump_until([this] { return is_in_front(); })) << "whatever the numbers of their handles are";
+    dialog->txtFind.set_text(L"k");
+    EXPECT_TRUE(dialog->cmdFind.enabled());
+    dialog->txtFind.set_text(L"");
+    EXPECT_FALSE(dialog->cmdFind.enabled());
+}
+
+TEST_F(FindTest, StepsThroughTheTextByKeyboard) {
+    open();
+    press_key('D', {VK_MENU});
+    EXPECT_TRUE(pump_until([this] { return state.gFindDirection; }));
+    press_key('N', {VK_MENU});
+    ASSERT_TRUE(pump_until([this] { return dialog->txtFind.has_focus(); }));
+    for (const char key : {'K', 'E', 'Y'}) press_key(static_cast<WORD>(key));
+    ASSERT_TRUE(pump_until([this] { return dialog->txtFind.text() == L"key"; }));
+    press_key(VK_RETURN);
+    EXPECT_TRUE(selected(2, 3));
+    EXPECT_TRUE(pump_until([this] { return is_in_front(); }));
+    const auto find_next = [this] {
+        dialog->bring_to_foreground();
+        ASSERT_TRUE(pump_until([this] { return dialog->txtFind.has_focus(); }));
+        press_key(VK_RETURN);
+    };
+    find_next();
+    EXPECT_TRUE(selected(9, 3));
+    find_next();
+    EXPECT_TRUE(selected(20, 3));
+    expect_message(L"Find", L"Search completed");
+    find_next();
+    EXPECT_TRUE(pump_until([this] { return !state.gFirstTime && dialog->txtFind.has_focus(); }));
+    EXPECT_EQ(dialog->txtFind.selected_text(), L"key") << "what is in the box is typed over";
+    press_key('U', {VK_MENU});
+    EXPECT_TRUE(pump_until([this] { return !state.gFindDirection; }));
+    press_key(VK_RETURN);
+    EXPECT_TRUE(selected(9, 3));
+    press_key(VK_ESCAPE);
+    pump();
+    EXPECT_TRUE(dialog) << "the key went to the text";
+    dialog->bring_to_foreground();
+    press_key(VK_ESCAPE);
+    EXPECT_TRUE(pump_until([this] { return !dialog; }));
+}
+
+TEST_F(FindTest, StepsThroughTheTextByMouse) {
+    open();
+    const auto click_on = [this](Control& control) {
+        bool reached = false;
+        control.on_mouse_move = [&reached](const MouseEvent&) { reached = true; };
+        // An echo of the movement before may come late and take the pointer back once.
+        const bool pointed = point_until(control.window(), 12, 8, [&] {
+            POINT pointer{};
+            GetCursorPos(&pointer);
+            return reached && WindowFromPoint(pointer) == control.window();
+        });
+        control.on_mouse_move = nullptr;
+        if (pointed) click();
+        return pointed;
+    };
+    dialog->txtFind.set_text(L"A");
+    ASSERT_TRUE(click_on(dialog->chkCase));
+    ASSERT_TRUE(pump_until([this] { return state.gFindCase == 1; }));
+    ASSERT_TRUE(click_on(dialog->optDirection[1]));
+    ASSERT_TRUE(pump_until([this] { return state.gFindDirection; }));
+    ASSERT_TRUE(click_on(dialog->cmdFind));
+    EXPECT_TRUE(selected(7, 1)) << "the first one is a small letter";
+    ASSERT_TRUE(click_on(dialog->cmdcancel));
+    EXPECT_TRUE(pump_until([this] { return !dialog; }));
+}
+
+TEST_F(FindTest, GoesOnWhereItWasWhenOpenedAgain) {
+    open();
+    dialog->txtFind.set_text(L"key");
+    dialog->optDirection[1].set_value(true);
+    dialog->chkCase.set_value(true);
+    dialog->cmdFind.click();
+    ASSERT_TRUE(selected(2, 3));
+    dialog->txtFind.set_text(L"key\u00e9");
+    dialog->txtFind.set_text(L"key");
+    dialog->cmdcancel.click();
+    ASSERT_TRUE(pump_until([this] { return !dialog; }));
+    EXPECT_EQ(state.gFindString, L"key");
+    EXPECT_EQ(state.gCurPos, 2u);
+
+    open();
+    EXPECT_EQ(dialog->txtFind.text(), L"key");
+    EXPECT_EQ(dialog->txtFind.selected_text(), L"key");
+    EXPECT_TRUE(dialog->cmdFind.enabled());
+    EXPECT_TRUE(dialog->optDirection[1].value());
+    EXPECT_TRUE(dialog->chkCase.value());
+    EXPECT_TRUE(state.gFirstTime) << "edited since the last step, as it was when the dialog closed";
+    dialog->cmdFind.click();
+    EXPECT_TRUE(selected(2, 3));
+    dialog->cmdcancel.click();
+    ASSERT_TRUE(pump_until([this] { return !dialog; }));
+    open();
+    dialog->cmdFind.click();
+    EXPECT_TRUE(selected(20, 3)) << "not edited since: the next one";
+}
+
+TEST_F(FindTest, ClosesWithItsWindowAndRemembersWhatWasTyped) {
+    open();
+    dialog->txtFind.set_text(L"typed");
+    page->close();
+    EXPECT_TRUE(pump_until([this] { return !dialog && !page; }));
+    EXPECT_EQ(state.gFindString, L"typed");
+}
+
+TEST_F(FindTest, AWindowThatClosesWaitsForADialogAtWork) {
+    open();
+    dialog->chkCase.on_click = [this] {
+        page->close();
+        pump();
+        EXPECT_TRUE(page && dialog) << "a handler of the dialog is still running";
+    };
+    SendMessageW(dialog->chkCase.window(), BM_CLICK, 0, 0);
+    EXPECT_TRUE(pump_until([this] { return !dialog && !page; }));
+}
+
+TEST_F(FindTest, ThereIsOneForTheBoxThatIsSearched) {
+    Session session;
+    Windows windows(application, session);
+    const auto find_window = [] { return FindWindowW(L"frmFind", L"Find"); };
+    windows.open_find(*page, page->Text1);
+    const HWND first = find_window();
+    ASSERT_TRUE(first);
+    page->Text1.set_focus();
+    windows.open_find(*page, page->Text1);
+    EXPECT_EQ(find_window(), first);
+    EXPECT_TRUE(pump_until([first] { return GetParent(GetFocus()) == first; })) << "it asks again";
+    windows.open_find(*page, page->Text2);
+    EXPECT_FALSE(IsWindow(first));
+    EXPECT_TRUE(find_window());
+}
+
+}  // namespace
+}  // namespace quillomat
