@@ -31,7 +31,7 @@ class frmAbout final : public Form {
     std::int16_t StartUpTimes;  ///< how often the program has been run
 
     PictureBox picIcon;
-    Label lblTitle{*this, L"Quillomat", {1230, 165, 4500, 600}};
+    Label lblTitle{*this, L"Quillomat", {1230, 165, 3000, 600}};
     StaticLabel lblVersion;
     StaticLabel lblDescription;
     Line Line1{*this, {240, 1635, 5430, 30}};
@@ -46,7 +46,7 @@ class frmAbout final : public Form {
     Timer Timer1{*this, 1, Timer::State::Disabled};
     Timer Timer2{*this, 1};
     Timer Timer3{*this, 1};
-    Timer FrameTimer{*this, 30};
+    Timer FrameTimer{*this, 40};
     Menu mnuMail{*this, {}};
     Menu mnuMailMe{mnuMail, L"Use &Quillomat's Mail program"};
     Menu mnuDefaultMail{mnuMail, L"Use &Default Mail Program"};
