@@ -13,7 +13,7 @@ constexpr Colour held_down{0x0000FF};
 // Room for the frame that shows the focus.
 constexpr int margin_pixels = 2;
 
-constexpr UINT text_format = DT_LEFT | DT_VCENTER | DT_SINGLELINE;
+constexpr UINT text_format = DT_LEFT | DT_SINGLELINE;
 
 }  // namespace
 
@@ -57,7 +57,7 @@ void Link::draw(const DRAWITEMSTRUCT& request) {
     InflateRect(&area, -margin_pixels, 0);
     const std::wstring text = caption();
     const UINT hidden_prefix = request.itemState & ODS_NOACCEL ? DT_HIDEPREFIX : 0;
-    DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area, text_format | hidden_prefix);
+    DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area, text_format | DT_VCENTER | hidden_prefix);
     if ((request.itemState & ODS_FOCUS) && !(request.itemState & ODS_NOFOCUSRECT)) {
         SetTextColor(canvas, resolve(colours::window_text));
         DrawFocusRect(canvas, &request.rcItem);

@@ -101,6 +101,18 @@ TEST_F(AboutTest, TheTitlePulsesBetweenTwentyAndTwoPoints) {
     EXPECT_EQ(ink(), smallest);
 }
 
+TEST_F(AboutTest, LinksHaveRoomForTheirTexts) {
+    for (const int dpi : {96, 120, 144, 192}) {
+        application.force_dpi(dpi);
+        open();
+        for (const Link* link : {&about->Label2, &about->lblDisclaimer}) {
+            const SIZE text = text_extent(application.fonts().get(link->font(), dpi), link->caption().substr(1));
+            EXPECT_GT(pixels(link->width()), text.cx) << dpi;
+            EXPECT_GT(pixels(link->height()), text.cy) << dpi;
+        }
+    }
+}
+
 TEST_F(AboutTest, ALinkIsRedWhileItIsPressed) {
     open();
     const HWND link = about->Label2.window();
