@@ -29,10 +29,10 @@ enum class PointerShape { Default, Hourglass };
 /// How a form looks before its handlers have run. Sizes are outer sizes in twips.
 struct FormDesign {
     /// Also the name of its window class, by which automation finds it.
-    const wchar_t* name;
-    const wchar_t* caption;
-    double width;
-    double height;
+    const wchar_t* name = nullptr;
+    const wchar_t* caption = nullptr;
+    double width = 0;
+    double height = 0;
     FormBorder border = FormBorder::Sizable;
     /// What the user can make it no smaller than by its border, in twips.
     double minimum_width = 0;

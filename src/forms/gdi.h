@@ -44,7 +44,7 @@ class Selection {
 
 /// The colour as the system wants it, with system colours looked up in the user's theme.
 inline COLORREF resolve(Colour colour) {
-    return colour.value & 0x80000000u ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;
+    return colour.value & 0x80000000U ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;
 }
 
 /// Fills a rectangle of pixels without creating a brush.

@@ -25,9 +25,10 @@ Coverage coverage_of(int column, int width, double factor) {
     const double from = std::clamp(std::min(one_end, other_end), 0.0, static_cast<double>(width));
     const double to = std::clamp(std::max(one_end, other_end), 0.0, static_cast<double>(width));
     Coverage coverage;
-    coverage.first_column = static_cast<std::size_t>(from);
-    for (double left = std::floor(from); left < to; ++left) {
-        const double overlap = std::min(left + 1, to) - std::max(left, from);
+    const int first = static_cast<int>(from);
+    coverage.first_column = static_cast<std::size_t>(first);
+    for (int left = first; left < to; ++left) {
+        const double overlap = std::min(left + 1.0, to) - std::max<double>(left, from);
         const auto share = static_cast<std::uint32_t>(overlap * std::abs(factor) * whole);
         coverage.shares.push_back(share);
         coverage.background_share -= share;
