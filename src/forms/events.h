@@ -32,6 +32,8 @@ inline constexpr int enter = 13;
 inline constexpr int escape = 27;
 inline constexpr int up = 38;
 inline constexpr int down = 40;
+inline constexpr int f = 'F';
+inline constexpr int menu = 93;
 inline constexpr int f1 = 112;
 inline constexpr int f10 = 121;
 }  // namespace keys

@@ -139,6 +139,9 @@ void frmCtlView::Form_KeyDown(KeyEvent& event) {
     } else if (event.key == keys::f1) {
         event.handled = true;
         ask_for_help();
+    } else if (event.key == keys::f && event.modifiers.only_control()) {
+        event.handled = true;
+        raise(windows_.find);
     }
 }
 
@@ -160,6 +163,11 @@ void frmCtlView::List_DblClick() {
 
 void frmCtlView::List_KeyDown(ListBox& list, KeyEvent& event) {
     Form_KeyDown(event);
+    if (event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift)) {
+        event.handled = true;
+        pop_up_selected(list);
+        return;
+    }
     const bool upwards = event.key == keys::up;
     if (event.handled || (!upwards && event.key != keys::down)) return;
     const int count = list.count();
@@ -194,6 +202,13 @@ void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
     if (event.button != MouseButton::Right) return;
     list.select_text(list.item(list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()))));
     pop_up(menus.mnuSelected, &menus.mnuSelectedSave);
+}
+
+void frmCtlView::pop_up_selected(const ListBox& list) {
+    constexpr double inset = 300;
+    const bool in_panel = &list.container() == &Frame2;
+    pop_up(menus.mnuSelected, list.left() + (in_panel ? Frame2.left() : 0) + inset,
+           list.top() + (in_panel ? Frame2.top() : 0) + inset, &menus.mnuSelectedSave);
 }
 
 }  // namespace quillomat

@@ -94,6 +94,8 @@ class frmCtlView final : public Form {
     void List_KeyDown(ListBox& list, KeyEvent& event);
     void List_MouseMove(ListBox& list, const MouseEvent& event);
     void List_MouseDown(ListBox& list, const MouseEvent& event);
+    /// The menu of the right button, by keyboard.
+    void pop_up_selected(const ListBox& list);
     void Option1_Click();
     void Option2_Click();
     void Image1_MouseMove(const MouseEvent& event);

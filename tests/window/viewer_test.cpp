@@ -179,6 +179,14 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     expect_selected(1);
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
 
+    int finds = 0;
+    windows.find = [&] { ++finds; };
+    press_key('F', {VK_CONTROL});
+    EXPECT_TRUE(pump_until([&] { return finds == 1; }));
+    press_key(VK_F10, {VK_SHIFT});
+    press_key('F');
+    EXPECT_TRUE(pump_until([&] { return finds == 2; })) << "the menu of the right button comes up by keyboard too";
+
     std::wstring asked;
     windows.mail_author = [&](const std::wstring& text) { asked = text; };
     expect_message(L"Help!",
