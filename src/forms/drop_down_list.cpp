@@ -16,7 +16,7 @@ DropDownList::DropDownList(Container& container, Bounds bounds)
               CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP | WS_GROUP) {
     set_default_back_colour(colours::window);
     fit_field();
-    apply_bounds();
+    DropDownList::apply_bounds();
 }
 
 int DropDownList::count() const {

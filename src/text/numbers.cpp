@@ -19,7 +19,7 @@ std::wstring_view without_surrounding_blanks(std::wstring_view text) {
 
 /// Takes as many characters off the front of a text as are digits.
 std::wstring_view take_digits(std::wstring_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), is_digit);
+    const auto* const end = std::find_if_not(text.begin(), text.end(), is_digit);
     const std::wstring_view digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
     text.remove_prefix(digits.size());
     return digits;
