@@ -70,7 +70,7 @@ void frmCtlView::restore_size() {
 void frmCtlView::build_alphabet_bar() {
     for (int n = 1; n <= 26; ++n) {
         const Label& last = Label1.back();
-        const wchar_t letter = static_cast<wchar_t>(session_.viewer.next_letter);
+        const auto letter = static_cast<wchar_t>(session_.viewer.next_letter);
         Label1.emplace_back(*this, std::wstring(1, letter),
                             Bounds{last.left() + last.width(), last.top(), last.width(), last.height()});
         session_.viewer.next_letter = checked_add_16(session_.viewer.next_letter, 1);
