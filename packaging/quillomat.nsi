@@ -50,6 +50,7 @@ Var finish_text
 
 !define MUI_ICON "..\assets\icons\app.ico"
 !define MUI_UNICON "..\assets\icons\app.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "..\assets\installer.bmp"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_TEXT "$finish_text"
 !define MUI_FINISHPAGE_RUN "${PROGRAM}"
@@ -62,6 +63,11 @@ Var finish_text
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
 
+!define MUI_PAGE_HEADER_TEXT "Uninstall ${NAME}"
+!define MUI_PAGE_HEADER_SUBTEXT "Remove ${NAME} from this computer."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "A database with games of your own stays. Choose what else goes, and click Uninstall."
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To be removed:"
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW un.hide_space
 !insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
 
@@ -200,6 +206,11 @@ SectionEnd
 
 ; --- uninstalling --------------------------------------------------------------------------------------------------------
 
+; What is removed needs no space.
+Function un.hide_space
+  ShowWindow $mui.ComponentsPage.SpaceRequired ${SW_HIDE}
+FunctionEnd
+
 Section "un.${NAME}"
   SectionIn RO
   Call un.wait_until_closed
@@ -231,6 +242,6 @@ Section "un.${NAME}"
   ${EndIf}
 SectionEnd
 
-Section /o "un.What ${NAME} remembers"
+Section /o "un.Settings (last game, window sizes, ...)"
   DeleteRegKey HKCU "${SETTINGS}"
 SectionEnd
