@@ -4,7 +4,7 @@
 ;   OUTPUT                     the installer to write
 ;
 ; Besides its windows there is the silent way: /S, and as the last argument /D=FOLDER without quotes. It ends with 0, or
-; with 2 when it gave up before it changed anything.
+; with 2 when it gave up, which it does before it changes anything when the program is running.
 
 Unicode true
 Target amd64-unicode
@@ -91,14 +91,15 @@ Function ${PREFIX}wait_until_closed
     ${EndIf}
     MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
       "${NAME} is running, or its file may not be changed.$\n$\nPlease close ${NAME} and choose Retry." \
-      /SD IDCANCEL IDRETRY +3
+      /SD IDCANCEL IDRETRY retry
     SetErrorLevel 2
     Abort "${NAME} is running. Nothing was changed."
+    retry:
   ${Loop}
 FunctionEnd
 
 ; Takes a path from the stack and leaves the SHA-256 of the file there, or nothing when that cannot be had. What has no
-; hash counts as the player's own.
+; hash counts as the player's own. Uses $0 to $7.
 Function ${PREFIX}hash_of_file
   Pop $0
   StrCpy $5 ""
