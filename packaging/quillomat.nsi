@@ -25,6 +25,8 @@ AllowSkipFiles off
 ; Here Windows finds what it lists under "Apps & features".
 !define REGISTERED "Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillomat"
 !define SETTINGS "Software\Quillomat"
+; In bytes, many times any database that is handed out.
+!define LARGEST_HASHED 67108864
 
 Name "${NAME}"
 OutFile "${OUTPUT}"
@@ -109,24 +111,26 @@ Function ${PREFIX}hash_of_file
     Push ""
     Return
   ${EndIf}
-  FileSeek $1 0 END $2
-  FileSeek $1 0 SET
-  System::Alloc $2
-  Pop $3
-  System::Alloc 32
-  Pop $4
-  System::Call "kernel32::ReadFile(p r1, p r3, i r2, *i .r6, p 0) i .r7"
-  FileClose $1
+  System::Call "kernel32::GetFileSizeEx(p r1, *l .r2) i .r7"
   ${If} $7 <> 0
-  ${AndIf} $6 = $2
-    ; The handle is the system's own name for SHA-256.
-    System::Call "bcrypt::BCryptHash(p 0x41, p 0, i 0, p r3, i r2, p r4, i 32) i .r7"
-    ${If} $7 = 0
-      System::Call "crypt32::CryptBinaryToStringW(p r4, i 32, i 0x4000000C, w .r5, *i 65)"
+  ${AndIf} $2 L<= ${LARGEST_HASHED}
+    System::Alloc $2
+    Pop $3
+    System::Alloc 32
+    Pop $4
+    System::Call "kernel32::ReadFile(p r1, p r3, i r2, *i .r6, p 0) i .r7"
+    ${If} $7 <> 0
+    ${AndIf} $6 = $2
+      ; The handle is the system's own name for SHA-256.
+      System::Call "bcrypt::BCryptHash(p 0x41, p 0, i 0, p r3, i r2, p r4, i 32) i .r7"
+      ${If} $7 = 0
+        System::Call "crypt32::CryptBinaryToStringW(p r4, i 32, i 0x4000000C, w .r5, *i 65)"
+      ${EndIf}
     ${EndIf}
+    System::Free $3
+    System::Free $4
   ${EndIf}
-  System::Free $3
-  System::Free $4
+  FileClose $1
   Push $5
 FunctionEnd
 

@@ -254,13 +254,13 @@ TEST_F(Package, ReplacesADatabaseThatIsAsInstalledAgain) {
     EXPECT_EQ(names_in(folder), installed_files);
 }
 
-TEST_F(Package, KeepsADatabaseThatCannotBeLookedInto) {
-    constexpr auto more_than_memory_holds = std::uintmax_t{3} << 30;
+TEST_F(Package, KeepsADatabaseTooLargeToLookInto) {
+    constexpr auto too_large = std::uintmax_t{5} << 30;
     fs::create_directories(folder);
     append(database(), added_game);
-    fs::resize_file(database(), more_than_memory_holds);
+    fs::resize_file(database(), too_large);
     EXPECT_EQ(install(L"now"), 0U);
-    EXPECT_EQ(fs::file_size(database()), more_than_memory_holds);
+    EXPECT_EQ(fs::file_size(database()), too_large);
     EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), shipped_database());
 }
 
