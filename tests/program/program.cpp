@@ -58,13 +58,15 @@ constexpr wchar_t message_box_class[] = L"#32770";
 
 std::filesystem::path Program::executable;
 
-Program::Program() {
+Program::Program() : owns_folder_(true) {
     static int count = 0;
     folder_ = std::filesystem::temp_directory_path() /
               (L"quillomat-program-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count));
     std::filesystem::create_directories(folder_);
     std::filesystem::copy_file(executable, folder_ / L"Quillomat.exe");
 }
+
+Program::Program(std::filesystem::path folder) : folder_(std::move(folder)), owns_folder_(false) {}
 
 Program::~Program() {
     if (process_.hProcess) {
@@ -73,6 +75,7 @@ Program::~Program() {
         CloseHandle(process_.hThread);
         CloseHandle(process_.hProcess);
     }
+    if (!owns_folder_) return;
     std::error_code ignored;
     std::filesystem::remove_all(folder_, ignored);
 }

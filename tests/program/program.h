@@ -10,13 +10,16 @@
 
 namespace quillomat {
 
-/// The program in a folder of its own, looked at and driven from outside. Whatever a test leaves running is ended.
+/// The program, in a folder of its own or where it lies, looked at and driven from outside. Whatever a test leaves
+/// running is ended.
 class Program {
   public:
     /// The executable that is copied into the folder before each start.
     static std::filesystem::path executable;
 
     Program();
+    /// The program as it lies in a folder, which stays as it is.
+    explicit Program(std::filesystem::path folder);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -50,6 +53,7 @@ class Program {
 
   private:
     std::filesystem::path folder_;
+    bool owns_folder_;
     PROCESS_INFORMATION process_{};
 };
 

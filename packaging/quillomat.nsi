@@ -1,0 +1,252 @@
+; The installer: for the user alone, without an administrator. Made by scripts/pack, which defines
+;   VERSION, AUTHOR, WEB_SITE  as they are in the program
+;   APP                        the folder with the files that are handed out
+;   OUTPUT                     the installer to write
+;
+; Besides its windows there is the silent way: /S, and as the last argument /D=FOLDER without quotes. It ends with 0, or
+; with 2 when it gave up, which it does before it changes anything when the program is running.
+
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+; A file that cannot be written ends the installation; half of one is no use.
+AllowSkipFiles off
+
+!include LogicLib.nsh
+!include MUI2.nsh
+
+!define NAME "Quillomat"
+!define PROGRAM "$INSTDIR\Quillomat.exe"
+!define DATABASE "$INSTDIR\Cheats.dat"
+; What the installer brings, until it is the database; beside a database of the player's own it stays.
+!define NEW_DATABASE "$INSTDIR\Cheats.new.dat"
+!define SHORTCUT "$SMPROGRAMS\Quillomat.lnk"
+!define UNINSTALLER "$INSTDIR\Uninstall.exe"
+; Here Windows finds what it lists under "Apps & features".
+!define REGISTERED "Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillomat"
+!define SETTINGS "Software\Quillomat"
+; In bytes, many times any database that is handed out.
+!define LARGEST_HASHED 67108864
+
+Name "${NAME}"
+OutFile "${OUTPUT}"
+RequestExecutionLevel user
+; The program writes beside itself, so it lives where its user may write.
+InstallDir "$LOCALAPPDATA\Programs\Quillomat"
+InstallDirRegKey HKCU "${REGISTERED}" "InstallLocation"
+BrandingText "${NAME} ${VERSION}"
+ManifestDPIAware true
+ManifestSupportedOS Win10
+
+VIProductVersion "${VERSION}.0.0"
+VIAddVersionKey "ProductName" "${NAME}"
+VIAddVersionKey "ProductVersion" "${VERSION}"
+VIAddVersionKey "FileDescription" "${NAME} Setup"
+VIAddVersionKey "FileVersion" "${VERSION}"
+VIAddVersionKey "CompanyName" "${AUTHOR}"
+VIAddVersionKey "LegalCopyright" "Copyright ${AUTHOR}"
+
+Var finish_text
+
+; --- pages -----------------------------------------------------------------------------------------------------------
+
+!define MUI_ICON "..\assets\icons\app.ico"
+!define MUI_UNICON "..\assets\icons\app.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "..\assets\installer.bmp"
+!define MUI_ABORTWARNING
+!define MUI_FINISHPAGE_TEXT "$finish_text"
+!define MUI_FINISHPAGE_RUN "${PROGRAM}"
+!define MUI_FINISHPAGE_NOREBOOTSUPPORT
+!define MUI_COMPONENTSPAGE_NODESC
+
+; An update goes where the program is.
+!define MUI_PAGE_CUSTOMFUNCTION_PRE skip_when_installed
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+
+!define MUI_PAGE_HEADER_TEXT "Uninstall ${NAME}"
+!define MUI_PAGE_HEADER_SUBTEXT "Remove ${NAME} from this computer."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "A database with games of your own stays. Choose what else goes, and click Uninstall."
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To be removed:"
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW un.hide_space
+!insertmacro MUI_UNPAGE_COMPONENTS
+!insertmacro MUI_UNPAGE_INSTFILES
+
+!insertmacro MUI_LANGUAGE "English"
+
+; --- what both the installer and the uninstaller do --------------------------------------------------------------------
+
+!macro both PREFIX
+
+; Goes on once the program is not running: Windows lets nobody write to the file of a running program.
+Function ${PREFIX}wait_until_closed
+  ${Do}
+    ${IfNot} ${FileExists} "${PROGRAM}"
+      Return
+    ${EndIf}
+    ClearErrors
+    FileOpen $0 "${PROGRAM}" a
+    ${IfNot} ${Errors}
+      FileClose $0
+      Return
+    ${EndIf}
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
+      "${NAME} is running, or its file may not be changed.$\n$\nPlease close ${NAME} and choose Retry." \
+      /SD IDCANCEL IDRETRY retry
+    SetErrorLevel 2
+    Abort "${NAME} is running. Nothing was changed."
+    retry:
+  ${Loop}
+FunctionEnd
+
+; Takes a path from the stack and leaves the SHA-256 of the file there, or nothing when that cannot be had. What has no
+; hash counts as the player's own. Uses $0 to $7.
+Function ${PREFIX}hash_of_file
+  Pop $0
+  StrCpy $5 ""
+  ClearErrors
+  FileOpen $1 $0 r
+  ${If} ${Errors}
+    Push ""
+    Return
+  ${EndIf}
+  System::Call "kernel32::GetFileSizeEx(p r1, *l .r2) i .r7"
+  ${If} $7 <> 0
+  ${AndIf} $2 L<= ${LARGEST_HASHED}
+    System::Alloc $2
+    Pop $3
+    System::Alloc 32
+    Pop $4
+    System::Call "kernel32::ReadFile(p r1, p r3, i r2, *i .r6, p 0) i .r7"
+    ${If} $7 <> 0
+    ${AndIf} $6 = $2
+      ; The handle is the system's own name for SHA-256.
+      System::Call "bcrypt::BCryptHash(p 0x41, p 0, i 0, p r3, i r2, p r4, i 32) i .r7"
+      ${If} $7 = 0
+        System::Call "crypt32::CryptBinaryToStringW(p r4, i 32, i 0x4000000C, w .r5, *i 65)"
+      ${EndIf}
+    ${EndIf}
+    System::Free $3
+    System::Free $4
+  ${EndIf}
+  FileClose $1
+  Push $5
+FunctionEnd
+
+!macroend
+
+!insertmacro both ""
+!insertmacro both "un."
+
+; --- installing ----------------------------------------------------------------------------------------------------------
+
+Function skip_when_installed
+  ${If} ${FileExists} "${PROGRAM}"
+    Abort
+  ${EndIf}
+FunctionEnd
+
+; A database that is still the one that was installed gives way to the new one. In any other the player has put work: it
+; stays as it is, and the new one stays beside it when there is something new in it.
+Function install_database
+  File "/oname=${NEW_DATABASE}" "${APP}/Cheats.dat"
+  Push "${NEW_DATABASE}"
+  Call hash_of_file
+  Pop $R0
+  Push "${DATABASE}"
+  Call hash_of_file
+  Pop $R1
+  ReadRegStr $R2 HKCU "${REGISTERED}" "DatabaseHash"
+
+  ${If} ${FileExists} "${DATABASE}"
+    ${If} $R1 == ""
+      Goto keep
+    ${EndIf}
+    ${If} $R1 != $R2
+    ${AndIf} $R1 != $R0
+      Goto keep
+    ${EndIf}
+  ${EndIf}
+  ; At once, whatever happens meanwhile; 9 is MOVEFILE_REPLACE_EXISTING and MOVEFILE_WRITE_THROUGH.
+  System::Call 'kernel32::MoveFileExW(w "${NEW_DATABASE}", w "${DATABASE}", i 9) i .r0'
+  ${If} $0 <> 0
+    WriteRegStr HKCU "${REGISTERED}" "DatabaseHash" $R0
+    Return
+  ${EndIf}
+
+  keep:
+  StrCpy $finish_text "Your Cheats.dat was kept, because it is not the one that was installed."
+  ${If} $R0 == $R2
+    Delete "${NEW_DATABASE}"
+  ${Else}
+    StrCpy $finish_text "$finish_text The one of this version is beside it: Cheats.new.dat."
+  ${EndIf}
+  DetailPrint $finish_text
+FunctionEnd
+
+Section "${NAME}" section_program
+  StrCpy $finish_text "${NAME} is in the Start menu now."
+  Call wait_until_closed
+  SetOutPath $INSTDIR
+  File "${APP}/Quillomat.exe"
+  File "${APP}/readme.txt"
+  Call install_database
+  WriteUninstaller "${UNINSTALLER}"
+  CreateShortcut "${SHORTCUT}" "${PROGRAM}"
+
+  WriteRegStr HKCU "${REGISTERED}" "DisplayName" "${NAME}"
+  WriteRegStr HKCU "${REGISTERED}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${REGISTERED}" "Publisher" "${AUTHOR}"
+  WriteRegStr HKCU "${REGISTERED}" "URLInfoAbout" "http://${WEB_SITE}"
+  WriteRegStr HKCU "${REGISTERED}" "DisplayIcon" "${PROGRAM}"
+  WriteRegStr HKCU "${REGISTERED}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${REGISTERED}" "UninstallString" '"${UNINSTALLER}"'
+  WriteRegStr HKCU "${REGISTERED}" "QuietUninstallString" '"${UNINSTALLER}" /S'
+  SectionGetSize ${section_program} $0
+  WriteRegDWORD HKCU "${REGISTERED}" "EstimatedSize" $0
+  WriteRegDWORD HKCU "${REGISTERED}" "NoModify" 1
+  WriteRegDWORD HKCU "${REGISTERED}" "NoRepair" 1
+SectionEnd
+
+; --- uninstalling --------------------------------------------------------------------------------------------------------
+
+; What is removed needs no space.
+Function un.hide_space
+  ShowWindow $mui.ComponentsPage.SpaceRequired ${SW_HIDE}
+FunctionEnd
+
+Section "un.${NAME}"
+  SectionIn RO
+  Call un.wait_until_closed
+  Delete "${PROGRAM}"
+  Delete "$INSTDIR\readme.txt"
+  Delete "$INSTDIR\Fonts.dat"
+  Delete "${NEW_DATABASE}"
+
+  Push "${DATABASE}"
+  Call un.hash_of_file
+  Pop $R1
+  ReadRegStr $R2 HKCU "${REGISTERED}" "DatabaseHash"
+  ${If} $R1 != ""
+  ${AndIf} $R1 == $R2
+    Delete "${DATABASE}"
+  ${EndIf}
+  ${If} ${FileExists} "${DATABASE}"
+    MessageBox MB_OK|MB_ICONINFORMATION "Your own Cheats.dat stays in$\n$\n$INSTDIR" /SD IDOK
+  ${EndIf}
+
+  Delete "${UNINSTALLER}"
+  SetOutPath $TEMP ; a folder somebody stands in cannot go
+  RMDir $INSTDIR
+  ; Another copy may have been installed elsewhere since; what leads to that one stays.
+  ReadRegStr $0 HKCU "${REGISTERED}" "InstallLocation"
+  ${IfNot} ${FileExists} "$0\Quillomat.exe"
+    Delete "${SHORTCUT}"
+    DeleteRegKey HKCU "${REGISTERED}"
+  ${EndIf}
+SectionEnd
+
+Section /o "un.Settings (last game, window sizes, ...)"
+  DeleteRegKey HKCU "${SETTINGS}"
+SectionEnd

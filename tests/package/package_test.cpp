@@ -1,0 +1,335 @@
+// The installer and the zip as a player has them: installed, used, updated and removed, and no game is ever lost.
+
+#include <gtest/gtest.h>
+#include <objbase.h>
+#include <shlobj.h>
+
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <stdexcept>
+
+#include "program/program.h"
+#include "text/product.h"
+
+namespace quillomat {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr wchar_t registered_key[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Quillomat";
+constexpr wchar_t settings_key[] = L"Software\\Quillomat\\Settings";
+constexpr char added_game[] = "my own cheat\r\n$$$$$$$$$$$$$$$$$$$$ My own game\r\n";
+
+/// Holds what is handed out in app/, and the packages of it and of a later release in now/ and newer/.
+fs::path packages;
+
+std::string bytes_of(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void append(const fs::path& path, std::string_view bytes) {
+    std::ofstream(path, std::ios::binary | std::ios::app)
+        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+std::set<std::wstring> names_in(const fs::path& folder) {
+    std::set<std::wstring> names;
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(folder, missing)) names.insert(entry.path().filename().wstring());
+    return names;
+}
+
+fs::path known_folder(const KNOWNFOLDERID& id) {
+    wchar_t* path = nullptr;
+    SHGetKnownFolderPath(id, KF_FLAG_CREATE, nullptr, &path);
+    const fs::path folder = path ? path : L"";
+    CoTaskMemFree(path);
+    return folder;
+}
+
+/// Empty when there is no such value.
+std::wstring user_text(const wchar_t* key, const wchar_t* name) {
+    wchar_t text[1024]{};
+    DWORD size = sizeof text;
+    if (RegGetValueW(HKEY_CURRENT_USER, key, name, RRF_RT_REG_SZ, nullptr, text, &size) != ERROR_SUCCESS) return {};
+    return text;
+}
+
+DWORD user_number(const wchar_t* key, const wchar_t* name) {
+    DWORD number = 0;
+    DWORD size = sizeof number;
+    RegGetValueW(HKEY_CURRENT_USER, key, name, RRF_RT_REG_DWORD, nullptr, &number, &size);
+    return number;
+}
+
+bool user_key_exists(const wchar_t* key) {
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, key, 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
+    RegCloseKey(opened);
+    return true;
+}
+
+/// Runs a command line to its end and returns the exit code.
+DWORD run(std::wstring command) {
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+        throw std::runtime_error("a program cannot be started");
+    WaitForSingleObject(process.hProcess, 60'000);
+    DWORD code = 0;
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
+fs::path installer(const wchar_t* release) {
+    for (const auto& entry : fs::directory_iterator(packages / release))
+        if (entry.path().extension() == L".exe") return entry.path();
+    throw std::runtime_error("there is no installer");
+}
+
+DWORD install(const wchar_t* release, const std::wstring& options = {}) {
+    return run(L"\"" + installer(release).wstring() + L"\" /S" + options);
+}
+
+/// Uninstalls what is registered, as "Apps & features" does. The uninstaller goes on by itself as a copy, because its
+/// own file has to go too; what is registered is the last to go.
+bool uninstall() {
+    run(user_text(registered_key, L"QuietUninstallString"));
+    return Program::wait_until([] { return !user_key_exists(registered_key); });
+}
+
+std::string shipped_database() {
+    return bytes_of(packages / L"app" / L"Cheats.dat");
+}
+
+std::string newer_database() {
+    return bytes_of(packages / L"app-newer" / L"Cheats.dat");
+}
+
+const std::set<std::wstring> installed_files{L"Cheats.dat", L"Quillomat.exe", L"Uninstall.exe", L"readme.txt"};
+
+class Package : public testing::Test {
+  protected:
+    Package() { clean_up(); }
+    ~Package() override { clean_up(); }
+
+    fs::path file(const wchar_t* name) const { return folder / name; }
+    fs::path database() const { return file(L"Cheats.dat"); }
+
+    const fs::path folder = known_folder(FOLDERID_LocalAppData) / L"Programs" / L"Quillomat";
+    const fs::path other_folder = fs::temp_directory_path() / L"Quillomat of a player";
+    const fs::path shortcut = known_folder(FOLDERID_Programs) / L"Quillomat.lnk";
+
+  private:
+    void clean_up() const {
+        std::error_code ignored;
+        fs::remove_all(folder, ignored);
+        fs::remove_all(other_folder, ignored);
+        fs::remove(shortcut, ignored);
+        RegDeleteTreeW(HKEY_CURRENT_USER, registered_key);
+    }
+};
+
+fs::path target_of(const fs::path& shortcut) {
+    wchar_t target[MAX_PATH]{};
+    IShellLinkW* link = nullptr;
+    IPersistFile* link_file = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                reinterpret_cast<void**>(&link))))
+        return {};
+    if (SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&link_file)))) {
+        if (SUCCEEDED(link_file->Load(shortcut.c_str(), STGM_READ))) link->GetPath(target, MAX_PATH, nullptr, 0);
+        link_file->Release();
+    }
+    link->Release();
+    return target;
+}
+
+/// A text of a file's version resource.
+std::wstring version_text(const fs::path& path, const std::wstring& name) {
+    DWORD ignored = 0;
+    std::vector<std::byte> resource(GetFileVersionInfoSizeW(path.c_str(), &ignored));
+    if (!GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(resource.size()), resource.data())) return {};
+    wchar_t* text = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueW(resource.data(), (L"\\StringFileInfo\\040904B0\\" + name).c_str(),
+                        reinterpret_cast<void**>(&text), &length))
+        return {};
+    return text;
+}
+
+TEST_F(Package, TellsWhatItIs) {
+    for (const fs::path& path : {packages / L"app" / L"Quillomat.exe", installer(L"now")}) {
+        SCOPED_TRACE(path.string());
+        EXPECT_EQ(version_text(path, L"ProductName"), product::title);
+        EXPECT_EQ(version_text(path, L"ProductVersion"), product::version);
+        EXPECT_EQ(version_text(path, L"CompanyName"), product::author);
+        EXPECT_EQ(version_text(path, L"LegalCopyright"), std::wstring(L"Copyright ") + product::author);
+        EXPECT_NE(version_text(path, L"FileDescription"), L"");
+        EXPECT_GE(ExtractIconExW(path.c_str(), -1, nullptr, nullptr, 0), 1U);
+        const HMODULE program = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+        EXPECT_TRUE(FindResourceW(program, CREATEPROCESS_MANIFEST_RESOURCE_ID, RT_MANIFEST));
+        FreeLibrary(program);
+    }
+}
+
+TEST_F(Package, IsInstalledForTheUser) {
+    ASSERT_EQ(install(L"now"), 0U);
+    EXPECT_EQ(names_in(folder), installed_files);
+    EXPECT_EQ(bytes_of(database()), shipped_database());
+    EXPECT_EQ(target_of(shortcut), file(L"Quillomat.exe"));
+
+    EXPECT_EQ(user_text(registered_key, L"DisplayName"), product::title);
+    EXPECT_EQ(user_text(registered_key, L"DisplayVersion"), product::version);
+    EXPECT_EQ(user_text(registered_key, L"Publisher"), product::author);
+    EXPECT_EQ(user_text(registered_key, L"DisplayIcon"), file(L"Quillomat.exe").wstring());
+    EXPECT_EQ(user_text(registered_key, L"InstallLocation"), folder.wstring());
+    EXPECT_EQ(user_text(registered_key, L"UninstallString"), L"\"" + file(L"Uninstall.exe").wstring() + L"\"");
+    const auto kilobytes = fs::file_size(file(L"Quillomat.exe")) / 1024;
+    EXPECT_GE(user_number(registered_key, L"EstimatedSize"), kilobytes);
+    EXPECT_LE(user_number(registered_key, L"EstimatedSize"), 2 * kilobytes);
+
+    Program program(folder);
+    program.start();
+    EXPECT_TRUE(Program::wait_until([&] { return program.find(L"frmSplash") != nullptr; }));
+}
+
+TEST_F(Package, GoesWithoutATraceWhenNothingWasChanged) {
+    constexpr wchar_t kept[] = L"kept";
+    RegSetKeyValueW(HKEY_CURRENT_USER, settings_key, L"PackageTest", REG_SZ, kept, sizeof kept);
+    ASSERT_EQ(install(L"now"), 0U);
+    append(file(L"Fonts.dat"), "Arial\r\n");
+    ASSERT_EQ(install(L"newer"), 0U);
+    EXPECT_EQ(bytes_of(database()), newer_database());
+    EXPECT_FALSE(fs::exists(file(L"Cheats.new.dat")));
+
+    ASSERT_TRUE(uninstall());
+    EXPECT_FALSE(fs::exists(folder));
+    EXPECT_FALSE(fs::exists(shortcut));
+    EXPECT_EQ(user_text(settings_key, L"PackageTest"), kept);
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, settings_key, L"PackageTest");
+}
+
+TEST_F(Package, KeepsTheGamesOfThePlayer) {
+    ASSERT_EQ(install(L"now"), 0U);
+    append(database(), added_game);
+    const std::string own = bytes_of(database());
+
+    ASSERT_EQ(install(L"now"), 0U);
+    EXPECT_EQ(bytes_of(database()), own);
+    EXPECT_EQ(names_in(folder), installed_files) << "there is nothing new to lay beside it";
+
+    ASSERT_EQ(install(L"newer"), 0U);
+    EXPECT_EQ(bytes_of(database()), own);
+    EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), newer_database());
+    {
+        Program program(folder);
+        program.start();
+        ASSERT_TRUE(program.reach_viewer());
+        EXPECT_EQ(games_of(program.viewer()).back(), L"My own game");
+        program.close();
+        EXPECT_EQ(program.exit_code(), 0U);
+    }
+
+    ASSERT_TRUE(uninstall());
+    EXPECT_EQ(names_in(folder), std::set<std::wstring>{L"Cheats.dat"});
+    EXPECT_EQ(bytes_of(database()), own);
+
+    ASSERT_EQ(install(L"newer"), 0U);
+    EXPECT_EQ(bytes_of(database()), own) << "nothing tells any more what was installed, and still it is the player's";
+}
+
+TEST_F(Package, ReplacesADatabaseThatIsAsInstalledAgain) {
+    ASSERT_EQ(install(L"now"), 0U);
+    append(database(), added_game);
+    ASSERT_EQ(install(L"newer"), 0U);
+    fs::resize_file(database(), shipped_database().size());
+    ASSERT_EQ(install(L"newer"), 0U);
+    EXPECT_EQ(bytes_of(database()), newer_database());
+    EXPECT_EQ(names_in(folder), installed_files);
+}
+
+TEST_F(Package, KeepsADatabaseTooLargeToLookInto) {
+    constexpr auto too_large = std::uintmax_t{5} << 30;
+    fs::create_directories(folder);
+    append(database(), added_game);
+    fs::resize_file(database(), too_large);
+    EXPECT_EQ(install(L"now"), 0U);
+    EXPECT_EQ(fs::file_size(database()), too_large);
+    EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), shipped_database());
+}
+
+TEST_F(Package, KeepsAnEmptyDatabase) {
+    ASSERT_EQ(install(L"now"), 0U);
+    fs::resize_file(database(), 0);
+    ASSERT_EQ(install(L"newer"), 0U);
+    EXPECT_EQ(fs::file_size(database()), 0U);
+    ASSERT_TRUE(uninstall());
+    EXPECT_EQ(names_in(folder), std::set<std::wstring>{L"Cheats.dat"});
+}
+
+TEST_F(Package, ChangesNothingWhileTheProgramRuns) {
+    ASSERT_EQ(install(L"now"), 0U);
+    Program program(folder);
+    program.start();
+    ASSERT_TRUE(Program::wait_until([&] { return program.find(L"frmSplash") != nullptr; }));
+
+    constexpr DWORD gave_up = 2;
+    EXPECT_EQ(install(L"newer"), gave_up);
+    // Told where it is, the uninstaller goes on in its own process.
+    EXPECT_EQ(run(L"\"" + file(L"Uninstall.exe").wstring() + L"\" /S _?=" + folder.wstring()), gave_up);
+    EXPECT_EQ(names_in(folder), installed_files);
+    EXPECT_EQ(bytes_of(database()), shipped_database());
+    EXPECT_TRUE(user_key_exists(registered_key));
+    EXPECT_TRUE(program.running());
+}
+
+TEST_F(Package, GoesWhereItIsTold) {
+    ASSERT_EQ(install(L"now"), 0U);
+    fs::create_directories(other_folder);
+    append(other_folder / L"Cheats.dat", added_game);
+    ASSERT_EQ(install(L"now", L" /D=" + other_folder.wstring()), 0U);
+    EXPECT_EQ(bytes_of(other_folder / L"Cheats.dat"), added_game) << "a copy from the zip was there before";
+    EXPECT_EQ(target_of(shortcut), other_folder / L"Quillomat.exe");
+
+    run(L"\"" + file(L"Uninstall.exe").wstring() + L"\" /S");
+    EXPECT_TRUE(Program::wait_until([&] { return !fs::exists(folder); }));
+    EXPECT_EQ(user_text(registered_key, L"InstallLocation"), other_folder.wstring()) << "this one is still installed";
+    EXPECT_TRUE(fs::exists(shortcut));
+
+    ASSERT_TRUE(uninstall());
+    EXPECT_FALSE(fs::exists(shortcut));
+    EXPECT_EQ(names_in(other_folder), std::set<std::wstring>{L"Cheats.dat"});
+}
+
+TEST(Zip, RunsWhereItIsUnpacked) {
+    Program program(packages / L"any f\u00F6lder" / L"Quillomat");
+    EXPECT_EQ(bytes_of(program.database()), shipped_database());
+    program.start();
+    ASSERT_TRUE(program.reach_viewer());
+    EXPECT_EQ(program.message(), L"");
+    EXPECT_FALSE(games_of(program.viewer()).empty());
+    program.close();
+    EXPECT_EQ(program.exit_code(), 0U);
+}
+
+}  // namespace
+}  // namespace quillomat
+
+int wmain(int count, wchar_t** arguments) {
+    testing::InitGoogleTest(&count, arguments);
+    if (count != 2) {
+        std::fputs("usage: package_tests FOLDER\n", stderr);
+        return 2;
+    }
+    quillomat::packages = std::filesystem::absolute(arguments[1]);
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const int result = RUN_ALL_TESTS();
+    CoUninitialize();
+    return result;
+}
