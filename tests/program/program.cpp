@@ -69,12 +69,7 @@ Program::Program() : owns_folder_(true) {
 Program::Program(std::filesystem::path folder) : folder_(std::move(folder)), owns_folder_(false) {}
 
 Program::~Program() {
-    if (process_.hProcess) {
-        TerminateProcess(process_.hProcess, 1);
-        WaitForSingleObject(process_.hProcess, INFINITE);
-        CloseHandle(process_.hThread);
-        CloseHandle(process_.hProcess);
-    }
+    end();
     if (!owns_folder_) return;
     std::error_code ignored;
     std::filesystem::remove_all(folder_, ignored);
@@ -89,7 +84,17 @@ std::string Program::read_database() const {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+void Program::end() {
+    if (!process_.hProcess) return;
+    TerminateProcess(process_.hProcess, 1);
+    WaitForSingleObject(process_.hProcess, INFINITE);
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+    process_ = {};
+}
+
 void Program::start() {
+    end();
     std::wstring command = L"\"" + (folder_ / L"Quillomat.exe").wstring() + L"\"";
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;

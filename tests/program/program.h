@@ -29,8 +29,11 @@ class Program {
     void write_database(std::string_view bytes) const;
     std::string read_database() const;
 
-    /// Starts the program from another folder than its own.
+    /// Starts the program from another folder than its own; again, when it has ended.
     void start();
+    /// Ends it at once, if it is running.
+    void end();
+    const PROCESS_INFORMATION& process() const { return process_; }
     bool running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
     /// Waits for the end and returns the exit code; 259 when it does not come.
     DWORD exit_code() const;

@@ -1,5 +1,6 @@
 #include "object_counts.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -19,26 +20,23 @@ struct GdiEntry {
     std::uint64_t user_data;
 };
 
-// Where the process finds the table of GDI objects that it shares with the system.
-const GdiEntry* gdi_table() {
+// The table of GDI objects that a process shares with the system.
+std::vector<GdiEntry> gdi_table(HANDLE process) {
     using Query = decltype(NtQueryInformationProcess);
     const auto query = reinterpret_cast<Query*>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll"), "NtQueryInformationProcess")));
-    PROCESS_BASIC_INFORMATION process{};
-    query(GetCurrentProcess(), ProcessBasicInformation, &process, sizeof process, nullptr);
-    constexpr int table_offset = 0xF8;
-    return *reinterpret_cast<const GdiEntry* const*>(reinterpret_cast<const char*>(process.PebBaseAddress) +
-                                                     table_offset);
-}
-
-// Wine has a table for each process and leaves the number of the process out.
-int count_gdi_objects() {
-    constexpr int entries = 0x4000;
-    const auto own = static_cast<std::uint16_t>(GetCurrentProcessId());
-    const GdiEntry* const table = gdi_table();
-    int count = 0;
-    for (int i = 0; i < entries; ++i) count += table[i].type != 0 && (table[i].process == 0 || table[i].process == own);
-    return count;
+    PROCESS_BASIC_INFORMATION information{};
+    query(process, ProcessBasicInformation, &information, sizeof information, nullptr);
+    constexpr int place_of_table = 0xF8;
+    constexpr std::size_t entries = 0x4000;
+    const void* address = nullptr;
+    std::vector<GdiEntry> table(entries);
+    const auto* const block = reinterpret_cast<const char*>(information.PebBaseAddress);
+    if (!ReadProcessMemory(process, block + place_of_table, &address, sizeof address, nullptr) ||
+        !ReadProcessMemory(process, address, table.data(), table.size() * sizeof(GdiEntry), nullptr)) {
+        table.clear();
+    }
+    return table;
 }
 
 bool is_own_object(std::uintptr_t handle) {
@@ -65,12 +63,21 @@ int count_user_objects() {
 
 }  // namespace
 
+// Wine has a table for each process and leaves the number of the process out.
+int count_gdi_objects(void* process) {
+    const auto own = static_cast<std::uint16_t>(GetProcessId(process));
+    const std::vector<GdiEntry> table = gdi_table(process);
+    return static_cast<int>(std::ranges::count_if(table, [own](const GdiEntry& entry) {
+        return entry.type != 0 && (entry.process == 0 || entry.process == own);
+    }));
+}
+
 ObjectCounts count_objects() {
     const HANDLE process = GetCurrentProcess();
     const ObjectCounts counted{static_cast<int>(GetGuiResources(process, GR_GDIOBJECTS)),
                                static_cast<int>(GetGuiResources(process, GR_USEROBJECTS))};
     // Wine answers 0.
-    return counted.gdi ? counted : ObjectCounts{count_gdi_objects(), count_user_objects()};
+    return counted.gdi ? counted : ObjectCounts{count_gdi_objects(process), count_user_objects()};
 }
 
 std::size_t allocated_bytes() {

@@ -15,6 +15,10 @@ struct ObjectCounts {
 /// Counts them now. Takes some tenths of a second where the system does not count for itself.
 ObjectCounts count_objects();
 
+/// The brushes, fonts and so on of a process, which may be another one, where the system does not count for itself;
+/// `process` is a handle that allows reading its memory. 0 when it cannot be read.
+int count_gdi_objects(void* process);
+
 /// The bytes that the process has allocated and not freed.
 std::size_t allocated_bytes();
 

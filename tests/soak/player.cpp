@@ -1,0 +1,134 @@
+#include "soak/player.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+#include <vector>
+
+namespace quillomat::soak {
+namespace {
+
+/// Actions from one rest to the next.
+constexpr unsigned period = 500;
+
+constexpr std::wstring_view characters =
+    L"abcdefghijklmnopqrstuvwxyz etaoin shrdlu ETAOIN 0123456789 .,-:;!?'\"$%&()*/<>=@_~"
+    L"\u00E4\u00E9\u00DF\u20AC\u0151\u6F22\u0301";
+
+constexpr WORD plain_keys[] = {VK_TAB,  VK_TAB,  VK_TAB,    VK_RETURN, VK_RETURN, VK_SPACE, VK_UP,
+                               VK_DOWN, VK_DOWN, VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END,   VK_PRIOR,
+                               VK_NEXT, VK_BACK, VK_DELETE, VK_F1,     VK_F10,    VK_APPS};
+
+}  // namespace
+
+bool Player::chance(int percent) {
+    return number(1, 100) <= percent;
+}
+
+int Player::number(int first, int last) {
+    return std::uniform_int_distribution<int>(first, last)(random_);
+}
+
+template <class Values>
+auto Player::any(const Values& values) {
+    return values[static_cast<std::size_t>(number(0, static_cast<int>(std::size(values)) - 1))];
+}
+
+Action Player::next(const Scene& scene) {
+    ++count_;
+    std::seed_seq numbers{seed_, count_};
+    random_.seed(numbers);
+    if (count_ % period == 0) return {};
+    Action action = chance(60) || !scene.has_keyboard() ? with_mouse(scene) : with_key(scene);
+    // Mostly as fast as it goes, and sometimes long enough for what a timer does.
+    action.pause = chance(10) ? number(50, 400) : number(0, 40);
+    return action;
+}
+
+POINT Player::place_on(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return {number(place.left, std::max(place.left, place.right - 1)),
+            number(place.top, std::max(place.top, place.bottom - 1))};
+}
+
+bool Player::aim(const Scene& scene, POINT& place) {
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        HWND window = scene.topmost();
+        if (scene.menu() && chance(80)) {
+            window = scene.menu();
+        } else if (!window || chance(10)) {
+            if (scene.windows().empty()) return false;
+            window = any(scene.windows());
+        }
+        if (const std::vector<HWND> controls = controls_of(window); !controls.empty() && chance(65)) {
+            window = any(controls);
+        }
+        place = place_on(window);
+        if (scene.has(place)) return true;
+    }
+    return false;
+}
+
+Action Player::with_mouse(const Scene& scene) {
+    Action action{.kind = Action::Kind::Key, .value = VK_ESCAPE};
+    if (!aim(scene, action.at)) return action;
+    action.value = 0;
+    const int kind = number(1, 100);
+    if (kind <= 55) {
+        action.kind = Action::Kind::Click;
+    } else if (kind <= 65) {
+        action.kind = Action::Kind::DoubleClick;
+    } else if (kind <= 75) {
+        action.kind = Action::Kind::RightClick;
+    } else if (kind <= 82) {
+        action.kind = Action::Kind::Wheel;
+        action.value = number(-3, 3);
+    } else if (kind <= 87) {
+        action.kind = Action::Kind::Drag;
+        if (!aim(scene, action.to)) action.to = action.at;
+    } else {
+        action.kind = Action::Kind::Move;
+    }
+    return action;
+}
+
+Action Player::with_access_key() {
+    Action action{.kind = Action::Kind::Key, .modifiers = Action::Alt};
+    const int kind = number(1, 100);
+    if (kind <= 2) {
+        action.value = VK_F4;
+    } else if (kind <= 8) {
+        action.value = VK_SPACE;
+    } else if (kind <= 15) {
+        action.value = chance(50) ? VK_DOWN : VK_UP;
+    } else {
+        action.value = number('A', 'Z');
+    }
+    return action;
+}
+
+Action Player::with_key(const Scene& scene) {
+    const int kind = number(1, 100);
+    if (kind <= 25) return with_access_key();
+    Action action{.kind = Action::Kind::Key};
+    if (scene.menu() && chance(70)) {
+        constexpr WORD keys[] = {VK_DOWN, VK_DOWN, VK_UP, VK_LEFT, VK_RIGHT, VK_RETURN, VK_ESCAPE};
+        action.value = any(keys);
+    } else if (kind <= 60) {
+        action.kind = Action::Kind::Character;
+        action.value = any(characters);
+    } else if (kind <= 90) {
+        action.value = any(plain_keys);
+        if (chance(15)) action.modifiers = Action::Shift;
+    } else if (kind <= 93) {
+        action.value = VK_ESCAPE;
+    } else {
+        constexpr WORD keys[] = {'A', 'C', 'V', 'X', 'Z', 'Y', VK_HOME, VK_END, VK_LEFT, VK_RIGHT};
+        action.value = any(keys);
+        action.modifiers = Action::Control;
+    }
+    return action;
+}
+
+}  // namespace quillomat::soak

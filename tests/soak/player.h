@@ -1,0 +1,37 @@
+#pragma once
+
+#include <random>
+#include <string_view>
+
+#include "soak/action.h"
+#include "soak/scene.h"
+
+namespace quillomat::soak {
+
+/// Thinks out what to do next, by chance. With the same seed it does the same in the same scenes: every action draws
+/// its own numbers, so that one that turned out differently does not change those after it.
+class Player {
+  public:
+    explicit Player(unsigned seed) : seed_(seed) {}
+
+    Action next(const Scene& scene);
+
+  private:
+    bool chance(int percent);
+    int number(int first, int last);
+    template <class Values>
+    auto any(const Values& values);
+
+    /// A place of the screen where the program is hit; false when none was found.
+    bool aim(const Scene& scene, POINT& place);
+    POINT place_on(HWND window);
+    Action with_mouse(const Scene& scene);
+    Action with_key(const Scene& scene);
+    Action with_access_key();
+
+    unsigned seed_;
+    unsigned count_ = 0;
+    std::mt19937 random_;
+};
+
+}  // namespace quillomat::soak

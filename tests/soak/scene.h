@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "win/api.h"
+
+namespace quillomat::soak {
+
+bool has_class(HWND window, const wchar_t* name);
+/// The class of a window, for a log.
+std::string class_of(HWND window);
+
+/// What of a program is on the screen now.
+class Scene {
+  public:
+    explicit Scene(DWORD process);
+
+    /// Its visible windows without the tool tips, the topmost first.
+    const std::vector<HWND>& windows() const { return windows_; }
+    bool is_own(HWND window) const;
+    /// The open menu; null when there is none.
+    HWND menu() const;
+    /// The topmost window that takes input; null when there is none.
+    HWND topmost() const;
+    /// Whether the keys that are pressed now go to the program.
+    bool has_keyboard() const { return is_own(GetForegroundWindow()); }
+    /// Whether a click at a place of the screen goes to the program.
+    bool has(POINT place) const { return is_own(WindowFromPoint(place)); }
+
+  private:
+    DWORD process_;
+    std::vector<HWND> windows_;
+};
+
+/// The visible, enabled controls of a window that have none of these in them.
+std::vector<HWND> controls_of(HWND window);
+
+/// Closes what other programs show in front, like a mail program that was started by a link.
+void close_strangers(DWORD process);
+
+}  // namespace quillomat::soak

@@ -1,0 +1,267 @@
+#include "soak/soak.h"
+
+#include <cstdio>
+#include <limits>
+#include <sstream>
+
+#include "soak/outside_counts.h"
+
+namespace quillomat::soak {
+namespace {
+
+constexpr wchar_t message_box_class[] = L"#32770";
+constexpr wchar_t main_screen_class[] = L"frmMain";
+
+using Clock = std::chrono::steady_clock;
+
+/// Other than `Program::wait_until`: with a patience of its own.
+bool wait_for(std::chrono::milliseconds patience, const std::function<bool()>& condition) {
+    const Clock::time_point deadline = Clock::now() + patience;
+    while (!condition()) {
+        if (Clock::now() > deadline) return false;
+        Sleep(10);
+    }
+    return true;
+}
+
+/// The number of records that are a text, each whole; nothing when something else is in it.
+std::optional<std::size_t> whole_records(std::string_view text) {
+    constexpr std::string_view marker = "$$$$$$$$$$$$$$$$$$$$ ";
+    std::size_t records = 0;
+    bool complete = true;
+    while (!text.empty()) {
+        const std::size_t end = text.find("\r\n");
+        if (end == std::string_view::npos) return std::nullopt;
+        const std::string_view line = text.substr(0, end);
+        if (line.find_first_of("\r\n") != std::string_view::npos) return std::nullopt;
+        complete = line.starts_with(marker) && line.size() > marker.size();
+        records += complete ? 1 : 0;
+        text.remove_prefix(end + 2);
+    }
+    return complete ? std::optional(records) : std::nullopt;
+}
+
+std::string describe(const ObjectCounts& counts) {
+    return std::to_string(counts.gdi) + "/" + std::to_string(counts.user);
+}
+
+void press_button(HWND box) {
+    for (const int button : {IDCANCEL, IDNO, IDOK}) {
+        if (const HWND control = GetDlgItem(box, button)) {
+            PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(control));
+            return;
+        }
+    }
+}
+
+}  // namespace
+
+Soak::Soak(std::string database, const std::string& log) : original_(std::move(database)), log_(log) {
+    program_.write_database(original_);
+}
+
+int Soak::play(const Actions& actions) {
+    start_program();
+    while (faults_ < 20) {
+        const Scene scene(program_.process().dwProcessId);
+        const std::optional<Action> action = actions(scene);
+        if (!action) break;
+        note(*action, scene);
+        if (action->kind == Action::Kind::Rest) {
+            rest();
+        } else {
+            perform(*action);
+            Sleep(static_cast<DWORD>(action->pause));
+        }
+        look_after_program();
+    }
+    rest();
+    if (program_.running()) {
+        program_.close();
+        if (program_.exit_code() != 0) fault("closing the main screen did not end it in order");
+    }
+    check_database();
+    judge_growth();
+    print_summary();
+    return faults_;
+}
+
+void Soak::start_program() {
+    judge_growth();
+    at_rest_.clear();
+    ++starts_;
+    program_.start();
+    if (!wait_for_window()) fault("no window after its start");
+}
+
+bool Soak::wait_for_window() {
+    return Program::wait_until(
+        [this] { return !program_.running() || Scene(program_.process().dwProcessId).topmost(); });
+}
+
+void Soak::fault(const std::string& what) {
+    ++faults_;
+    const std::chrono::duration<double> time = Clock::now() - start_;
+    std::ostringstream line;
+    line << "FAULT after " << static_cast<int>(time.count()) << " s, action " << actions_ << ", start " << starts_
+         << ": " << what;
+    std::printf("%s\n", line.str().c_str());
+    std::fflush(stdout);
+    log_ << "# " << line.str() << std::endl;
+}
+
+void Soak::note(const Action& action, const Scene& scene) {
+    ++actions_;
+    const HWND front = scene.topmost();
+    const std::string name = front ? class_of(front) : "none";
+    ++seen_[name];
+    log_ << to_line(action) << " # " << actions_ << ' ' << name;
+    if (const HWND hit = WindowFromPoint(action.at); hit && action.at.x + action.at.y > 0) log_ << ' ' << class_of(hit);
+    // At once, for it may be the last one.
+    log_ << std::endl;
+}
+
+bool Soak::answers() {
+    const Scene scene(program_.process().dwProcessId);
+    if (scene.windows().empty()) return true;
+    constexpr UINT patience = 2000;
+    DWORD_PTR result = 0;
+    // The machine may be busy with something else: one miss is no fault.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const HWND window = scene.windows().front();
+        if (SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, patience, &result) || !IsWindow(window))
+            return true;
+        log_ << "# no answer for 2 s" << std::endl;
+    }
+    return !program_.running();
+}
+
+void Soak::look_after_program() {
+    if (!program_.running()) return restart();
+    if (!answers()) {
+        fault("hangs: no answer for 2 s, twice in a row");
+        program_.end();
+        return start_program();
+    }
+    const DWORD process = program_.process().dwProcessId;
+    if (!wait_for_window()) {
+        fault(Scene(process).windows().empty() ? "runs without a window" : "no window takes input any more");
+        program_.end();
+        return start_program();
+    }
+    const Scene scene(process);
+    if (scene.has_keyboard() || !scene.topmost()) return;
+    close_strangers(process);
+    if (IsIconic(scene.topmost())) ShowWindowAsync(scene.topmost(), SW_RESTORE);
+    SetForegroundWindow(scene.topmost());
+}
+
+void Soak::restart() {
+    if (const DWORD code = program_.exit_code(); code != 0) {
+        char text[64];
+        std::snprintf(text, sizeof text, "crashed: exit code 0x%lX", code);
+        fault(text);
+    }
+    check_database();
+    start_program();
+}
+
+void Soak::put_away(HWND window, const Scene& scene) {
+    if (const HWND menu = scene.menu()) {
+        PostMessageW(menu, WM_KEYDOWN, VK_ESCAPE, 0);
+        perform({.kind = Action::Kind::Key, .value = VK_ESCAPE});
+    } else if (has_class(window, L"frmSplash")) {
+        PostMessageW(window, WM_KEYDOWN, VK_SPACE, 0);
+    } else if (has_class(window, message_box_class)) {
+        press_button(window);
+    } else if (has_class(window, main_screen_class)) {
+        // In front of the others, or behind as an icon.
+        for (const HWND other : scene.windows()) {
+            if (other != window && IsWindowEnabled(other)) PostMessageW(other, WM_CLOSE, 0, 0);
+        }
+    } else {
+        PostMessageW(window, WM_CLOSE, 0, 0);
+    }
+}
+
+bool Soak::put_away_windows() {
+    constexpr std::chrono::seconds patience{60};
+    return wait_for(patience, [this] {
+        if (!program_.running()) return true;
+        const Scene scene(program_.process().dwProcessId);
+        const HWND window = scene.topmost();
+        if (!window) return false;
+        if (scene.windows().size() == 1 && has_class(window, main_screen_class) && !IsIconic(window)) return true;
+        if (has_class(window, main_screen_class) && IsIconic(window)) ShowWindowAsync(window, SW_RESTORE);
+        put_away(window, scene);
+        Sleep(50);
+        return false;
+    });
+}
+
+void Soak::rest() {
+    if (!put_away_windows()) {
+        std::string classes;
+        const Scene scene(program_.process().dwProcessId);
+        for (const HWND window : scene.windows()) classes.append(" ").append(class_of(window));
+        return fault("these windows do not go:" + classes);
+    }
+    if (!program_.running()) return;
+    close_strangers(program_.process().dwProcessId);
+    count_at_rest();
+    check_database();
+}
+
+void Soak::count_at_rest() {
+    // Away from everything that shows help.
+    perform({.kind = Action::Kind::Move, .at = {GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2}});
+    constexpr int most = std::numeric_limits<int>::max();
+    ObjectCounts fewest{most, most};
+    // Something may be in use just then.
+    for (int attempt = 0; attempt < 10; ++attempt) {
+        Sleep(50);
+        const ObjectCounts now = count_objects_of(program_.process().hProcess);
+        fewest = {std::min(fewest.gdi, now.gdi), std::min(fewest.user, now.user)};
+    }
+    at_rest_.push_back(fewest);
+    log_ << "# at rest: " << describe(fewest) << std::endl;
+}
+
+void Soak::judge_growth() {
+    // What is made once and kept, like the menu of a title bar, is there after the first rests.
+    constexpr std::size_t warm_up = 2;
+    constexpr int allowed = 10;
+    if (at_rest_.size() <= warm_up) return;
+    const ObjectCounts first = at_rest_[warm_up];
+    const ObjectCounts last = at_rest_.back();
+    if (last.gdi <= first.gdi + allowed && last.user <= first.user + allowed) return;
+    std::string rests;
+    for (const ObjectCounts& counts : at_rest_) rests.append(" ").append(describe(counts));
+    fault("keeps objects (GDI/USER at each rest):" + rests);
+}
+
+void Soak::check_database() {
+    const std::string now = program_.read_database();
+    if (!now.starts_with(original_)) {
+        fault("the database has lost or changed what was in it");
+    } else if (const auto added = whole_records(std::string_view(now).substr(original_.size()))) {
+        records_added_ = *added;
+        return;
+    } else {
+        fault("what was appended to the database is not whole");
+    }
+    std::ofstream("harmed.dat", std::ios::binary) << now;
+    program_.write_database(original_);
+}
+
+void Soak::print_summary() const {
+    const std::chrono::duration<double> time = Clock::now() - start_;
+    std::printf("%d actions in %.0f s, %d starts, %zu games added\n", actions_, time.count(), starts_, records_added_);
+    std::printf("actions by the window in front:");
+    for (const auto& [name, count] : seen_) std::printf(" %s %d", name.c_str(), count);
+    std::printf("\nobjects at rest since the last start (GDI/USER):");
+    for (const ObjectCounts& counts : at_rest_) std::printf(" %s", describe(counts).c_str());
+    std::printf("\n%d faults\n", faults_);
+}
+
+}  // namespace quillomat::soak
