@@ -1,6 +1,6 @@
 // Adds games through the window's own code until the catalogue is nearly full, reads the database as the next start
-// does, and prints how long an addition to it takes beside one to an empty database, the two taking turns:
-// add_games_bench [GAMES]
+// does, and prints how long an addition to it takes beside one to an empty database, the two taking turns, and beside
+// the first ones: add_games_bench [GAMES]
 
 #include <algorithm>
 #include <chrono>
@@ -12,6 +12,7 @@
 
 #include "common/session.h"
 #include "forms/application.h"
+#include "measure.h"
 #include "output/frmAddNew.h"
 #include "shell/viewer_link.h"
 #include "viewer/frmCtlView.h"
@@ -118,6 +119,8 @@ int main(int count, char** arguments) {
     const int step = std::max(games / 6, 1);
     std::vector<double> to_growing;
     std::vector<double> to_small;
+    double late = 0;
+    double early = 0;
     for (int number = 0; number < games; ++number) {
         to_growing.push_back(growing->milliseconds_to_add(number));
         if (number % 4 == 0) {
@@ -128,9 +131,13 @@ int main(int count, char** arguments) {
         std::printf("at %4d games: %6.1f ms an addition, %6.1f ms to an empty database, ratio %.2f\n", number + 1,
                     median(to_growing), median(to_small), median(to_growing) / median(to_small));
         std::fflush(stdout);
+        late = median(to_growing);
+        early = median(to_small);
         to_growing.clear();
         to_small.clear();
     }
+    bench::print(
+        {"addition to " + std::to_string(games) + " games", late, "ms", "to an empty database", early, 2 * early});
     const std::wstring path = growing->path();
     const bool readable = all_can_be_read(path, games);
     std::printf("%d games added, %llu bytes: %s\n", games,

@@ -63,6 +63,10 @@ class TemporaryFile {
     std::filesystem::path path_;
 };
 
+std::string megabytes(std::size_t bytes) {
+    return std::to_string(bytes / 1'000'000) + " MB";
+}
+
 void bench_loading(std::size_t bytes) {
     const TemporaryFile file(synthetic_database(Catalogue::slot_count, bytes));
     DecodedText decoded;
@@ -78,7 +82,8 @@ void bench_loading(std::size_t bytes) {
         return_freed_memory();
     };
     const std::vector<double> seconds = medians(rounds, {{read_and_decode, forget}, {load, forget}});
-    print_row("load " + std::to_string(bytes / 1'000'000) + " MB / read and decode", seconds[1], seconds[0], 1.3);
+    print({"load " + std::to_string(Catalogue::slot_count) + " games, " + megabytes(bytes), seconds[1] * 1e3, "ms",
+           "read, decode", seconds[0] * 1e3, 1.3 * seconds[0] * 1e3});
 }
 
 void upper_case(wchar_t* characters, std::size_t length) {
@@ -118,7 +123,8 @@ void bench_searching(std::size_t bytes) {
                                       checksum += std::memchr(all.data(), 0x7F, byte_count) != nullptr ? 1 : 0;
                                   }},
                              {.run = [&, keyword = keyword] { find(keyword); }}});
-        print_row("search " + std::to_string(bytes / 1'000'000) + " MB / memchr: " + what, seconds[1], seconds[0], 3);
+        print({"search " + megabytes(bytes) + ", " + what, seconds[1] * 1e3, "ms", "memchr", seconds[0] * 1e3,
+               3 * seconds[0] * 1e3});
     }
 }
 
@@ -128,7 +134,6 @@ void bench_searching(std::size_t bytes) {
 int main() {
     using namespace quillomat::bench;
     try {
-        print_heading();
         bench_loading(3'000'000);
         bench_loading(20'000'000);
         bench_searching(3'000'000);

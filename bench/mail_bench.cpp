@@ -11,8 +11,6 @@
 namespace quillomat::bench {
 namespace {
 
-constexpr double frame_milliseconds = 1000.0 / 60;
-
 /// Answers the message with which the window opens.
 void CALLBACK answer_message(HWND, UINT, UINT_PTR timer, DWORD) {
     if (const HWND box = FindWindowW(L"#32770", L"Message")) {
@@ -53,10 +51,9 @@ int run() {
                                               form.List1.on_click = nothing;
                                               click_first_item(form.List1);
                                           }}});
-    const double cost = (seconds[0] - seconds[1]) * 1e3;
-    std::printf("a click with %d games picked, median of %d: %.3f ms, with an empty handler %.3f ms\n",
-                form.List2.count(), static_cast<int>(rounds), seconds[0] * 1e3, seconds[1] * 1e3);
-    std::printf("the handler costs %.3f ms, %.0f %% of a frame at 60 Hz\n", cost, 100 * cost / frame_milliseconds);
+    const double empty_handler = seconds[1] * 1e3;
+    print({"click with " + std::to_string(form.List2.count()) + " games picked to mail", seconds[0] * 1e3, "ms",
+           "empty handler", empty_handler, empty_handler + milliseconds_of_a_frame});
     RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\QuillomatBench");
     return 0;
 }

@@ -38,13 +38,23 @@ inline std::vector<double> medians(std::size_t rounds, std::initializer_list<Sub
     return result;
 }
 
-inline void print_heading() {
-    std::printf("%-44s %12s %12s %8s %8s\n", "what", "median ms", "baseline ms", "ratio", "at most");
-}
+constexpr double milliseconds_of_a_frame = 1000.0 / 60;
 
-inline void print_row(const std::string& what, double seconds, double baseline_seconds, double at_most) {
-    std::printf("%-44s %12.3f %12.3f %8.2f %8.2f\n", what.c_str(), seconds * 1e3, baseline_seconds * 1e3,
-                seconds / baseline_seconds, at_most);
+/// One measured value beside what it is compared with, both in the same unit.
+struct Figure {
+    std::string name;
+    double value;
+    const char* unit;
+    std::string baseline_name;
+    double baseline;
+    double at_most;  ///< what the value must not exceed
+};
+
+/// Prints it as a line of fields with tabs between, which scripts/bench makes a table of.
+inline void print(const Figure& figure) {
+    std::printf("%s\t%.6g\t%s\t%s\t%.6g\t%.6g\n", figure.name.c_str(), figure.value, figure.unit,
+                figure.baseline_name.c_str(), figure.baseline, figure.at_most);
+    std::fflush(stdout);
 }
 
 }  // namespace quillomat::bench

@@ -1,12 +1,12 @@
-// From process start to a window that is painted and answers, in turns with an empty window; and what the program costs
-// while nobody does anything. On Debian: scripts/wine build/windows/bench/start_bench.exe
+// From process start to a window that is painted and answers, in turns with an empty window: start_bench FOLDER
+// FOLDER is where the database of the viewer lies.
 
-#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "measure.h"
 #include "win/api.h"
 
 namespace {
@@ -21,13 +21,12 @@ double seconds() {
 
 class Program {
   public:
-    Program(const std::wstring& path, const wchar_t* window_class) : started_(seconds()) {
-        std::wstring command = L"\"" + path + L"\"";
+    Program(std::wstring command, const wchar_t* window_class) : started_(seconds()) {
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
         if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                             &process_)) {
-            std::printf("cannot start %ls\n", path.c_str());
+            std::printf("cannot start %ls\n", command.c_str());
             std::exit(1);
         }
         do {
@@ -49,16 +48,6 @@ class Program {
     Program& operator=(const Program&) = delete;
 
     double milliseconds_to_window() const { return (shown_ - started_) * 1000; }
-    double processor_seconds() const {
-        FILETIME created{}, ended{}, kernel{}, user{};
-        GetProcessTimes(process_.hProcess, &created, &ended, &kernel, &user);
-        const auto value = [](FILETIME time) {
-            return static_cast<double>(
-                       (static_cast<unsigned long long>(time.dwHighDateTime) << 32 | time.dwLowDateTime)) /
-                   1e7;
-        };
-        return value(kernel) + value(user);
-    }
 
   private:
     PROCESS_INFORMATION process_{};
@@ -67,42 +56,54 @@ class Program {
     double shown_ = 0;
 };
 
+/// What the first window of a program is compared with an empty one.
+struct Start {
+    std::string name;
+    std::wstring command;
+    const wchar_t* window_class;
+    double at_most_times;
+    std::vector<double> milliseconds;
+};
+
 double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
+    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
     return values[values.size() / 2];
+}
+
+std::wstring quoted(const std::filesystem::path& path) {
+    return L"\"" + path.wstring() + L"\"";
 }
 
 }  // namespace
 
-// Arguments: another build of the program to measure beside this one, if wanted.
 int wmain(int count, wchar_t** arguments) {
+    if (count != 2) {
+        std::printf("usage: start_bench FOLDER\n");
+        return 2;
+    }
     wchar_t own_path[MAX_PATH]{};
     GetModuleFileNameW(nullptr, own_path, MAX_PATH);
     const std::filesystem::path folder = std::filesystem::path(own_path).parent_path();
-    const std::wstring empty_window = folder / L"empty_window.exe";
-    std::vector<std::wstring> programs{folder.parent_path() / L"src" / L"Quillomat.exe"};
-    programs.insert(programs.end(), arguments + 1, arguments + count);
-
-    constexpr int rounds = 15;
+    const std::wstring empty_window = quoted(folder / L"empty_window.exe");
+    Start starts[] = {
+        {"start to splash", quoted(folder.parent_path() / L"src" / L"Quillomat.exe"), L"frmSplash", 1.2, {}},
+        {"start to viewer with its games",
+         quoted(folder / L"open_window.exe") + L" viewer " + quoted(arguments[1]),
+         L"frmCtlView",
+         1.5,
+         {}},
+    };
+    constexpr int rounds = 21;
     std::vector<double> empty;
-    std::vector<std::vector<double>> measured(programs.size());
     for (int round = 0; round < rounds; ++round) {
         empty.push_back(Program(empty_window, L"EmptyWindow").milliseconds_to_window());
-        for (std::size_t i = 0; i < programs.size(); ++i) {
-            measured[i].push_back(Program(programs[i], L"frmSplash").milliseconds_to_window());
+        for (Start& start : starts) {
+            start.milliseconds.push_back(Program(start.command, start.window_class).milliseconds_to_window());
         }
     }
-    std::printf("start to window, median of %d\n  %7.1f ms             empty window\n", rounds, median(empty));
-    constexpr int idle_seconds = 10;
-    for (std::size_t i = 0; i < programs.size(); ++i) {
-        const double value = median(measured[i]);
-        std::printf("  %7.1f ms  %.2f times  %ls\n", value, value / median(empty), programs[i].c_str());
-        const Program program(programs[i], L"frmSplash");
-        Sleep(2000);
-        const double before = program.processor_seconds();
-        Sleep(idle_seconds * 1000);
-        std::printf("  %7.2f %% of one core for the splash\n",
-                    100 * (program.processor_seconds() - before) / idle_seconds);
+    for (const Start& start : starts) {
+        quillomat::bench::print({start.name, median(start.milliseconds), "ms", "empty window", median(empty),
+                                 start.at_most_times * median(empty)});
     }
     return 0;
 }

@@ -44,10 +44,9 @@ struct OpenViewer {
     frmCtlView viewer{application, session, windows};
 };
 
-void print_frame_row(const char* what, double seconds, double baseline) {
-    constexpr double frame = 1.0 / 60;
-    std::printf("%-44s %12.3f %12.3f %7.1f%% of a frame more\n", what, seconds * 1e3, baseline * 1e3,
-                (seconds - baseline) / frame * 100);
+/// A step of finding, which may take a frame longer than the search that is in it.
+void print_step(const std::string& name, double seconds, double baseline) {
+    print({name, seconds * 1e3, "ms", "wstring::find", baseline * 1e3, baseline * 1e3 + milliseconds_of_a_frame});
 }
 
 void bench_find(OpenViewer& open) {
@@ -64,11 +63,10 @@ void bench_find(OpenViewer& open) {
     };
     const std::vector<double> seconds =
         medians(rounds, {{find}, {step(true, 1)}, {step(true, 0)}, {step(false, 1)}, {step(false, 0)}});
-    std::printf("%-44s %12s %12s\n", "find step in 1 MB, nothing found", "median ms", "find ms");
-    print_frame_row("forwards, case matters", seconds[1], seconds[0]);
-    print_frame_row("forwards, case ignored", seconds[2], seconds[0]);
-    print_frame_row("backwards, case matters", seconds[3], seconds[0]);
-    print_frame_row("backwards, case ignored", seconds[4], seconds[0]);
+    print_step("find in 1 MB, forwards, case matters", seconds[1], seconds[0]);
+    print_step("find in 1 MB, forwards, case ignored", seconds[2], seconds[0]);
+    print_step("find in 1 MB, backwards, case matters", seconds[3], seconds[0]);
+    print_step("find in 1 MB, backwards, case ignored", seconds[4], seconds[0]);
 
     // From the press of the button until the match is selected and scrolled to.
     open.viewer.Text1.set_text(text + L"The Money Of Nobody");
@@ -82,7 +80,7 @@ void bench_find(OpenViewer& open) {
         open.application.let_pending_events_run();
     };
     const std::vector<double> whole = medians(rounds, {{find}, {press, back_to_start}});
-    print_frame_row("the whole step, match selected at the end", whole[1], whole[0]);
+    print_step("find in 1 MB, until the match is selected", whole[1], whole[0]);
 }
 
 void bench_font_collection(OpenViewer& open) {
@@ -117,9 +115,9 @@ void bench_font_collection(OpenViewer& open) {
     const auto collect = [&] { open.viewer.collect_fonts(); };
     const std::vector<double> seconds =
         medians(rounds, {{sort_and_fill, forget}, {window_and_file, forget}, {collect, forget}});
-    print_heading();
-    print_row("collect and sort 2,000 fonts / sort, fill menu", seconds[2] - seconds[1], seconds[0], 3);
-    std::printf("and %.3f ms to show and close the progress window and write the file\n", seconds[1] * 1e3);
+    print({"collect 2,000 fonts, without window and file", (seconds[2] - seconds[1]) * 1e3, "ms", "sort, fill menu",
+           seconds[0] * 1e3, 3 * seconds[0] * 1e3});
+    std::printf("%.3f ms to show and close the progress window and write the file\n", seconds[1] * 1e3);
 }
 
 }  // namespace
