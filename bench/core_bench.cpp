@@ -26,6 +26,7 @@ namespace quillomat::bench {
 namespace {
 
 constexpr std::size_t rounds = 41;
+constexpr const wchar_t* words_for_grep = L"PLAYER KEY FILE MAP";
 
 /// What a measured routine found: printed at the end, so that no compiler may leave the work out.
 std::size_t checksum = 0;
@@ -92,7 +93,8 @@ void upper_case(wchar_t* characters, std::size_t length) {
     }
 }
 
-void bench_searching(std::size_t bytes) {
+/// `grep_milliseconds` is what `grep -i` takes for the words of `words_for_grep` in a file of the same games.
+void bench_searching(std::size_t bytes, std::optional<double> grep_milliseconds) {
     Catalogue catalogue;
     catalogue.load(widened(synthetic_database(Catalogue::slot_count, bytes)), [](std::wstring_view) {});
     std::wstring all;
@@ -112,7 +114,7 @@ void bench_searching(std::size_t bytes) {
         {"common letters, nowhere", L"ETERNAL"},
         {"two common letters, nowhere", L"ES T"},
         {"words in every game", L"THE LEVEL"},
-        {"a word in few games", L"PLAYER KEY FILE MAP"},
+        {"words in few games", words_for_grep},
         {"a long sentence, nowhere", L"HOLD THE MENU AND THE GAME TO GET ALL THE MONEYS"},
     };
     for (const auto& [what, keyword] : keywords) {
@@ -125,18 +127,23 @@ void bench_searching(std::size_t bytes) {
                              {.run = [&, keyword = keyword] { find(keyword); }}});
         print({"search " + megabytes(bytes) + ", " + what, seconds[1] * 1e3, "ms", "memchr", seconds[0] * 1e3,
                3 * seconds[0] * 1e3});
+        if (grep_milliseconds && keyword == words_for_grep) {
+            print({"search " + megabytes(bytes) + ", " + what, seconds[1] * 1e3, "ms", "grep -i", *grep_milliseconds,
+                   *grep_milliseconds});
+        }
     }
 }
 
 }  // namespace
 }  // namespace quillomat::bench
 
-int main() {
+// Argument: the milliseconds that grep takes, if that is to be compared.
+int main(int count, char** arguments) {
     using namespace quillomat::bench;
     try {
         bench_loading(3'000'000);
         bench_loading(20'000'000);
-        bench_searching(3'000'000);
+        bench_searching(3'000'000, count > 1 ? std::optional(std::stod(arguments[1])) : std::nullopt);
         std::printf("(checksum %zu)\n", checksum);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "core_bench: %s\n", error.what());

@@ -9,11 +9,24 @@ namespace quillomat::soak {
 namespace {
 
 /// Actions from one rest to the next.
-constexpr unsigned period = 500;
+constexpr unsigned period = 150;
 
 constexpr std::wstring_view characters =
     L"abcdefghijklmnopqrstuvwxyz etaoin shrdlu ETAOIN 0123456789 .,-:;!?'\"$%&()*/<>=@_~"
     L"\u00E4\u00E9\u00DF\u20AC\u0151\u6F22\u0301";
+
+/// Whether a click there ends the program soon. That is done seldom: it must live to show what it loses in time.
+bool is_way_out(POINT place) {
+    const HWND window = WindowFromPoint(place);
+    if (has_class(window, L"frmMain")) {
+        POINT inside = place;
+        ScreenToClient(window, &inside);
+        return inside.y < 0;
+    }
+    wchar_t caption[8]{};
+    GetWindowTextW(window, caption, static_cast<int>(std::size(caption)));
+    return std::wstring_view(caption) == L"&Yes" && has_class(GetParent(window), L"frmMain");
+}
 
 constexpr WORD plain_keys[] = {VK_TAB,  VK_TAB,  VK_TAB,    VK_RETURN, VK_RETURN, VK_SPACE, VK_UP,
                                VK_DOWN, VK_DOWN, VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END,   VK_PRIOR,
@@ -39,6 +52,12 @@ Action Player::next(const Scene& scene) {
     std::seed_seq numbers{seed_, count_};
     random_.seed(numbers);
     if (count_ % period == 0) return {};
+    if (planned_.empty() && !scene.menu() && chance(4)) plan_filling_in(scene);
+    if (!planned_.empty()) {
+        const Action action = planned_.front();
+        planned_.pop_front();
+        return action;
+    }
     Action action = chance(60) || !scene.has_keyboard() ? with_mouse(scene) : with_key(scene);
     // Mostly as fast as it goes, and sometimes long enough for what a timer does.
     action.pause = chance(10) ? number(50, 400) : number(0, 40);
@@ -65,9 +84,26 @@ bool Player::aim(const Scene& scene, POINT& place) {
             window = any(controls);
         }
         place = place_on(window);
-        if (scene.has(place)) return true;
+        if (scene.has(place) && (!is_way_out(place) || chance(5))) return true;
     }
     return false;
+}
+
+void Player::plan_filling_in(const Scene& scene) {
+    std::vector<HWND> buttons;
+    const auto click = [this](HWND control) {
+        planned_.push_back({.kind = Action::Kind::Click, .at = place_on(control), .pause = number(0, 20)});
+    };
+    for (const HWND control : controls_of(scene.topmost())) {
+        if (has_class(control, L"Button")) buttons.push_back(control);
+        if (!has_class(control, L"Edit")) continue;
+        click(control);
+        for (int length = number(1, 12); length > 0; --length) {
+            planned_.push_back({.kind = Action::Kind::Character, .value = any(characters), .pause = number(0, 10)});
+        }
+    }
+    if (planned_.empty() || buttons.empty()) return planned_.clear();
+    click(any(buttons));
 }
 
 Action Player::with_mouse(const Scene& scene) {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <deque>
 #include <random>
-#include <string_view>
 
 #include "soak/action.h"
 #include "soak/scene.h"
@@ -25,6 +25,9 @@ class Player {
     /// A place of the screen where the program is hit; false when none was found.
     bool aim(const Scene& scene, POINT& place);
     POINT place_on(HWND window);
+    /// Types something into every box of a window and presses one of its buttons: by chance alone that would never
+    /// happen.
+    void plan_filling_in(const Scene& scene);
     Action with_mouse(const Scene& scene);
     Action with_key(const Scene& scene);
     Action with_access_key();
@@ -32,6 +35,7 @@ class Player {
     unsigned seed_;
     unsigned count_ = 0;
     std::mt19937 random_;
+    std::deque<Action> planned_;
 };
 
 }  // namespace quillomat::soak
