@@ -15,7 +15,13 @@ constexpr std::wstring_view characters =
     L"abcdefghijklmnopqrstuvwxyz etaoin shrdlu ETAOIN 0123456789 .,-:;!?'\"$%&()*/<>=@_~"
     L"\u00E4\u00E9\u00DF\u20AC\u0151\u6F22\u0301";
 
-/// Whether a click there ends the program soon. That is done seldom: it must live to show what it loses in time.
+bool confirms_exit(HWND control) {
+    wchar_t caption[8]{};
+    GetWindowTextW(control, caption, static_cast<int>(std::size(caption)));
+    return std::wstring_view(caption) == L"&Yes" && has_class(GetParent(control), L"frmMain");
+}
+
+/// Whether a click there ends the program. Ways out are taken seldom: it must live to show what it loses in time.
 bool is_way_out(POINT place) {
     const HWND window = WindowFromPoint(place);
     if (has_class(window, L"frmMain")) {
@@ -23,9 +29,15 @@ bool is_way_out(POINT place) {
         ScreenToClient(window, &inside);
         return inside.y < 0;
     }
-    wchar_t caption[8]{};
-    GetWindowTextW(window, caption, static_cast<int>(std::size(caption)));
-    return std::wstring_view(caption) == L"&Yes" && has_class(GetParent(window), L"frmMain");
+    return confirms_exit(window);
+}
+
+/// Whether a key ends the program.
+bool is_way_out(const Action& action, const Scene& scene) {
+    if (action.kind == Action::Kind::Key && action.value == VK_F4) return has_class(scene.topmost(), L"frmMain");
+    constexpr std::wstring_view pressing{L"\r yY"};
+    return pressing.find(static_cast<wchar_t>(action.value)) != std::wstring_view::npos &&
+           std::ranges::any_of(controls_of(scene.topmost()), confirms_exit);
 }
 
 constexpr WORD plain_keys[] = {VK_TAB,  VK_TAB,  VK_TAB,    VK_RETURN, VK_RETURN, VK_SPACE, VK_UP,
@@ -52,13 +64,16 @@ Action Player::next(const Scene& scene) {
     std::seed_seq numbers{seed_, count_};
     random_.seed(numbers);
     if (count_ % period == 0) return {};
-    if (planned_.empty() && !scene.menu() && chance(4)) plan_filling_in(scene);
+    if (planned_.empty() && !scene.menu() && chance(has_class(scene.topmost(), L"frmCtlView") ? 2 : 15)) {
+        plan_filling_in(scene);
+    }
     if (!planned_.empty()) {
         const Action action = planned_.front();
         planned_.pop_front();
         return action;
     }
     Action action = chance(60) || !scene.has_keyboard() ? with_mouse(scene) : with_key(scene);
+    if (is_way_out(action, scene) && !chance(5)) action = {.kind = Action::Kind::Key, .value = VK_TAB};
     // Mostly as fast as it goes, and sometimes long enough for what a timer does.
     action.pause = chance(10) ? number(50, 400) : number(0, 40);
     return action;

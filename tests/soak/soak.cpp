@@ -1,7 +1,9 @@
 #include "soak/soak.h"
 
+#include <algorithm>
 #include <cstdio>
-#include <limits>
+#include <ranges>
+#include <span>
 #include <sstream>
 
 #include "soak/outside_counts.h"
@@ -41,8 +43,17 @@ std::optional<std::size_t> whole_records(std::string_view text) {
     return complete ? std::optional(records) : std::nullopt;
 }
 
-std::string describe(const ObjectCounts& counts) {
-    return std::to_string(counts.gdi) + "/" + std::to_string(counts.user);
+std::string describe(std::span<const ObjectCounts> all) {
+    std::string text;
+    for (const ObjectCounts& counts : all) {
+        text.append(" ").append(std::to_string(counts.gdi)).append("/").append(std::to_string(counts.user));
+    }
+    return text;
+}
+
+ObjectCounts fewest(std::span<const ObjectCounts> all) {
+    const auto of = [all](int ObjectCounts::*kind) { return std::ranges::min(all | std::views::transform(kind)); };
+    return {of(&ObjectCounts::gdi), of(&ObjectCounts::user)};
 }
 
 void press_button(HWND box) {
@@ -215,29 +226,27 @@ void Soak::rest() {
 void Soak::count_at_rest() {
     // Away from everything that shows help.
     perform({.kind = Action::Kind::Move, .at = {GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2}});
-    constexpr int most = std::numeric_limits<int>::max();
-    ObjectCounts fewest{most, most};
     // Something may be in use just then.
-    for (int attempt = 0; attempt < 10; ++attempt) {
+    std::vector<ObjectCounts> counted;
+    for (int attempt = 0; attempt < 5; ++attempt) {
         Sleep(50);
-        const ObjectCounts now = count_objects_of(program_.process().hProcess);
-        fewest = {std::min(fewest.gdi, now.gdi), std::min(fewest.user, now.user)};
+        counted.push_back(count_objects_of(program_.process().hProcess));
     }
-    at_rest_.push_back(fewest);
-    log_ << "# at rest: " << describe(fewest) << std::endl;
+    at_rest_.push_back(fewest(counted));
+    log_ << "# at rest:" << describe(std::span(at_rest_).last(1)) << std::endl;
 }
 
 void Soak::judge_growth() {
-    // What is made once and kept, like the menu of a title bar, is there after the first rests.
-    constexpr std::size_t warm_up = 2;
+    // What is made once and kept, like the menu of a title bar, is there after the first rests. At a single rest
+    // another program may have something that is counted too.
+    constexpr std::ptrdiff_t warm_up = 3;
+    constexpr std::ptrdiff_t together = 3;
     constexpr int allowed = 10;
-    if (at_rest_.size() <= warm_up) return;
-    const ObjectCounts first = at_rest_[warm_up];
-    const ObjectCounts last = at_rest_.back();
-    if (last.gdi <= first.gdi + allowed && last.user <= first.user + allowed) return;
-    std::string rests;
-    for (const ObjectCounts& counts : at_rest_) rests.append(" ").append(describe(counts));
-    fault("keeps objects (GDI/USER at each rest):" + rests);
+    if (std::ssize(at_rest_) < warm_up + 2 * together) return;
+    const ObjectCounts early = fewest(std::span(at_rest_).subspan(warm_up, together));
+    const ObjectCounts late = fewest(std::span(at_rest_).last(together));
+    if (late.gdi <= early.gdi + allowed && late.user <= early.user + allowed) return;
+    fault("keeps objects (GDI/USER at each rest):" + describe(at_rest_));
 }
 
 void Soak::check_database() {
@@ -259,8 +268,7 @@ void Soak::print_summary() const {
     std::printf("%d actions in %.0f s, %d starts, %zu games added\n", actions_, time.count(), starts_, records_added_);
     std::printf("actions by the window in front:");
     for (const auto& [name, count] : seen_) std::printf(" %s %d", name.c_str(), count);
-    std::printf("\nobjects at rest since the last start (GDI/USER):");
-    for (const ObjectCounts& counts : at_rest_) std::printf(" %s", describe(counts).c_str());
+    std::printf("\nobjects at rest since the last start (GDI/USER):%s", describe(at_rest_).c_str());
     std::printf("\n%d faults\n", faults_);
 }
 
