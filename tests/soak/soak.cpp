@@ -237,15 +237,19 @@ void Soak::count_at_rest() {
 }
 
 void Soak::judge_growth() {
-    // What is made once and kept, like the menu of a title bar, is there after the first rests. At a single rest
-    // another program may have something that is counted too.
-    constexpr std::ptrdiff_t warm_up = 3;
-    constexpr std::ptrdiff_t together = 3;
-    constexpr int allowed = 10;
-    if (std::ssize(at_rest_) < warm_up + 2 * together) return;
-    const ObjectCounts early = fewest(std::span(at_rest_).subspan(warm_up, together));
-    const ObjectCounts late = fewest(std::span(at_rest_).last(together));
-    if (late.gdi <= early.gdi + allowed && late.user <= early.user + allowed) return;
+    // Much is made once and kept, by the program and by the system for it, and not all windows are opened before the
+    // first rests: only what goes on to grow from rest to rest is lost.
+    constexpr std::size_t warm_up = 4;
+    constexpr std::size_t judged = 5;
+    constexpr int allowed = 2;
+    if (at_rest_.size() < warm_up + judged) return;
+    const auto last = std::span(at_rest_).last(judged);
+    const auto steady = [last](int ObjectCounts::*kind) {
+        return std::ranges::adjacent_find(last, [kind](const ObjectCounts& before, const ObjectCounts& after) {
+                   return after.*kind <= before.*kind + allowed;
+               }) != last.end();
+    };
+    if (steady(&ObjectCounts::gdi) && steady(&ObjectCounts::user)) return;
     fault("keeps objects (GDI/USER at each rest):" + describe(at_rest_));
 }
 
