@@ -260,6 +260,8 @@ void Form::show_modal(Form* owner) {
 
 void Form::close() {
     if (std::exchange(closed_, true)) return;
+    // Closed from outside with a menu open: its loop would go on within the modal one until the next key.
+    EndMenu();
     for (Form* form : owned_forms()) form->close();
     guarded([this] {
         raise(on_unload);
