@@ -116,7 +116,8 @@ void Form::resolution_changed(int dpi, const RECT& suggested) {
     renew_menu_pictures();
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    if (shown_) raise(on_resize);
+    // A minimised window has nothing to lay out, and for its handler a minimised size means that it was minimised now.
+    if (shown_ && !IsIconic(window_)) raise(on_resize);
 }
 
 }  // namespace quillomat

@@ -1,0 +1,30 @@
+// The viewer where a caption, a resolution or a screen is not the usual one.
+
+#include "shown_viewer.h"
+
+namespace quillomat {
+namespace {
+
+class ViewerEdgeTest : public ShownViewerTest {
+  protected:
+    ~ViewerEdgeTest() override { application.force_dpi(0); }
+
+    void change_resolution(int dpi) {
+        application.force_dpi(dpi);
+        const RECT place{0, 0, 900, 600};
+        SendMessageW(viewer->window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+    }
+};
+
+TEST_F(ViewerEdgeTest, AChangeOfResolutionKeepsTheGamesNameWhileMinimised) {
+    open_viewer("text\r\n$$$$$$$$$$$$$$$$$$$$ Game\r\n");
+    viewer->List2.select_index(0);
+    viewer->set_window_state(WindowState::Minimised);
+    ASSERT_TRUE(pump_until([this] { return viewer->caption() == L"Quillomat - "; }));
+    change_resolution(120);
+    viewer->set_window_state(WindowState::Normal);
+    EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Game"; }));
+}
+
+}  // namespace
+}  // namespace quillomat
