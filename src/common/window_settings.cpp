@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "text/rounding.h"
+
 namespace quillomat {
 
 WindowState window_state_of(std::int32_t stored) {
@@ -10,7 +12,8 @@ WindowState window_state_of(std::int32_t stored) {
 }
 
 std::int16_t stored_size(double twips) {
-    return static_cast<std::int16_t>(std::min<double>(twips, std::numeric_limits<std::int16_t>::max()));
+    return static_cast<std::int16_t>(
+        round_half_even(std::min<double>(twips, std::numeric_limits<std::int16_t>::max())));
 }
 
 }  // namespace quillomat

@@ -1,5 +1,6 @@
 // The viewer where a caption, a resolution or a screen is not the usual one.
 
+#include "common/window_settings.h"
 #include "shown_viewer.h"
 
 namespace quillomat {
@@ -24,6 +25,12 @@ TEST_F(ViewerEdgeTest, AChangeOfResolutionKeepsTheGamesNameWhileMinimised) {
     change_resolution(120);
     viewer->set_window_state(WindowState::Normal);
     EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Game"; }));
+}
+
+TEST(WindowSettings, SizesAreStoredInWholeTwips) {
+    const std::pair<double, int> cases[] = {
+        {6660, 6660}, {6660.6, 6661}, {6660.5, 6660}, {6661.5, 6662}, {40000, 32767}};
+    for (const auto& [twips, stored] : cases) EXPECT_EQ(stored_size(twips), stored) << twips;
 }
 
 }  // namespace
