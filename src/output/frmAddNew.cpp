@@ -7,6 +7,7 @@
 
 #include "common/desktop.h"
 #include "common/line_count.h"
+#include "common/minimum_size.h"
 #include "common/window_settings.h"
 #include "database/record.h"
 #include "forms/application.h"
@@ -95,7 +96,7 @@ void frmAddNew::Form_Load() {
     set_window_state(window_state_of(stored.read(settings::frmAddNewWindowState)));
     set_height(stored.read(settings::frmAddNewHeight));
     set_width(stored.read(settings::frmAddNewWidth));
-    while (correct_size()) {
+    while (restore_minimum_size(*this, add_game_minimum_size)) {
     }
     centre_over_viewer();
     Text1.set_focus();
@@ -114,18 +115,9 @@ void frmAddNew::Form_Unload() {
     store.write(settings::frmAddNewWidth, stored_size(width()));
 }
 
-bool frmAddNew::correct_size() {
-    const WindowSize size{width(), height()};
-    const auto corrected = corrected_size(size, add_game_minimum_size, to_twips(1, dpi()));
-    if (!corrected) return false;
-    corrected->height != size.height ? set_height(corrected->height) : set_width(corrected->width);
-    return true;
-}
-
 void frmAddNew::Form_Resize() {
     if (window_state() == WindowState::Minimised) return;
-    // Each correction resizes the window, and the layout comes with that.
-    if (correct_size()) return;
+    if (restore_minimum_size(*this, add_game_minimum_size)) return;
     const AddGameLayout layout = add_game_layout({width(), height()}, {inner_width(), inner_height()});
     for (StaticLabel* label : {&Label1, &Label2}) label->set_left(layout.margin);
     Text1.move({layout.margin, Text1.top(), layout.box_width, Text1.height()});

@@ -56,7 +56,6 @@ class frmAddNew final : public Form {
     void show_help_box(std::size_t index, double x, double y);
     void UpdateAddButton();
     void leave_by_escape(KeyEvent& event);
-    bool correct_size();
     void centre_over_viewer();
 
     void propose_other_name(int existing, const std::wstring& name);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "common/line_count.h"
+#include "common/minimum_size.h"
 #include "output/mail_window.h"
 #include "text/error.h"
 #include "text/line_end.h"
@@ -131,12 +132,7 @@ void frmMailCheats::Form_Unload() {
 
 void frmMailCheats::Form_Resize() {
     if (window_state() == WindowState::Minimised) return;
-    const WindowSize size{width(), height()};
-    if (const auto corrected = corrected_size(size, minimum_size, to_twips(1, dpi()))) {
-        // Each correction resizes the window, and the layout comes with that.
-        corrected->height != size.height ? set_height(corrected->height) : set_width(corrected->width);
-        return;
-    }
+    if (restore_minimum_size(*this, minimum_size)) return;
     const double list_width = (inner_width() - 3 * margin) * 0.4;
     lay_out_list(list_width);
     lay_out_letter(margin + list_width + margin);

@@ -1,6 +1,7 @@
 #include "output/frmMailMe.h"
 
 #include "common/line_count.h"
+#include "common/minimum_size.h"
 #include "common/pointer.h"
 #include "common/window_settings.h"
 #include "output/mail_window.h"
@@ -82,12 +83,8 @@ void frmMailMe::Form_Unload() {
 
 void frmMailMe::Form_Resize() {
     if (window_state() == WindowState::Minimised) return;
+    if (restore_minimum_size(*this, minimum_size)) return;
     const WindowSize size{width(), height()};
-    if (const auto corrected = corrected_size(size, minimum_size, to_twips(1, dpi()))) {
-        // Each correction resizes the window, and the layout comes with that.
-        corrected->height != size.height ? set_height(corrected->height) : set_width(corrected->width);
-        return;
-    }
     Combo1.set_width(size.width - 345);
     Text1.set_width(size.width - 345);
     Text1.set_height(size.height - 1860);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/minimum_size.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "resources/pictures.h"
@@ -118,12 +119,8 @@ void frmCtlView::Form_Resize() {
         return;
     }
     set_caption(session_.viewer.current_title);
+    if (restore_minimum_size(*this, viewer_minimum_size)) return;
     const WindowSize size{width(), height()};
-    if (const auto corrected = corrected_size(size, viewer_minimum_size, to_twips(1, dpi()))) {
-        // Each correction resizes the window, and the layout comes with that.
-        corrected->height != size.height ? set_height(corrected->height) : set_width(corrected->width);
-        return;
-    }
     const ViewerLayout layout = viewer_layout(size);
     Text1.set_width(layout.text_width);
     Text1.set_height(layout.text_height);

@@ -1,6 +1,7 @@
 // The viewer where a caption, a resolution or a screen is not the usual one.
 
 #include "common/window_settings.h"
+#include "output/frmAddNew.h"
 #include "shown_viewer.h"
 
 namespace quillomat {
@@ -25,6 +26,19 @@ TEST_F(ViewerEdgeTest, AChangeOfResolutionKeepsTheGamesNameWhileMinimised) {
     change_resolution(120);
     viewer->set_window_state(WindowState::Normal);
     EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Game"; }));
+}
+
+TEST_F(ViewerEdgeTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
+    // At this resolution the smallest sizes are larger than any window the system allows on the tests' screen.
+    application.force_dpi(480);
+    open_viewer("text\r\n$$$$$$$$$$$$$$$$$$$$ Game\r\n");
+    EXPECT_NEAR(viewer->Text1.width(), viewer->width() - 2980, 15);
+    EXPECT_NEAR(viewer->List2.height(), viewer->height() - 2115, 15);
+
+    frmAddNew window(application, session, *link);
+    window.show();
+    pump();
+    EXPECT_NEAR(window.Text1.width(), window.width() - 360, 15);
 }
 
 TEST(WindowSettings, SizesAreStoredInWholeTwips) {
