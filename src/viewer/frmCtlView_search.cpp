@@ -63,7 +63,7 @@ void frmCtlView::List1_Click() {
 void frmCtlView::Text1_DblClick() {
     const auto caption = search_menu_caption(Text1.selected_text());
     if (!caption) return;
-    menus.mnuTextBoxSearch.set_caption(*caption);
+    menus.mnuTextBoxSearch.set_caption(without_access_keys(*caption));
     pop_up(menus.mnuTextBox);
 }
 

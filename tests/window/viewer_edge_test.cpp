@@ -41,6 +41,18 @@ TEST_F(ViewerEdgeTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
     EXPECT_NEAR(window.Text1.width(), window.width() - 360, 15);
 }
 
+TEST_F(ViewerEdgeTest, TheMenuNamesADoubleClickedWordAsItIs) {
+    open_viewer("R&D code\r\n$$$$$$$$$$$$$$$$$$$$ Game\r\n");
+    viewer->List2.select_index(0);
+    viewer->Text1.select(0, 4);
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) { EndMenu(); });
+    viewer->Text1.on_double_click();
+    KillTimer(nullptr, timer);
+    wchar_t shown[40]{};
+    GetMenuStringW(viewer->menus.mnuTextBox.handle(), 0, shown, 40, MF_BYPOSITION);
+    EXPECT_STREQ(shown, L"Search for R&&D ") << "its ampersand is no access key";
+}
+
 TEST(WindowSettings, SizesAreStoredInWholeTwips) {
     const std::pair<double, int> cases[] = {
         {6660, 6660}, {6660.6, 6661}, {6660.5, 6660}, {6661.5, 6662}, {40000, 32767}};
