@@ -16,7 +16,7 @@
 #include "database/search_texts.h"
 #include "measure.h"
 #include "support/decoded_text.h"
-#include "support/synthetic_database.h"
+#include "synthetic_database.h"
 
 #ifdef __GLIBC__
 #include <malloc.h>

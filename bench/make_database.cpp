@@ -4,7 +4,7 @@
 #include <iostream>
 #include <string>
 
-#include "support/synthetic_database.h"
+#include "synthetic_database.h"
 
 int main(int argc, char** argv) {
     if (argc != 4) {

@@ -141,14 +141,8 @@ void wait_microseconds(long long microseconds) {
         QueryPerformanceCounter(&now);
 }
 
-struct Tally {
-    int untouched = 0;  ///< ends between two writings, or before the new file took the old one's place
-    int completed = 0;  ///< ends after that and before the writer could say so
-    int remains = 0;    ///< ends that left an unfinished file behind
-    int faults = 0;
-};
-
-void kill_once(Way way, const std::wstring& path, std::mt19937& random, Tally& tally) {
+/// Whether the file holds nothing but whole records after the writer was ended.
+bool survives_kill(Way way, const std::wstring& path, std::mt19937& random) {
     const std::string start = bytes_of(path);
     Writer writer(way == Way::Append ? L"append" : L"replace", path);
     writer.wait_for_first_writing();
@@ -156,21 +150,12 @@ void kill_once(Way way, const std::wstring& path, std::mt19937& random, Tally& t
     writer.end();
     const int finished = writer.finished();
     const std::string left = bytes_of(path);
-    if (left == expected_content(way, start, finished)) {
-        ++tally.untouched;
-    } else if (left == expected_content(way, start, finished + 1)) {
-        ++tally.completed;
-    } else {
-        ++tally.faults;
+    if (left != expected_content(way, start, finished) && left != expected_content(way, start, finished + 1)) {
         std::printf("torn: %zu bytes after %d writings on %zu bytes\n", left.size(), finished, start.size());
-        return;
+        return false;
     }
-    try {
-        games_in(left);
-    } catch (const Error& error) {
-        ++tally.faults;
-        std::printf("does not load: error %d\n", static_cast<int>(error.code()));
-    }
+    games_in(left);
+    return true;
 }
 
 int kill_often(Way way, int kills, const std::filesystem::path& folder) {
@@ -181,24 +166,23 @@ int kill_often(Way way, int kills, const std::filesystem::path& folder) {
     slot.replace(path, first_content());
     const unsigned seed = std::random_device{}();
     std::mt19937 random(seed);
-    Tally tally;
-    for (int kill = 0; kill < kills && tally.faults == 0; ++kill) {
-        kill_once(way, path, random, tally);
-        tally.remains += std::filesystem::exists(remains) ? 1 : 0;
+    bool intact = true;
+    int remaining = 0;  // kills that left an unfinished file beside the whole one
+    for (int kill = 0; kill < kills && intact; ++kill) {
+        intact = survives_kill(way, path, random);
+        remaining += std::filesystem::exists(remains) ? 1 : 0;
         if (std::filesystem::file_size(path) > largest_file) slot.replace(path, first_content());
     }
-    std::printf(
-        "%d kills (seed %u): %d left the old file, %d the new one, %d an unfinished file beside it, %d faults\n", kills,
-        seed, tally.untouched, tally.completed, tally.remains, tally.faults);
+    std::printf("%d kills (seed %u), %d unfinished files: %s\n", kills, seed, remaining, intact ? "intact" : "TORN");
     // The next writing works and tidies up, whatever was left.
     slot.append(path, record(1));
     if (std::filesystem::exists(remains)) {
         std::printf("an unfinished file stays\n");
-        ++tally.faults;
+        intact = false;
     }
     std::error_code ignored;
     std::filesystem::remove_all(folder, ignored);
-    return tally.faults == 0 ? 0 : 1;
+    return intact ? 0 : 1;
 }
 
 /// Appends until the disk is full; then the file must be as it was, and work again as soon as there is room.

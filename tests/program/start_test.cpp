@@ -21,7 +21,6 @@ void close_and_check(Program& program) {
 }
 
 struct Database {
-    const char* name;
     std::string bytes;
     std::vector<std::wstring> games;
     /// Not looked at when empty.
@@ -38,18 +37,10 @@ std::string any_bytes() {
 
 std::vector<Database> databases() {
     return {
-        {"empty", "", {}, L"", L""},
-        {"any bytes", any_bytes(), {}, L"", L""},
-        {"NUL", record(std::string("a\0b", 3), std::string("N\0L", 3)), {L"N L"}, L"a b", L""},
-        {"lone LF and CR",
-         std::string("one\ntwo\rthree\r\n") + marker + "Doom\rrest",
-         {L"Doom"},
-         L"one\ntwo\r\nthree",
-         L""},
-        {"code page", record("Gru\xDF \x80", "\xC9t\xE9"), {L"\u00C9t\u00E9"}, L"Gru\u00DF \u20AC", L""},
-        {"a line of 50 MB", record(std::string(50 << 20, 'x'), "Long"), {L"Long"}, L"", L""},
-        {"a name line without a name",
-         record("a", "Doom") + "$$$$$$$$$$$$$$$$$$$$\r\n" + record("b", "Quake"),
+        {any_bytes(), {}, L"", L""},
+        {record(std::string("Gru\xDF\0\x80", 6), "\xC9t\xE9"), {L"\u00C9t\u00E9"}, L"Gru\u00DF \u20AC", L""},
+        {record(std::string(50 << 20, 'x'), "Long"), {L"Long"}, L"", L""},
+        {record("a", "Doom") + "$$$$$$$$$$$$$$$$$$$$\r\n" + record("b", "Quake"),
          {L"Doom"},
          L"a",
          L"Error!: Invalid procedure call or argument"},
@@ -77,13 +68,7 @@ TEST_P(StartWith, ShowsWhatItCanReadAndChangesNothing) {
     EXPECT_TRUE(program.read_database() == database.bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Databases, StartWith, testing::ValuesIn(databases()),
-                         [](const testing::TestParamInfo<Database>& database) {
-                             std::string name = database.param.name;
-                             for (char& letter : name)
-                                 if (!std::isalnum(static_cast<unsigned char>(letter))) letter = '_';
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Databases, StartWith, testing::ValuesIn(databases()));
 
 /// A database that cannot be read: the program says so once, and opens without games.
 void expect_opens_empty(Program& program, const std::wstring& message) {
@@ -110,12 +95,6 @@ TEST(Start, WithALockedDatabase) {
     expect_opens_empty(program, L"Error!: Permission denied");
     CloseHandle(lock);
     EXPECT_EQ(program.read_database(), record("a", "Doom"));
-}
-
-TEST(Start, WithAFolderInPlaceOfTheDatabase) {
-    Program program;
-    std::filesystem::create_directory(program.database());
-    expect_opens_empty(program, L"Error!: Permission denied");
 }
 
 TEST(Start, WithADatabaseOfOneGigabyte) {

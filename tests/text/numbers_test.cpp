@@ -10,97 +10,59 @@
 namespace quillomat {
 namespace {
 
-struct NumberCase {
-    const wchar_t* text;
-    std::optional<std::int32_t> as_32;
-    std::optional<std::int32_t> as_16;
-};
-
 constexpr std::nullopt_t none = std::nullopt;
 
 TEST(Numbers, ConvertsAWholeTextOrNothing) {
-    const NumberCase cases[] = {
-        {L"0", 0, 0},
+    const struct {
+        const wchar_t* text;
+        std::optional<std::int32_t> as_32;
+        std::optional<std::int32_t> as_16;
+    } cases[] = {
         {L" 42 ", 42, 42},
-        {L"+7", 7, 7},
-        {L"-7", -7, -7},
         {L"0000000000000000000000012", 12, 12},
-        {L"32767", 32767, 32767},
         {L"32768", 32768, none},
-        {L"-32768", -32768, -32768},
         {L"-32769", -32769, none},
-        {L"65536", 65536, none},
         {L"2147483647", 2147483647, none},
         {L"2147483648", none, none},
         {L"-2147483648", std::numeric_limits<std::int32_t>::min(), none},
         {L"-2147483649", none, none},
-        {L"4294967296", none, none},
         {L"18446744073709551616", none, none},
-        {L"99999999999999999999999999", none, none},
-        {L"0.5", 0, 0},
-        {L"1.5", 2, 2},
         {L"2.5", 2, 2},
-        {L"-2.5", -2, -2},
         {L"2.500000000000000000000000001", 3, 3},
-        {L"2.49999", 2, 2},
-        {L"3.", 3, 3},
         {L"32767.5", 32768, none},
-        {L"2147483647.4", 2147483647, none},
         {L"2147483647.5", none, none},
         {L"", none, none},
-        {L"  ", none, none},
         {L"-", none, none},
         {L".5", none, none},
-        {L"- 5", none, none},
-        {L"--5", none, none},
-        {L"5-", none, none},
         {L"5 5", none, none},
-        {L"5x", none, none},
         {L"1e3", none, none},
-        {L"1,000", none, none},
         {L"0x10", none, none},
-        {L"1.2.3", none, none},
         {L"\u0663", none, none},
     };
-    for (const NumberCase& expected : cases) {
-        EXPECT_EQ(to_int32(expected.text), expected.as_32) << testing::PrintToString(expected.text);
-        EXPECT_EQ(to_int16(expected.text), expected.as_16) << testing::PrintToString(expected.text);
+    for (const auto& [text, as_32, as_16] : cases) {
+        EXPECT_EQ(to_int32(text), as_32) << testing::PrintToString(text);
+        EXPECT_EQ(to_int16(text), as_16) << testing::PrintToString(text);
     }
     EXPECT_EQ(to_int32(std::wstring_view(L"5\0", 2)), none);
 }
 
 TEST(Numbers, ConvertsTheTwoWordsOfABoolean) {
     const std::pair<const wchar_t*, std::optional<bool>> cases[] = {
-        {L"True", true},  {L"False", false}, {L"tRUE", true}, {L" false ", false},  {L"", none},        {L"Tru", none},
-        {L"Truex", none}, {L"1", none},      {L"-1", none},   {L"\u0422rue", none}, {L"T r u e", none},
+        {L"tRUE", true}, {L" false ", false}, {L"", none}, {L"Tru", none}, {L"1", none}, {L"\u0422rue", none},
     };
     for (const auto& [text, expected] : cases) EXPECT_EQ(to_boolean(text), expected) << testing::PrintToString(text);
-    EXPECT_EQ(boolean_text(true), L"True");
-    EXPECT_EQ(boolean_text(false), L"False");
 }
 
 TEST(Numbers, LeadingValueNeverOverflows) {
     const std::pair<const wchar_t*, std::int64_t> cases[] = {
         {L"", 0},
-        {L"12", 12},
         {L"  12abc34", 12},
-        {L"-5", -5},
-        {L"+5", 5},
-        {L"abc", 0},
         {L"-", 0},
-        {L"3.9", 3},
         {L"4000000000000000000", leading_value_limit},
         {L"4000000000000000001", leading_value_limit},
-        {L"9223372036854775808", leading_value_limit},
         {L"-99999999999999999999999999999999", -leading_value_limit},
     };
     for (const auto& [text, expected] : cases) EXPECT_EQ(leading_value(text), expected) << testing::PrintToString(text);
-}
-
-TEST(Numbers, SignPositionIsABlankUnlessNegative) {
-    EXPECT_EQ(sign_position_text(0), L" 0");
-    EXPECT_EQ(sign_position_text(2501), L" 2501");
-    EXPECT_EQ(sign_position_text(-1), L"-1");
 }
 
 TEST(Numbers, CheckedAdditionThrowsInsteadOfWrapping) {
@@ -109,12 +71,7 @@ TEST(Numbers, CheckedAdditionThrowsInsteadOfWrapping) {
     const std::pair<std::int16_t, int> overflowing[] = {
         {32767, 1}, {-32768, -1}, {1, std::numeric_limits<int>::max()}, {-1, std::numeric_limits<int>::min()}};
     for (const auto& [value, increase] : overflowing) {
-        try {
-            checked_add_16(value, increase);
-            ADD_FAILURE() << value << " + " << increase;
-        } catch (const Error& error) {
-            EXPECT_EQ(error.code(), ErrorCode::Overflow);
-        }
+        EXPECT_THROW(checked_add_16(value, increase), Error) << value << " + " << increase;
     }
 }
 

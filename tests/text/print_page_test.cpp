@@ -25,7 +25,6 @@ TEST(PrintedLines, NothingOfATextIsLost) {
         {"nothing is one empty line", L"", {L""}},
         {"every kind of line end", L"a\r\nb\rc\nd", {L"a", L"b", L"c", L"d"}},
         {"empty lines stay, the last one too", L"\r\n\r\na\r\n", {L"", L"", L"a", L""}},
-        {"what just fits is one line", L"1234567890", {L"1234567890"}},
         {"a line breaks between words", L"one two three four", {L"one two", L"three four"}},
         {"a blank may stand beyond the edge", L"1234567890 b", {L"1234567890", L"b"}},
         {"a word wider than the page is cut", L"12345678901234567890123", {L"1234567890", L"1234567890", L"123"}},
@@ -64,22 +63,6 @@ TEST(LineFlow, LinesGoOnOnFurtherPagesAndNoneIsCut) {
     LineFlow too_small(10, 15);
     EXPECT_EQ(too_small.next(), (Place{same, 0})) << "a page that holds no line gets one all the same";
     EXPECT_EQ(too_small.next(), (Place{next, 0}));
-}
-
-TEST(Printouts, HoldTheirLinesInOrder) {
-    const auto as_lines = [](const std::wstring& text) {
-        return printed_lines(text, [](std::wstring_view line) { return line.size(); });
-    };
-    const std::wstring footer = L"Made with Quillomat - www.tobferrand.example";
-    EXPECT_EQ(as_lines(cheats_printout(L"Doom", L"IDDQD\r\n\r\nIDKFA")),
-              (Lines{L"Doom", L"", L"IDDQD", L"", L"IDKFA", L"", L"", footer}));
-    EXPECT_EQ(as_lines(cheats_printout(L"", L"")), (Lines{L"", L"", L"", L"", L"", footer}));
-
-    const Lines games{L"One", L"Two", L"Three"};
-    const auto name = [&](int index) { return games.at(static_cast<std::size_t>(index)); };
-    EXPECT_EQ(as_lines(game_list_printout(all_game_names(3, name))),
-              (Lines{L"", L"One", L"Two", L"Three", L"", L"", footer}));
-    EXPECT_EQ(as_lines(game_list_printout(game_names_in_range(2, 2, name))), (Lines{L"", L"Two", L"", footer}));
 }
 
 }  // namespace

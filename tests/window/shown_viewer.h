@@ -17,14 +17,25 @@ namespace quillomat {
 /// A database in a folder of its own, opened in a real viewer, for the windows that work on what the viewer shows.
 class ShownViewerTest : public WindowTest {
   protected:
-    void open_viewer(std::string_view database) {
-        write("Cheats.dat", database);
+    ShownViewerTest() {
         session.program_folder = folder.path().wstring();
         session.settings = registry.settings();
+    }
+
+    void open_viewer(std::string_view database) {
+        write("Cheats.dat", database);
+        open_viewer();
+    }
+    /// Opens the viewer on what is in the folder.
+    void open_viewer() {
         viewer = std::make_unique<frmCtlView>(application, session, viewer_windows);
         link = std::make_unique<OpenViewer>(*viewer);
+        viewer->on_closed = [this] { viewer.reset(); };
         viewer->show();
         pump();
+    }
+    bool viewer_closes() {
+        return pump_until([this] { return !viewer; });
     }
 
     /// Opens the file as the next run of the program does.

