@@ -209,15 +209,17 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 void Form::load() {
-    loaded_ = true;
+    load_begun_ = true;
+    loading_ = true;
     guarded([this] {
         raise(on_load);
         return LRESULT{};
     });
+    loading_ = false;
 }
 
 void Form::show() {
-    if (!loaded_) {
+    if (!load_begun_) {
         load();
         if (closed_) return;
         DrawMenuBar(window_);
@@ -263,10 +265,13 @@ void Form::close() {
     // Closed from outside with a menu open: its loop would go on within the modal one until the next key.
     EndMenu();
     for (Form* form : owned_forms()) form->close();
-    guarded([this] {
-        raise(on_unload);
-        return LRESULT{};
-    });
+    // A session can end while a message of the load is up. What has not been read yet must not be saved.
+    if (!loading_) {
+        guarded([this] {
+            raise(on_unload);
+            return LRESULT{};
+        });
+    }
     for (Timer* timer : timers_) timer->set_enabled(false);
     // A dialog is hidden by its modal loop, after its owner can be activated again.
     if (!modal_) ShowWindow(window_, SW_HIDE);

@@ -71,8 +71,8 @@ class Form : public Container, public MouseEvents {
     void set_owner(const Form& owner);
     /// Shows the window as a dialog of `owner` and returns when it has closed.
     void show_modal(Form* owner);
-    /// Closes the windows it owns, runs `on_unload`, hides the window and has it destroyed as soon as no handler of it
-    /// is running.
+    /// Closes the windows it owns, runs `on_unload` unless `on_load` is still running, hides the window and has it
+    /// destroyed as soon as no handler of it is running.
     void close();
     bool closed() const { return closed_; }
     /// Whether the user can close the window by its border.
@@ -186,7 +186,8 @@ class Form : public Container, public MouseEvents {
     WindowState state_ = WindowState::Normal;
     PointerShape pointer_ = PointerShape::Default;
     bool modal_ = false;
-    bool loaded_ = false;
+    bool load_begun_ = false;
+    bool loading_ = false;
     bool shown_ = false;
     bool closed_ = false;
     int handlers_running_ = 0;

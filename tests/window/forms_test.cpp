@@ -258,6 +258,21 @@ TEST_F(FormsTest, AFormClosedInItsOwnHandlerLivesUntilTheHandlerIsDone) {
     EXPECT_FALSE(form);
 }
 
+TEST_F(FormsTest, AFormClosedWhileItLoadsHasNothingToSave) {
+    Board form(application);
+    bool unloaded = false;
+    form.on_unload = [&] { unloaded = true; };
+    form.on_load = [&] {
+        // The system closes every window when the user signs off, whatever is still being asked.
+        SendMessageW(form.window(), WM_ENDSESSION, TRUE, 0);
+        form.Text1.set_text(L"what was stored");
+    };
+    form.show();
+    EXPECT_TRUE(form.closed());
+    EXPECT_FALSE(unloaded) << "what is stored would give way to what was not read yet";
+    EXPECT_FALSE(form.shown());
+}
+
 TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItCloses) {
     show();
     Board other(application);
