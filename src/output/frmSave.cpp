@@ -12,6 +12,7 @@
 #include "text/paths.h"
 #include "text/saved_file.h"
 #include "win/folders.h"
+#include "win/upper_case.h"
 
 namespace quillomat {
 namespace {
@@ -121,7 +122,8 @@ void frmSave::Form_Resize() {
 
 void frmSave::Drive1_Change() {
     const std::wstring drive = Drive1.drive();
-    if (Dir1.path().starts_with(drive)) return;
+    // The folder the program was started in may have its drive in a small letter.
+    if (upper_cased(Dir1.path()).starts_with(drive)) return;
     try {
         const Hourglass hourglass(*this);
         Dir1.set_path(drive);

@@ -192,6 +192,18 @@ TEST_F(SaveTest, ADriveThatIsGoneIsToldAndNotChosen) {
     EXPECT_EQ(window->Label3.caption(), other);
 }
 
+TEST_F(SaveTest, ADriveInASmallLetterIsTheSameDrive) {
+    open();
+    std::wstring path = (place() / "inner").wstring();
+    path[0] = static_cast<wchar_t>(path[0] - L'A' + L'a');
+    const std::wstring own = window->Drive1.drive();
+    window->Dir1.set_path(own == L"C:\\" ? L"Z:\\" : L"C:\\");
+    ASSERT_NE(window->Drive1.drive(), own);
+    window->Dir1.set_path(path);
+    EXPECT_EQ(window->Dir1.path(), path) << "the folder, not the root of its drive";
+    EXPECT_EQ(window->Drive1.drive(), own);
+}
+
 TEST_F(SaveTest, EscapeClosesAnOpenListFirst) {
     open();
     window->Combo1.set_focus();
