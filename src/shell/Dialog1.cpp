@@ -94,10 +94,13 @@ void Dialog1::set_links_visible(bool visible) {
     for (Link* link : {&Label3, &Label4, &Label5, &Label6, &Label8}) link->set_visible(visible);
 }
 
-void Dialog1::show_step(double height) {
-    set_height(height);
+bool Dialog1::show_step(double twips) {
+    const double former = height();
+    set_height(twips);
+    if (height() == former) return false;
     RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     pause_milliseconds(pause_between_steps);
+    return true;
 }
 
 void Dialog1::Expand() {
@@ -105,7 +108,10 @@ void Dialog1::Expand() {
     if (cmdButton[0].has_focus()) cmdButton[1].set_focus();
     cmdButton[0].set_visible(false);
     set_links_visible(true);
-    while (const auto next = next_expanded_height(height())) show_step(*next);
+    while (const auto next = next_expanded_height(height())) {
+        // The system lets no window grow beyond the screen, which can be too low for this one at a high resolution.
+        if (!show_step(*next)) break;
+    }
     place_on_screen();
 }
 

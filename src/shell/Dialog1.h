@@ -57,7 +57,8 @@ class Dialog1 final : public Form {
     void Timer4_Timer();
 
     void set_links_visible(bool visible);
-    void show_step(double height);
+    /// Whether the window has got another height.
+    bool show_step(double twips);
     void place_help_box(const Control& control, const MouseEvent& event);
 
     PointerState& pointer_;

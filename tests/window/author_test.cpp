@@ -59,6 +59,16 @@ TEST_F(AuthorTest, GrowingMovesItUpWhenTheScreenEnds) {
     EXPECT_DOUBLE_EQ(author->top(), top);
 }
 
+TEST_F(AuthorTest, GrowsAsFarAsTheScreenLetsIt) {
+    open(288);
+    author->Expand();
+    const LONG screen_height = GetSystemMetrics(SM_CYSCREEN);
+    RECT area{};
+    GetWindowRect(author->window(), &area);
+    EXPECT_NEAR(area.bottom - area.top, screen_height, screen_height / 10);
+    for (const Link* link : links()) EXPECT_TRUE(link->visible());
+}
+
 TEST_F(AuthorTest, TheCoinTurns) {
     open(144);
     const auto columns_with_coin = [this] {
