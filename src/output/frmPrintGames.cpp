@@ -71,12 +71,9 @@ void frmPrintGames::bind_number_box(TextBox& box, std::function<void()> go_on) {
 void frmPrintGames::bind_hover_help() {
     hover_help_.add(Command1, L"Print Now!");
     hover_help_.add(Command2, L"Cancel Printing");
-    for (Button* button : {&Command1, &Command2}) {
-        button->on_mouse_move = [this, button](const MouseEvent&) {
-            Text4.move(
-                {button->left(), button->top() + button->height() + help_below_button, Text4.width(), Text4.height()});
-        };
-    }
+    hover_help_.on_shown = [this](Control& button, const MouseEvent&) {
+        Text4.move({button.left(), button.top() + button.height() + help_below_button, Text4.width(), Text4.height()});
+    };
     // The help box never keeps the focus.
     Text4.on_got_focus = [this] {
         Text4.set_visible(false);
