@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "forms/application.h"
 #include "forms/button.h"
@@ -140,8 +141,8 @@ void Form::show_keyboard_cues() {
 }
 
 void Form::set_default_button(Button* button) {
-    Button* const former = default_button_;
-    default_button_ = button;
+    if (button == default_button_) return;
+    Button* const former = std::exchange(default_button_, button);
     if (former) InvalidateRect(former->window(), nullptr, FALSE);
     if (button) InvalidateRect(button->window(), nullptr, FALSE);
 }
