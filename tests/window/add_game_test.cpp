@@ -171,6 +171,12 @@ TEST_F(AddGameTest, NothingTypedByKeyIsLimited) {
     }
 }
 
+TEST_F(AddGameTest, OpensOnAScreenThatIsTooLowForIt) {
+    application.force_dpi(384);
+    open();
+    EXPECT_TRUE(IsWindowVisible(window->window()));
+}
+
 TEST_F(AddGameTest, RemembersItsSizeOnlyWhenNormal) {
     open();
     EXPECT_NEAR(window->width(), 5715, 15) << "the default is below the minimum";
