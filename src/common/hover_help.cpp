@@ -1,5 +1,6 @@
 #include "common/hover_help.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/form.h"
@@ -50,6 +51,24 @@ HoverHelp::HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)
 
 void HoverHelp::add(Control& control, std::wstring text) {
     tips_.push_back({control, std::move(text)});
+}
+
+void HoverHelp::keep_above_pointer() {
+    on_shown = [this](Control& control, const MouseEvent& pointer) { place_above_pointer(control, pointer); };
+    for (const Tip& tip : tips_) {
+        tip.control.on_mouse_move = [this, &control = tip.control](const MouseEvent& pointer) {
+            place_above_pointer(control, pointer);
+        };
+    }
+}
+
+void HoverHelp::place_above_pointer(const Control& control, const MouseEvent& pointer) const {
+    constexpr double above_pointer = 500;
+    const double width = help_box_.width();
+    const double free_width = std::max(0.0, help_box_.form().inner_width() - width);
+    const double left = control.left() + pointer.x - width / 2;
+    const double top = control.top() + pointer.y - above_pointer;
+    help_box_.move({std::clamp(left, 0.0, free_width), std::max(0.0, top), width, help_box_.height()});
 }
 
 void HoverHelp::tick() {

@@ -36,6 +36,9 @@ class HoverHelp {
     std::function<void(Control&, const MouseEvent&)> on_shown;
 
     void add(Control& control, std::wstring text);
+    /// Keeps the help box above the pointer while that is on one of the controls added so far, inside of the window as
+    /// far as it fits. Takes over their mouse movements and `on_shown`.
+    void keep_above_pointer();
     /// Compares the pointer with the controls and shows or hides.
     void tick();
 
@@ -47,6 +50,7 @@ class HoverHelp {
     };
 
     MouseEvent pointer_on(const Control& control) const;
+    void place_above_pointer(const Control& control, const MouseEvent& pointer) const;
     void pace();
     void wake();
 

@@ -92,7 +92,7 @@ void frmMailCheats::bind_inputs() {
 void frmMailCheats::bind_hover_help() {
     hover_help_.add(Command1, L"Send E-mail!");
     hover_help_.add(Command2, L"Cancel E-mail");
-    keep_above_pointer(Text5, hover_help_, {&Command1, &Command2});
+    hover_help_.keep_above_pointer();
     // The help box never keeps the focus.
     Text5.on_got_focus = [this] {
         Text5.set_visible(false);

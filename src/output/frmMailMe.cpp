@@ -52,7 +52,7 @@ void frmMailMe::bind() {
 void frmMailMe::bind_hover_help() {
     hover_help_.add(Command1, L"Click here to send the message(to me!)");
     hover_help_.add(Command2, L"Click here to cancel the message (too bad)");
-    keep_above_pointer(Text2, hover_help_, {&Command1, &Command2});
+    hover_help_.keep_above_pointer();
     // The help box never keeps the focus.
     Text2.on_got_focus = [this] {
         Text2.set_visible(false);

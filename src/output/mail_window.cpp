@@ -1,12 +1,8 @@
 #include "output/mail_window.h"
 
-#include <algorithm>
-
-#include "common/hover_help.h"
-#include "forms/button.h"
+#include "forms/control.h"
 #include "forms/graphics.h"
 #include "forms/message_box.h"
-#include "forms/text_box.h"
 #include "text/mail.h"
 
 namespace quillomat {
@@ -30,20 +26,6 @@ Sending::~Sending() {
     modal_.end();
     // The focus does not stay in a window that cannot be used.
     if (focused_) focused_->set_focus();
-}
-
-void keep_above_pointer(TextBox& help_box, HoverHelp& hover_help, std::initializer_list<Button*> buttons) {
-    const auto place = [&help_box](const Control& control, const MouseEvent& pointer) {
-        constexpr double above_pointer = 500;
-        const double free_width = std::max(0.0, help_box.form().inner_width() - help_box.width());
-        const double left = control.left() + pointer.x - help_box.width() / 2;
-        const double top = control.top() + pointer.y - above_pointer;
-        help_box.move({std::clamp(left, 0.0, free_width), std::max(0.0, top), help_box.width(), help_box.height()});
-    };
-    for (Button* button : buttons) {
-        button->on_mouse_move = [place, button](const MouseEvent& pointer) { place(*button, pointer); };
-    }
-    hover_help.on_shown = place;
 }
 
 }  // namespace quillomat

@@ -1,17 +1,12 @@
 #pragma once
 
-#include <initializer_list>
-
 #include "forms/application.h"
 #include "forms/form.h"
 
 namespace quillomat {
 
-class Button;
 class Control;
-class HoverHelp;
 class Label;
-class TextBox;
 
 /// Tells the user of a window that opens what is needed for sending mails.
 void tell_mail_requirements(Form& form);
@@ -33,8 +28,5 @@ class Sending {
     Hourglass hourglass_;
     ModalScope modal_;
 };
-
-/// Keeps a help box above the pointer while that is on one of the buttons; inside of the window, as far as it fits.
-void keep_above_pointer(TextBox& help_box, HoverHelp& hover_help, std::initializer_list<Button*> buttons);
 
 }  // namespace quillomat

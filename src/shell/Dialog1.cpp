@@ -1,6 +1,5 @@
 #include "shell/Dialog1.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "common/desktop.h"
@@ -67,23 +66,13 @@ void Dialog1::bind_hover_help() {
     hover_help_.add(cmdButton[0], L"Click here to see the links to my pages");
     hover_help_.add(cmdButton[1], L"Click here to hide the links again");
     hover_help_.add(cmdButton[2], L"Click here to go back to the main screen");
-    for (Button& button : cmdButton) {
-        button.on_mouse_move = [this, &button](const MouseEvent& event) { place_help_box(button, event); };
-    }
-    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
+    hover_help_.keep_above_pointer();
     // The help box never keeps the focus.
     HelpBox.on_got_focus = [this] {
         HelpBox.set_visible(false);
         cmdButton[2].set_focus();
     };
     Timer3.on_timer = [this] { hover_help_.tick(); };
-}
-
-void Dialog1::place_help_box(const Control& control, const MouseEvent& event) {
-    const double left = control.left() + event.x - HelpBox.width() / 2;
-    const double top = control.top() + event.y - 500;
-    HelpBox.move({std::clamp(left, 0.0, std::max(0.0, inner_width() - HelpBox.width())), top, HelpBox.width(),
-                  HelpBox.height()});
 }
 
 void Dialog1::Form_Load() {

@@ -59,7 +59,6 @@ class Dialog1 final : public Form {
     void set_links_visible(bool visible);
     /// Whether the window has got another height.
     bool show_step(double twips);
-    void place_help_box(const Control& control, const MouseEvent& event);
 
     PointerState& pointer_;
     HoverHelp hover_help_{pointer_, HelpBox, Timer3};

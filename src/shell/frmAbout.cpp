@@ -1,7 +1,5 @@
 #include "shell/frmAbout.h"
 
-#include <algorithm>
-
 #include "common/desktop.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
@@ -76,23 +74,13 @@ void frmAbout::bind() {
 void frmAbout::bind_hover_help() {
     hover_help_.add(cmdButton[0], L"Click here to go back to the main screen");
     hover_help_.add(cmdButton[1], L"Click here to start MS System Info");
-    for (Button& button : cmdButton) {
-        button.on_mouse_move = [this, &button](const MouseEvent& event) { place_help_box(button, event); };
-    }
-    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
+    hover_help_.keep_above_pointer();
     // The help box never keeps the focus.
     Text1.on_got_focus = [this] {
         Text1.set_visible(false);
         cmdButton[0].set_focus();
     };
     Timer3.on_timer = [this] { hover_help_.tick(); };
-}
-
-void frmAbout::place_help_box(const Control& control, const MouseEvent& event) {
-    const double left = control.left() + event.x - Text1.width() / 2;
-    const double top = control.top() + event.y - 500;
-    Text1.move(
-        {std::clamp(left, 0.0, std::max(0.0, inner_width() - Text1.width())), top, Text1.width(), Text1.height()});
 }
 
 void frmAbout::Form_Load() {

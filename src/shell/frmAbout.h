@@ -66,7 +66,6 @@ class frmAbout final : public Form {
 
     void show_title_size();
     void emboss(EmbossStyle style);
-    void place_help_box(const Control& control, const MouseEvent& event);
 
     PointerState& pointer_;
     HoverHelp hover_help_{pointer_, Text1, Timer3};
