@@ -13,7 +13,6 @@ struct Modifiers {
     bool control = false;
     bool alt = false;
 
-    bool none() const { return !shift && !control && !alt; }
     bool only_control() const { return control && !shift && !alt; }
     bool only_alt() const { return alt && !shift && !control; }
 };

@@ -115,12 +115,6 @@ Image::Image(Container& container, Picture picture, Bounds bounds) : Graphic(con
     place_now();
 }
 
-void Image::set_picture(Picture picture) {
-    if (picture == picture_) return;
-    picture_ = picture;
-    invalidate();
-}
-
 void Image::set_picture_size(double twips) {
     picture_size_ = twips;
     invalidate();

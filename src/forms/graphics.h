@@ -83,7 +83,6 @@ class Image : public Graphic {
   public:
     Image(Container& container, Picture picture, Bounds bounds);
 
-    void set_picture(Picture picture);
     /// Draws the picture this large, in twips, in the middle of the image instead of filling it.
     void set_picture_size(double twips);
     ImageBorder border() const { return border_; }

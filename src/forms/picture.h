@@ -21,7 +21,6 @@ class Picture {
     explicit Picture(int resource) : resource_(resource) {}
 
     explicit operator bool() const { return resource_ != 0; }
-    friend bool operator==(const Picture&, const Picture&) = default;
 
     /// Draws it into `area`, in pixels, from the size drawn for it.
     void draw(HDC canvas, const RECT& area) const;

@@ -20,7 +20,6 @@ class Timer {
 
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
-    int interval() const { return milliseconds_; }
     void set_interval(int milliseconds);
 
     /// Raises the event, unless its handler is still running below a dialog; for the toolkit.

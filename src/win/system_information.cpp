@@ -2,9 +2,9 @@
 
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 
 #include "win/handle.h"
+#include "win/text_file.h"
 // Need the system's header.
 #include <shellapi.h>
 
@@ -24,11 +24,6 @@ std::wstring expanded(const std::wstring& text) {
     if (length == 0 || length > result.size()) return text;
     result.resize(length - 1);
     return result;
-}
-
-bool is_file(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
 }  // namespace
@@ -59,7 +54,7 @@ std::optional<std::wstring> system_information_tool() {
     const auto folder = GetKeyValue(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools Location", L"MSINFO");
     if (!folder) return std::nullopt;
     std::wstring path = *folder + L"\\MSINFO32.EXE";
-    if (!is_file(path)) return std::nullopt;
+    if (!file_exists(path)) return std::nullopt;
     return path;
 }
 

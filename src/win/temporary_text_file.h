@@ -16,8 +16,6 @@ class TemporaryTextFile {
     TemporaryTextFile(const TemporaryTextFile&) = delete;
     TemporaryTextFile& operator=(const TemporaryTextFile&) = delete;
 
-    const std::wstring& path() const { return path_; }
-
   private:
     std::wstring path_;
 };
