@@ -15,8 +15,6 @@ const wchar_t* standard_description(ErrorCode code) {
             return L"Out of memory";
         case ErrorCode::SubscriptOutOfRange:
             return L"Subscript out of range";
-        case ErrorCode::TypeMismatch:
-            return L"Type mismatch";
         case ErrorCode::DeviceError:
             return L"Device I/O error";
         case ErrorCode::FileNotFound:
