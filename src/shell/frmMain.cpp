@@ -1,6 +1,7 @@
 #include "shell/frmMain.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <limits>
 
 #include "text/author_links.h"
@@ -58,9 +59,8 @@ void frmMain::bind() {
         if (window_state() == WindowState::Normal) set_inner_size(design_width, design_height);
     };
     on_unload = [this] { raise(windows_.close_all); };
-    for (MouseEvents* surface : {static_cast<MouseEvents*>(this), static_cast<MouseEvents*>(&Picture1),
-                                 static_cast<MouseEvents*>(&Name), static_cast<MouseEvents*>(&Subtitle),
-                                 static_cast<MouseEvents*>(&Command7), static_cast<MouseEvents*>(&Command9)}) {
+    for (MouseEvents* surface :
+         std::initializer_list<MouseEvents*>{this, &Frame1, &Picture1, &Name, &Subtitle, &Command7, &Command9}) {
         surface->on_mouse_down = [this](const MouseEvent& event) {
             if (event.button == MouseButton::Left) drag();
         };

@@ -1,5 +1,6 @@
 // The main screen as a player meets it: where it leads, how it is left, and what closes with it.
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -95,6 +96,19 @@ TEST_F(MainScreenTest, AKeyHeldDownPressesOneButtonOnly) {
     PostMessageW(form->Command4.window(), WM_KEYDOWN, VK_RETURN, 1);
     pump();
     EXPECT_EQ(cheats, 1);
+}
+
+TEST_F(MainScreenTest, IsDraggedByItsSurfaceAndByItsBand) {
+    open();
+    // In the margins of the band and of the buttons, where nothing else stands.
+    for (const int y : {4, 140}) {
+        ASSERT_TRUE(point_until(form->window(), 6, y, [] { return true; }));
+        const double left = form->left();
+        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+        move_pointer(form->window(), 46, y);
+        mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+        EXPECT_TRUE(pump_until([&] { return std::abs(form->left() - left - 600) < 45; })) << y;
+    }
 }
 
 TEST_F(MainScreenTest, LeadsEverywhere) {
