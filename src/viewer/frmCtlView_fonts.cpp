@@ -90,7 +90,12 @@ void frmCtlView::collect_fonts() {
     {
         // Nothing but the progress window can be used: its F10 is what ends the collection.
         const ModalScope modal(status_->window());
-        fill_font_menu(fonts);
+        try {
+            fill_font_menu(fonts);
+        } catch (...) {
+            status_->set_closable(true);
+            throw;
+        }
     }
     if (closed()) return;
     const int last = static_cast<int>(menus.mnuFontName.size()) - 1;

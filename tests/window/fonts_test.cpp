@@ -9,6 +9,7 @@
 #include "common/session.h"
 #include "support.h"
 #include "temporary.h"
+#include "text/error.h"
 #include "viewer/frmCtlView.h"
 #include "viewer/frmStatus.h"
 
@@ -194,6 +195,24 @@ TEST_F(FontsTest, AFileThatCannotBeWrittenIsReportedAndTheNextTryCanSucceed) {
     std::filesystem::remove(folder.path() / "Fonts.dat");
     collect_all();
     EXPECT_EQ(file(), "Alpha\r\nBeta\r\n");
+    EXPECT_TRUE(pump_until([this] { return !status(); }));
+}
+
+TEST_F(FontsTest, AfterAFailureTheUserCanCloseTheProgressWindow) {
+    fonts = {L"First", L"Beta", L"Alpha"};
+    open();
+    on_asked = [](int position) {
+        if (position == 2) throw Error(ErrorCode::OutOfMemory);
+    };
+    expect_message(L"Continue?", question);
+    expect_message(L"Error!", L"Out of memory");
+    collect();
+    EXPECT_EQ(listed(), Names{L"Beta"}) << "what was done stays done";
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "Fonts.dat"));
+    ASSERT_TRUE(status());
+    const UINT close_button = GetMenuState(GetSystemMenu(status()->window(), FALSE), SC_CLOSE, MF_BYCOMMAND);
+    EXPECT_EQ(close_button & (MF_GRAYED | MF_DISABLED), 0u);
+    status()->close();
     EXPECT_TRUE(pump_until([this] { return !status(); }));
 }
 
