@@ -16,6 +16,9 @@ constexpr wchar_t main_screen_class[] = L"frmMain";
 
 using Clock = std::chrono::steady_clock;
 
+/// What does not answer for so long never will.
+constexpr std::chrono::duration<double> for_good{60};
+
 /// Other than `Program::wait_until`: with a patience of its own.
 bool wait_for(std::chrono::milliseconds patience, const std::function<bool()>& condition) {
     const Clock::time_point deadline = Clock::now() + patience;
@@ -132,25 +135,28 @@ void Soak::note(const Action& action, const Scene& scene) {
     log_ << std::endl;
 }
 
-bool Soak::answers() {
+double Soak::seconds_without_answer() {
     const Scene scene(program_.process().dwProcessId);
-    if (scene.windows().empty()) return true;
+    if (scene.windows().empty()) return 0;
+    const HWND window = scene.windows().front();
     constexpr UINT patience = 2000;
+    const Clock::time_point asked = Clock::now();
+    std::chrono::duration<double> waited{};
     DWORD_PTR result = 0;
-    // The machine may be busy with something else: one miss is no fault.
-    for (int attempt = 0; attempt < 2; ++attempt) {
-        const HWND window = scene.windows().front();
-        if (SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, patience, &result) || !IsWindow(window))
-            return true;
-        log_ << "# no answer for 2 s" << std::endl;
+    while (waited < for_good && program_.running() && IsWindow(window) &&
+           !SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, patience, &result)) {
+        waited = Clock::now() - asked;
+        log_ << "# no answer for " << waited.count() << " s" << std::endl;
     }
-    return !program_.running();
+    return waited.count();
 }
 
 void Soak::look_after_program() {
     if (!program_.running()) return restart();
-    if (!answers()) {
-        fault("hangs: no answer for 2 s, twice in a row");
+    // The machine may be busy with something else: one miss is no fault.
+    if (const double seconds = seconds_without_answer(); seconds > 3) {
+        fault("no answer for " + std::to_string(seconds) + " s");
+        if (seconds < for_good.count()) return;
         program_.end();
         return start_program();
     }

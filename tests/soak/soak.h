@@ -33,7 +33,8 @@ class Soak {
     void fault(const std::string& what);
     bool wait_for_window();
     void note(const Action& action, const Scene& scene);
-    bool answers();
+    /// How long the program has kept a question waiting, in steps of 2 s.
+    double seconds_without_answer();
     void look_after_program();
     void rest();
     bool put_away_windows();
