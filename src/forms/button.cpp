@@ -6,14 +6,6 @@
 #include "forms/form.h"
 
 namespace quillomat {
-namespace {
-
-/// As the eye sees it, from 0 to 255.
-int brightness(COLORREF colour) {
-    return (299 * GetRValue(colour) + 587 * GetGValue(colour) + 114 * GetBValue(colour)) / 1000;
-}
-
-}  // namespace
 
 Button::Button(Container& container, std::wstring_view caption, Bounds bounds)
     : Control(container, bounds, L"BUTTON", caption, BS_OWNERDRAW | WS_TABSTOP | WS_GROUP) {}
@@ -63,10 +55,8 @@ void Button::draw_face(HDC canvas, RECT& area, bool pressed) const {
 
 COLORREF Button::caption_colour() const {
     if (!enabled()) return resolve(colours::grey_text);
-    const COLORREF chosen = resolve(fore_colour());
-    const COLORREF background = resolve(back_colour());
     // A background whose colour runs through the rainbow must not swallow the caption.
-    return brightness(background) < 128 && brightness(chosen) < 128 ? resolve(colours::white) : chosen;
+    return legible(fore_colour(), back_colour());
 }
 
 void Button::draw(const DRAWITEMSTRUCT& request) {

@@ -8,6 +8,8 @@ namespace quillomat {
 struct Colour {
     std::uint32_t value = 0;
 
+    constexpr bool follows_theme() const { return value & 0x80000000U; }
+
     friend constexpr bool operator==(Colour, Colour) = default;
 };
 

@@ -166,7 +166,7 @@ void Control::set_fore_colour(Colour colour) {
 }
 
 HBRUSH Control::prepare_colours(HDC canvas) {
-    SetTextColor(canvas, resolve(enabled() ? fore_colour_ : colours::grey_text));
+    SetTextColor(canvas, enabled() ? legible(fore_colour_, back_colour_) : resolve(colours::grey_text));
     SetBkColor(canvas, resolve(back_colour_));
     SetDCBrushColor(canvas, resolve(back_colour_));
     return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));

@@ -44,8 +44,13 @@ class Selection {
 
 /// The colour as the system wants it, with system colours looked up in the user's theme.
 inline COLORREF resolve(Colour colour) {
-    return colour.value & 0x80000000U ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;
+    return colour.follows_theme() ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;
 }
+
+/// The colour for a text on a background: the text's own where that can be read, else black or white. Two colours of
+/// the user's theme are taken as they are. For texts of a fixed colour on the theme's background, or the other way
+/// round.
+COLORREF legible(Colour text, Colour background);
 
 /// Fills a rectangle of pixels without creating a brush.
 inline void fill(HDC canvas, const RECT& area, Colour colour) {

@@ -52,7 +52,7 @@ void Link::draw(const DRAWITEMSTRUCT& request) {
     spec.underline = hot();
     const Selection selected(canvas, form().application().fonts().get(spec, dpi()));
     SetBkMode(canvas, TRANSPARENT);
-    SetTextColor(canvas, resolve(down ? held_down : idle));
+    SetTextColor(canvas, legible(down ? held_down : idle, container().back_colour()));
     RECT area = request.rcItem;
     InflateRect(&area, -margin_pixels, 0);
     const std::wstring text = caption();
