@@ -141,7 +141,7 @@ void wait_microseconds(long long microseconds) {
         QueryPerformanceCounter(&now);
 }
 
-/// Whether the file holds nothing but whole records after the writer was ended.
+/// Ends a writer in the middle of its work: whether the file is as after its last writing, or as after one more.
 bool survives_kill(Way way, const std::wstring& path, std::mt19937& random) {
     const std::string start = bytes_of(path);
     Writer writer(way == Way::Append ? L"append" : L"replace", path);
@@ -154,7 +154,7 @@ bool survives_kill(Way way, const std::wstring& path, std::mt19937& random) {
         std::printf("torn: %zu bytes after %d writings on %zu bytes\n", left.size(), finished, start.size());
         return false;
     }
-    games_in(left);
+    games_in(left);  // throws when it does not load
     return true;
 }
 

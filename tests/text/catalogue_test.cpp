@@ -77,17 +77,6 @@ TEST(Catalogue, FillsTheSlots) {
     }
 }
 
-TEST(Catalogue, KeepsWhatWasReadBeforeANameLineWithoutSeparator) {
-    for (const wchar_t* line_end : {L"\r\n", L"\r", L""}) {
-        Catalogue catalogue;
-        const Outcome outcome = load(catalogue, marker + L" A\r\ntext\r\n" + marker + line_end);
-        EXPECT_EQ(outcome.error, ErrorCode::InvalidArgument);
-        EXPECT_EQ(outcome.listed, Names{L"A"});
-        EXPECT_EQ(catalogue.name(1), L"");
-        EXPECT_EQ(catalogue.cheats(1), L"text");
-    }
-}
-
 TEST(Catalogue, HoldsAllItsSlotsAndNoLineMore) {
     for (const std::wstring& more : {std::wstring(), std::wstring(L"\r\n"), std::wstring(L"x"), marker}) {
         Catalogue catalogue;

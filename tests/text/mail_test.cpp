@@ -1,5 +1,3 @@
-#include "text/mail.h"
-
 #include <gtest/gtest.h>
 
 #include "text/mail_result.h"
@@ -7,13 +5,6 @@
 
 namespace quillomat {
 namespace {
-
-TEST(Mail, ADoubleClickOnAPlaceholderMeansAllOfIt) {
-    const std::pair<const wchar_t*, std::optional<int>> cases[] = {
-        {L"[FRIEND'S ", 15}, {L"[YOUR ", 11}, {L"[YOUR", 11}, {L"[your ", {}}, {L"", {}}, {L"YOUR ", {}},
-    };
-    for (const auto& [selected, length] : cases) EXPECT_EQ(placeholder_length(selected), length);
-}
 
 TEST(Mail, EveryNumberOfAMailProgramBecomesASentenceForAUser) {
     for (unsigned number = 1; number < 40; ++number) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <numeric>
-
 namespace quillomat {
 namespace {
 
@@ -25,18 +23,6 @@ TEST(Squeeze, AveragesWhatFallsOnAPixel) {
 TEST(Squeeze, RowsStayApart) {
     EXPECT_EQ(squeezed({3, 2, {1, 2, 3, 4, 5, 6}}, -1, white).pixels, (std::vector<std::uint32_t>{3, 2, 1, 6, 5, 4}));
     EXPECT_TRUE(squeezed({}, 0.3, white).pixels.empty());
-}
-
-TEST(Squeeze, TheAmountOfPictureFollowsTheFactor) {
-    // Without this the edges of a slowly turning picture would jump from pixel to pixel.
-    for (const int width : {1, 7, 120}) {
-        const PixelPicture black{width, 1, std::vector<std::uint32_t>(static_cast<std::size_t>(width), 0)};
-        for (double factor = -1; factor <= 1; factor += 0.013) {
-            const PixelPicture result = squeezed(black, factor, 0xFF);
-            const auto light = std::accumulate(result.pixels.begin(), result.pixels.end(), 0.0);
-            EXPECT_NEAR(light / 0xFF, width * (1 - std::abs(factor)), 0.01 + width / 510.0) << width << ' ' << factor;
-        }
-    }
 }
 
 }  // namespace

@@ -5,42 +5,34 @@
 #include <limits>
 #include <string>
 
+#include "temporary.h"
 #include "text/error.h"
-#include "win/handle.h"
 
 namespace quillomat {
 namespace {
 
-constexpr wchar_t application[] = L"Quillomat settings test";
-constexpr wchar_t key_path[] = L"Software\\Quillomat settings test";
-
-/// Settings of an application of the test's own, gone afterwards.
 class SettingsStore : public testing::Test {
   protected:
-    SettingsStore() { RegDeleteTreeW(HKEY_CURRENT_USER, key_path); }
-    ~SettingsStore() override { RegDeleteTreeW(HKEY_CURRENT_USER, key_path); }
-
     /// Stores bytes as any other program could.
-    static void store(const wchar_t* key, DWORD type, const void* bytes, std::size_t size) {
-        RegistryKey opened;
-        ASSERT_EQ(RegCreateKeyW(HKEY_CURRENT_USER, (std::wstring(key_path) + L"\\Settings").c_str(), opened.receive()),
-                  ERROR_SUCCESS);
-        ASSERT_EQ(RegSetValueExW(opened.get(), key, 0, type, static_cast<const BYTE*>(bytes), static_cast<DWORD>(size)),
-                  ERROR_SUCCESS);
+    void store(const wchar_t* key, DWORD type, const void* bytes, std::size_t size) const {
+        ASSERT_EQ(
+            RegSetKeyValueW(HKEY_CURRENT_USER, registry_.key().c_str(), key, type, bytes, static_cast<DWORD>(size)),
+            ERROR_SUCCESS);
+    }
+    std::wstring raw(const wchar_t* key) const {
+        return GetSetting(registry_.application(), L"Settings", key, L"none");
     }
 
-    const Settings settings_{application};
+    const TemporarySettings registry_;
+    const Settings settings_ = registry_.settings();
 };
-
-TEST_F(SettingsStore, AnEmptyStoreAnswersWithTheFallbacks) {
-    EXPECT_EQ(settings_.read(settings::UpperLimit, 42), 42);
-}
 
 TEST_F(SettingsStore, ValuesComeBackAsTheyWere) {
     settings_.write(settings::FrmCtlViewWindowState, std::numeric_limits<std::int32_t>::min());
     EXPECT_EQ(settings_.read(settings::FrmCtlViewWindowState), std::numeric_limits<std::int32_t>::min());
     settings_.write(settings::Colour, false);
     EXPECT_FALSE(settings_.read(settings::Colour));
+    EXPECT_EQ(settings_.read(settings::UpperLimit, 42), 42);
     settings_.write(settings::UpperLimit, 7);
     EXPECT_EQ(settings_.read(settings::UpperLimit, 42), 7);
 
@@ -57,16 +49,15 @@ TEST_F(SettingsStore, OtherProgramsSeeTheAgreedNamesAndTexts) {
     settings_.write(settings::MailFriendsName, L"Ann");
     settings_.write(settings::MailOption, true);
     settings_.write(settings::frmMailMeHeight, 9000);
-    EXPECT_EQ(GetSetting(application, L"Settings", L"Mail-Friend'sName", L"none"), L"Ann");
-    EXPECT_EQ(GetSetting(application, L"Settings", L"mail-option", L"none"), L"True");
-    EXPECT_EQ(GetSetting(application, L"Settings", L"frmMailMeHeight", L"none"), L"9000");
-    EXPECT_EQ(GetSetting(application, L"Other", L"frmMailMeHeight", L"none"), L"none");
+    EXPECT_EQ(raw(L"Mail-Friend'sName"), L"Ann");
+    EXPECT_EQ(raw(L"mail-option"), L"True");
+    EXPECT_EQ(raw(L"frmMailMeHeight"), L"9000");
     // The height that is read is never the one that was written.
     EXPECT_EQ(settings_.read(settings::frmMailMeHeght), 6045);
 }
 
 TEST_F(SettingsStore, TextsThatStandForNoValueCountAsAbsent) {
-    SaveSetting(application, L"Settings", L"Value", L"32768");
+    SaveSetting(registry_.application(), L"Settings", L"Value", L"32768");
     EXPECT_EQ(settings_.read(SettingKey<std::int16_t>{L"Value"}, 77), 77);
     EXPECT_EQ(settings_.read(SettingKey<std::int32_t>{L"Value"}, 88), 32768);
     EXPECT_TRUE(settings_.read(SettingKey<bool>{L"Value"}, true));

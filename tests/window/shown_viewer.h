@@ -1,7 +1,5 @@
 #pragma once
 
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 
@@ -44,15 +42,8 @@ class ShownViewerTest : public WindowTest {
         session.catalogue.load(decode(bytes("Cheats.dat")), [](std::wstring_view) {});
     }
 
-    void write(const std::filesystem::path& name, std::string_view bytes) const {
-        std::ofstream(folder.path() / name, std::ios::binary)
-            .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    }
-    std::string bytes(const std::filesystem::path& name) const {
-        std::ifstream stream(folder.path() / name, std::ios::binary);
-        EXPECT_TRUE(stream.is_open()) << name;
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    void write(const std::filesystem::path& name, std::string_view bytes) const { folder.write(name, bytes); }
+    std::string bytes(const std::filesystem::path& name) const { return folder.read(name); }
 
     TemporaryFolder folder;
     TemporarySettings registry;

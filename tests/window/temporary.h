@@ -1,7 +1,10 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
+#include <string_view>
 
 #include "common/settings.h"
 #include "win/api.h"
@@ -24,6 +27,14 @@ class TemporaryFolder {
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
+    void write(const std::filesystem::path& name, std::string_view bytes) const {
+        std::ofstream(path_ / name, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+    /// The content of a file; empty when there is none.
+    std::string read(const std::filesystem::path& name) const {
+        std::ifstream file(path_ / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
 
   private:
     void remove() const {
@@ -43,6 +54,7 @@ class TemporarySettings {
     TemporarySettings& operator=(const TemporarySettings&) = delete;
 
     Settings settings() const { return Settings(application_); }
+    const std::wstring& application() const { return application_; }
     /// Where they are, below the user's part of the registry.
     std::wstring key() const { return L"Software\\" + application_ + L"\\Settings"; }
 

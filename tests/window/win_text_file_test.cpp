@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <optional>
 #include <set>
 #include <string>
@@ -39,32 +37,29 @@ class TextFile : public testing::Test {
   protected:
     ~TextFile() override {
         slot_.close();
-        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
             SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
         }
     }
 
-    std::wstring path(const wchar_t* name) const { return (folder_ / name).wstring(); }
+    std::wstring path(const wchar_t* name) const { return (folder_.path() / name).wstring(); }
 
     std::wstring make(const wchar_t* name, std::string_view bytes) const {
-        std::ofstream(folder_ / name, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        folder_.write(name, bytes);
         return path(name);
     }
 
-    static std::string bytes_of(const std::wstring& file) {
-        std::ifstream stream(std::filesystem::path(file), std::ios::binary);
-        EXPECT_TRUE(stream.is_open());
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    /// The content of a file by its whole path.
+    std::string bytes_of(const std::wstring& file) const { return folder_.read(file); }
 
     std::set<std::wstring> names() const {
         std::set<std::wstring> found;
-        for (const auto& entry : std::filesystem::directory_iterator(folder_)) found.insert(entry.path().filename());
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path()))
+            found.insert(entry.path().filename());
         return found;
     }
 
-    const TemporaryFolder own_;
-    const std::filesystem::path folder_ = own_.path();
+    const TemporaryFolder folder_;
     TextFileSlot slot_;
 };
 
@@ -92,7 +87,7 @@ TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
     const FileHandle lock(CreateFileW(locked.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     const std::pair<std::wstring, ErrorCode> cases[] = {
         {path(L"none.txt"), ErrorCode::FileNotFound},
-        {folder_.wstring(), ErrorCode::PermissionDenied},
+        {folder_.path().wstring(), ErrorCode::PermissionDenied},
         {locked, ErrorCode::PermissionDenied},
     };
     for (const auto& [file, code] : cases) {
@@ -104,8 +99,8 @@ TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
 TEST_F(TextFile, ReadingKeepsNobodyFromWriting) {
     const std::wstring file = make(L"a.txt", "old");
     slot_.open_for_reading(file);
-    std::ofstream(std::filesystem::path(file), std::ios::binary | std::ios::app) << " and new";
-    EXPECT_EQ(bytes_of(file), "old and new");
+    folder_.write(L"a.txt", "new");
+    EXPECT_EQ(bytes_of(file), "new");
     // Only the one slot is taken, not the file.
     EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), ErrorCode::FileAlreadyOpen);
 }
@@ -166,7 +161,7 @@ TEST_P(TextFileWriting, AFailureChangesNothing) {
     EXPECT_EQ(write(file, unwritable), ErrorCode::InvalidArgument);
     EXPECT_EQ(write(path(L"new.txt"), unwritable), ErrorCode::InvalidArgument);
     expect_unchanged();
-    EXPECT_EQ(write(folder_.wstring(), L"new"), ErrorCode::PermissionDenied);
+    EXPECT_EQ(write(folder_.path().wstring(), L"new"), ErrorCode::PermissionDenied);
     expect_unchanged();
     {
         // Another program that lets nobody write.
