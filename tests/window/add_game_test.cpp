@@ -1,8 +1,6 @@
 // Adding a game as a player does it: typing, pressing the button, and what the database holds afterwards.
 
-#include "open_forms.h"
 #include "output/frmAddNew.h"
-#include "shell/windows.h"
 #include "shown_viewer.h"
 #include "text/error.h"
 
@@ -40,29 +38,18 @@ class AddGameTest : public ShownViewerTest {
 
 TEST_F(AddGameTest, AppendsExactlyTheRecordAndShowsTheGame) {
     open();
-    type(L"My game ", L" first\r\n\r\nthird \r\n");
-    expect_added(L"My game ");
+    type(L"ALPHA ", L" first\r\n\r\nthird \r\n");
+    expect_added(L"ALPHA ");
     add();
     EXPECT_TRUE(closes());
     EXPECT_EQ(bytes("Cheats.dat"),
-              std::string(database) + " first\r\n\r\nthird \r\n\r\n$$$$$$$$$$$$$$$$$$$$ My game \r\n");
+              std::string(database) + " first\r\n\r\nthird \r\n\r\n$$$$$$$$$$$$$$$$$$$$ ALPHA \r\n");
     EXPECT_EQ(session.viewer.game_count, 3);
-    EXPECT_EQ(viewer->List2.selected_index(), 2);
-    EXPECT_EQ(viewer->caption(), L"My game ");
+    EXPECT_EQ(viewer->List2.selected_index(), 2) << "not the older Alpha";
     EXPECT_EQ(viewer->Text1.text(), L" first\r\n\r\nthird \r\n");
     read_again();
-    EXPECT_EQ(session.catalogue.name(2), L"My game ");
+    EXPECT_EQ(session.catalogue.name(2), L"ALPHA ");
     EXPECT_EQ(session.catalogue.cheats(2), L" first\r\n\r\nthird \r\n");
-}
-
-TEST_F(AddGameTest, ANameInOtherLettersIsANewGame) {
-    open();
-    type(L"ALPHA", L"other");
-    expect_added(L"ALPHA");
-    add();
-    EXPECT_TRUE(closes());
-    EXPECT_EQ(viewer->List2.selected_index(), 2) << "not the older Alpha";
-    EXPECT_EQ(viewer->Text1.text(), L"other");
 }
 
 TEST_F(AddGameTest, ANameThatExistsIsShownAndAnotherOneProposed) {
@@ -128,13 +115,14 @@ TEST_F(AddGameTest, AFileThatCannotBeWrittenLeavesTheWindowOpenAndTheFileAsItWas
 TEST_F(AddGameTest, WhatTheCodePageLacksIsRefusedBeforeTheGameIsAnywhere) {
     open();
     type(L"Half", L"a pair \xD83D");
-    std::wstring reason;
-    try {
-        encode(L"\xD83D");
-    } catch (const Error& error) {
-        reason = error.description();
-    }
-    expect_message(L"Error!", reason);
+    expect_message(L"Error!", [] {
+        try {
+            encode(L"\xD83D");
+        } catch (const Error& error) {
+            return error.description();
+        }
+        return std::wstring();
+    }());
     add();
     EXPECT_EQ(window->Text2.text(), L"a pair \xD83D");
     EXPECT_EQ(session.viewer.game_count, 2);
@@ -148,7 +136,7 @@ TEST_F(AddGameTest, WhatTheCodePageLacksIsRefusedBeforeTheGameIsAnywhere) {
 TEST_F(AddGameTest, VeryLongTextsStayWhole) {
     const std::wstring name(10'000, L'N');
     std::wstring cheats(100'000, L'x');
-    while (cheats.size() < (1 << 20)) cheats += L"\r\nUP DOWN LEFT RIGHT START";
+    while (cheats.size() < 200'000) cheats += L"\r\nUP DOWN LEFT RIGHT START";
     open();
     type(name, cheats);
     expect_added(name);
@@ -159,16 +147,6 @@ TEST_F(AddGameTest, VeryLongTextsStayWhole) {
     read_again();
     EXPECT_TRUE(session.catalogue.name(2) == name);
     EXPECT_TRUE(session.catalogue.cheats(2) == cheats);
-}
-
-TEST_F(AddGameTest, NothingTypedByKeyIsLimited) {
-    open();
-    for (const TextBox* box : {&window->Text1, &window->Text2}) {
-        SendMessageW(box->window(), EM_REPLACESEL, FALSE,
-                     reinterpret_cast<LPARAM>(std::wstring(100'000, L'x').c_str()));
-        SendMessageW(box->window(), WM_CHAR, L'z', 1);
-        EXPECT_EQ(box->text().size(), 100'001u);
-    }
 }
 
 TEST_F(AddGameTest, OpensOnAScreenThatIsTooLowForIt) {
@@ -212,41 +190,6 @@ TEST_F(AddGameTest, KeysLeadThroughTheWindow) {
     press_key(VK_ESCAPE);
     EXPECT_TRUE(closes());
     EXPECT_EQ(bytes("Cheats.dat"), database);
-}
-
-TEST_F(AddGameTest, TheHelpBoxAppearsOverBothButtons) {
-    open();
-    EXPECT_TRUE(pump_until([this] {
-        return window->Text3.visible() && window->Text3.text() == L"Click here to add the game!";
-    })) << "the pointer starts on the button, which is not yet enabled";
-    EXPECT_LE(window->Text3.left() + window->Text3.width(), window->inner_width() + 15);
-    EXPECT_TRUE(point_until(window->cmdButton[1]->window(), 40, 8, [this] {
-        return window->Text3.text() == L"Click here to leave without adding the game!" && window->Text3.visible();
-    }));
-    EXPECT_TRUE(point_until(window->Text2.window(), 40, 8, [this] { return !window->Text3.visible(); }));
-}
-
-TEST_F(AddGameTest, OpensModallyFromTheViewersMenu) {
-    write("Cheats.dat", database);
-    session.program_folder = folder.path().wstring();
-    session.settings = registry.settings();
-    Windows windows(application, session);
-    windows.open_viewer();
-    auto& opened = *find_form<frmCtlView>();
-    for (Menu* entry : {&opened.menus.mnuAddNew, &opened.menus.mnuSelectedAddNew}) {
-        bool seen = false;
-        Timer probe(opened, 10);
-        probe.on_timer = [&] {
-            auto* dialog = find_form<frmAddNew>();
-            if (!dialog || !IsWindowVisible(dialog->window())) return;
-            seen = true;
-            EXPECT_FALSE(IsWindowEnabled(opened.window()));
-            dialog->close();
-        };
-        entry->pick();
-        EXPECT_TRUE(seen);
-        EXPECT_EQ(GetForegroundWindow(), opened.window());
-    }
 }
 
 }  // namespace

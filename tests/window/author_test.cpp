@@ -69,31 +69,6 @@ TEST_F(AuthorTest, GrowsAsFarAsTheScreenLetsIt) {
     for (const Link* link : links()) EXPECT_TRUE(link->visible());
 }
 
-TEST_F(AuthorTest, TheCoinTurns) {
-    open(144);
-    const auto columns_with_coin = [this] {
-        author->picCopy.refresh();
-        RECT client{};
-        GetClientRect(author->picCopy.window(), &client);
-        const HDC shown = GetDC(author->picCopy.window());
-        std::vector<int> columns;
-        for (int x = 0; x < client.right; ++x) {
-            if (GetPixel(shown, x, client.bottom / 2) != 0xFFFFFF) columns.push_back(x);
-        }
-        ReleaseDC(author->picCopy.window(), shown);
-        return columns;
-    };
-    const auto facing = static_cast<double>(columns_with_coin().size());
-    author->Timer2.tick();
-    const std::vector<int> turned = columns_with_coin();
-    EXPECT_NEAR(static_cast<double>(turned.size()), 0.809 * facing, 4);
-    EXPECT_NEAR(turned.front() + turned.back(), to_pixels(author->picCopy.width(), 144), 3) << "about its middle";
-    for (int tick = 2; tick <= 16; ++tick) author->Timer2.tick();
-    EXPECT_LE(columns_with_coin().size(), 2U) << "from its edge next to nothing is to be seen";
-    for (int tick = 17; tick <= 41; ++tick) author->Timer2.tick();
-    EXPECT_NEAR(static_cast<double>(columns_with_coin().size()), facing, 2) << "its other side";
-}
-
 TEST_F(AuthorTest, EveryLinkOpensItsPage) {
     const CaughtLinks caught;
     open();
@@ -134,17 +109,6 @@ TEST_F(AuthorTest, ADoubleClickOpensTheAddressUnderThePointer) {
     }
 }
 
-TEST_F(AuthorTest, AnyOtherSelectionOpensNothing) {
-    // Whatever would be opened now gives a message that nobody announced.
-    const RegistryOverride no_programs(HKEY_CLASSES_ROOT);
-    open();
-    const std::size_t length = author->Text1.text().size();
-    for (const auto& [start, count] : {std::pair<std::size_t, std::size_t>{0, 0}, {0, 3}, {1, 21}, {0, length}}) {
-        author->Text1.select(start, count);
-        author->Text1.on_double_click();
-    }
-}
-
 TEST_F(AuthorTest, TheKeyboardReachesEverything) {
     open();
     press_key('O', {VK_MENU});
@@ -168,19 +132,6 @@ TEST_F(AuthorTest, TheKeyboardReachesEverything) {
     open();
     press_key('T', {VK_MENU});
     EXPECT_TRUE(pump_until([this] { return author->closed(); }));
-}
-
-TEST_F(AuthorTest, HoveringShowsWhatItsButtonsDo) {
-    open();
-    const auto shown = [this](const wchar_t* text) {
-        return [this, text] { return author->HelpBox.visible() && author->HelpBox.text() == text; };
-    };
-    EXPECT_TRUE(point_until(author->cmdButton[0].window(), 10, 10, shown(L"Click here to see the links to my pages")));
-    author->cmdButton[0].click();
-    EXPECT_TRUE(pump_until(shown(L"Click here to hide the links again")))
-        << "another button has come under the resting pointer";
-    EXPECT_GE(author->HelpBox.left(), 0);
-    EXPECT_TRUE(point_until(author->cmdButton[2].window(), 10, 10, shown(L"Click here to go back to the main screen")));
 }
 
 }  // namespace

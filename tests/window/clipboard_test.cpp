@@ -58,13 +58,10 @@ class ClipboardTest : public WindowTest {
 };
 
 TEST_F(ClipboardTest, HoldsWhatWasCopiedToTheEnd) {
-    const std::wstring text = L"\u00C9t\u00E9 \u65E5\r\n\r\n" + std::wstring(100'000, L'x') + L"end";
-    put_on_clipboard(owner, text);
-    EXPECT_TRUE(clipboard_text() == text);
-
     using namespace std::string_literals;
-    put_on_clipboard(owner, L"a\0b"s);
-    EXPECT_EQ(clipboard_text(), L"a b") << "nothing behind a NUL is lost";
+    const std::wstring text = L"a\0b\u65E5\r\n"s + std::wstring(100'000, L'x') + L"end";
+    put_on_clipboard(owner, text);
+    EXPECT_EQ(clipboard_text(), L"a b" + text.substr(3)) << "nothing behind a NUL is lost";
 }
 
 TEST_F(ClipboardTest, AProgramThatHasItOpenForAMomentIsWaitedFor) {

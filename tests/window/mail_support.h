@@ -8,36 +8,12 @@
 
 #include "common/session.h"
 #include "forms/button.h"
+#include "registry_override.h"
 #include "support.h"
 #include "temporary.h"
 #include "win/api.h"
 
 namespace quillomat {
-
-/// Makes the machine's part of the registry, as this process sees it, an empty one of the test's own.
-class MachineRegistry {
-  public:
-    MachineRegistry() {
-        RegCreateKeyExW(HKEY_CURRENT_USER, path_.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr);
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, key_);
-    }
-    ~MachineRegistry() {
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
-        RegCloseKey(key_);
-        RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str());
-    }
-    MachineRegistry(const MachineRegistry&) = delete;
-    MachineRegistry& operator=(const MachineRegistry&) = delete;
-
-    static void write(const wchar_t* key, const wchar_t* name, const std::wstring& text) {
-        RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, name, REG_SZ, text.c_str(),
-                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-    }
-
-  private:
-    std::wstring path_ = L"Software\\QuillomatTestMachine" + std::to_wstring(GetCurrentProcessId());
-    HKEY key_ = nullptr;
-};
 
 /// A window that sends mails, on a computer whose default mail program is the tests' own.
 class MailTest : public WindowTest {
@@ -50,8 +26,8 @@ class MailTest : public WindowTest {
         std::filesystem::create_directories(record());
         SetEnvironmentVariableW(L"QUILLOMAT_MAIL_FOLDER", record().c_str());
         refuse(L"");
-        MachineRegistry::write(L"Software\\Clients\\Mail", nullptr, L"Recorder");
-        MachineRegistry::write(L"Software\\Clients\\Mail\\Recorder", L"DLLPath", recorder_path());
+        machine.set(L"Software\\Clients\\Mail", nullptr, L"Recorder");
+        machine.set(L"Software\\Clients\\Mail\\Recorder", L"DLLPath", recorder_path());
     }
 
     /// Has the mail program refuse a call, as in "MAPILogon=3"; an empty text has it refuse none.
@@ -88,7 +64,7 @@ class MailTest : public WindowTest {
 
     TemporaryFolder folder;
     TemporarySettings registry;
-    MachineRegistry machine;
+    RegistryOverride machine{HKEY_LOCAL_MACHINE};
     Session session;
 
   private:
