@@ -100,6 +100,7 @@ TEST_F(FindTest, GoesOnWhereItWasWhenOpenedAgain) {
         EXPECT_TRUE(dialog->optDirection[1].value());
         EXPECT_TRUE(dialog->chkCase.value());
     };
+    // As if the step had ended at the first place.
     page->Text1.select(2, 0);
     state.gCurPos = 2;
     reopen();
