@@ -36,7 +36,7 @@ Windows::Windows(Application& application, Session& session) : application_(appl
     viewer_windows_.add_game = [this] { open_add_game(); };
     viewer_windows_.save = [this] { open_save(); };
     viewer_windows_.print_list = [this] { show_print_list(); };
-    viewer_windows_.find = [this] { open_find(*viewer_, viewer_->Text1); };
+    viewer_windows_.find = [this] { open_find(); };
 }
 
 Windows::~Windows() = default;
@@ -117,12 +117,8 @@ void Windows::show_print_list() {
     form.show_modal(viewer_.get());
 }
 
-void Windows::open_find(Form& searched, TextBox& box) {
-    if (find_ && &find_->searched_box() != &box) {
-        find_->close();
-        find_.reset();
-    }
-    open(find_, session_.find, searched, box);
+void Windows::open_find() {
+    open(find_, session_.find, *viewer_, viewer_->Text1);
     find_->txtFind.set_focus();
 }
 

@@ -9,8 +9,6 @@
 namespace quillomat {
 
 class Application;
-class Form;
-class TextBox;
 class frmCtlView;
 class frmFind;
 class frmMailMe;
@@ -35,9 +33,6 @@ class Windows {
     void open_viewer();
     /// Opens the message to the author, or brings the open one to the front.
     void open_author_mail();
-    /// Opens the find dialog for a text box of a window, or brings it to the front if it is open for that one. There
-    /// is one at a time: one that was open for another box closes.
-    void open_find(Form& searched, TextBox& box);
 
   private:
     template <class Window, class... Arguments>
@@ -48,6 +43,8 @@ class Windows {
     void restore_main_screen();
     void open_add_game();
     void open_save();
+    /// Opens the find dialog for the viewer's text, or brings it to the front.
+    void open_find();
     void quit_after_last();
     void mail_cheats();
     void show_print_list();

@@ -27,9 +27,6 @@ class frmFind final : public Form {
     Button cmdFind{*this, L"&Find", {4305, 135, 1170, 345}};
     Button cmdcancel{*this, L"C&ancel", {4305, 570, 1170, 345}};
 
-    /// The text box that is looked through.
-    const TextBox& searched_box() const { return box_; }
-
     /// One step of the search: shows the next place in the text, or tells that there is none.
     void FindIt();
 

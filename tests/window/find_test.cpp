@@ -1,9 +1,12 @@
 // The find dialog over a text box, by mouse and by keyboard.
 
+#include <fstream>
 #include <memory>
 
 #include "shell/windows.h"
 #include "support.h"
+#include "temporary.h"
+#include "viewer/frmCtlView.h"
 #include "viewer/frmFind.h"
 
 namespace quillomat {
@@ -14,7 +17,6 @@ struct Page : Form {
         : Form(application, {.name = L"frmPage", .caption = L"Page", .width = 6600, .height = 5400}) {}
 
     TextBox Text1{*this, {120, 120, 6000, 3500}, TextBoxKind::Reading};
-    TextBox Text2{*this, {120, 3800, 6000, 900}, TextBoxKind::MultiLine};
 };
 
 class FindTest : public WindowTest {
@@ -131,20 +133,25 @@ TEST_F(FindTest, AWindowThatClosesWaitsForADialogAtWork) {
     EXPECT_TRUE(pump_until([this] { return !dialog && !page; }));
 }
 
-TEST_F(FindTest, ThereIsOneForTheBoxThatIsSearched) {
+TEST_F(FindTest, TheViewerHasOneAndAsksItAgain) {
+    const TemporaryFolder folder;
+    const TemporarySettings registry;
     Session session;
+    session.program_folder = folder.path().wstring();
+    session.settings = registry.settings();
+    std::ofstream(folder.path() / "Cheats.dat") << "text";
     Windows windows(application, session);
+    windows.open_viewer();
+    auto* viewer = dynamic_cast<frmCtlView*>(Form::from(FindWindowW(L"frmCtlView", nullptr)));
+    ASSERT_TRUE(viewer);
     const auto find_window = [] { return FindWindowW(L"frmFind", L"Find"); };
-    windows.open_find(*page, page->Text1);
+    viewer->menus.mnuSelectedFind.pick();
     const HWND first = find_window();
     ASSERT_TRUE(first);
-    page->Text1.set_focus();
-    windows.open_find(*page, page->Text1);
+    viewer->Text1.set_focus();
+    viewer->menus.mnuTextBoxFind.pick();
     EXPECT_EQ(find_window(), first);
     EXPECT_TRUE(pump_until([first] { return GetParent(GetFocus()) == first; })) << "it asks again";
-    windows.open_find(*page, page->Text2);
-    EXPECT_FALSE(IsWindow(first));
-    EXPECT_TRUE(find_window());
 }
 
 }  // namespace
