@@ -127,11 +127,6 @@ LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             raise(on_got_focus);
             return result;
         }
-        case WM_KILLFOCUS: {
-            const LRESULT result = default_message(message, wparam, lparam);
-            raise(on_lost_focus);
-            return result;
-        }
     }
     return default_message(message, wparam, lparam);
 }

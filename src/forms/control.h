@@ -19,7 +19,6 @@ class Control : public Item {
     ~Control() override;
 
     std::function<void()> on_got_focus;
-    std::function<void()> on_lost_focus;
     std::function<void(KeyEvent&)> on_key_down;
     /// A key that goes down, before `on_key_down`: for the shortcuts that an object beside the form gives the control.
     std::function<void(KeyEvent&)> on_shortcut_key;

@@ -19,10 +19,6 @@ DropDownList::DropDownList(Container& container, Bounds bounds)
     DropDownList::apply_bounds();
 }
 
-int DropDownList::count() const {
-    return static_cast<int>(send(CB_GETCOUNT));
-}
-
 void DropDownList::add(std::wstring_view text) {
     if (send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
         throw Error(ErrorCode::OutOfMemory);

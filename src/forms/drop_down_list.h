@@ -18,7 +18,6 @@ class DropDownList : public Control {
     /// choosing.
     std::function<void()> on_change;
 
-    int count() const;
     void add(std::wstring_view text);
     std::optional<int> selected_index() const;
     /// Throws `Error` with SubscriptOutOfRange when there is no text at the position.
