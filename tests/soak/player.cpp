@@ -114,11 +114,14 @@ void Player::plan_filling_in(const Scene& scene) {
         if (!has_class(control, L"Edit")) continue;
         click(control);
         for (int length = number(1, 12); length > 0; --length) {
-            planned_.push_back({.kind = Action::Kind::Character, .value = any(characters), .pause = number(0, 10)});
+            // Rarely what the code page of the files lacks, which is refused.
+            const wchar_t letter = chance(98) ? any(characters.substr(0, 26)) : any(characters);
+            planned_.push_back({.kind = Action::Kind::Character, .value = letter, .pause = number(0, 10)});
         }
     }
     if (planned_.empty() || buttons.empty()) return planned_.clear();
-    click(any(buttons));
+    // The one that does it comes first, as a rule.
+    click(chance(60) ? buttons.front() : any(buttons));
 }
 
 Action Player::with_mouse(const Scene& scene) {

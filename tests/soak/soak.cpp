@@ -146,7 +146,7 @@ double Soak::seconds_without_answer() {
     while (waited < for_good && program_.running() && IsWindow(window) &&
            !SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, patience, &result)) {
         waited = Clock::now() - asked;
-        log_ << "# no answer for " << waited.count() << " s" << std::endl;
+        if (IsWindow(window)) log_ << "# no answer for " << waited.count() << " s" << std::endl;
     }
     return waited.count();
 }
