@@ -173,6 +173,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             }
             break;
         case WM_INITMENUPOPUP:
+            if (std::exchange(menu_pictures_stale_, false)) renew_menu_pictures();
             for (const auto& [id, menu] : commands_) {
                 if (menu->handle() == reinterpret_cast<HMENU>(wparam)) {
                     raise(menu->on_click);
@@ -200,7 +201,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SYSCOLORCHANGE:
         case WM_THEMECHANGED:
             for (Control* control : controls()) SendMessageW(control->window(), message, wparam, lparam);
-            renew_menu_pictures();
+            menu_pictures_changed();
             InvalidateRect(window_, nullptr, TRUE);
             break;
     }

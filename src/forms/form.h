@@ -92,6 +92,8 @@ class Form : public Container, public MouseEvents {
     double height() const;
     void set_width(double twips);
     void set_height(double twips);
+    /// Both at once, in twips: one layout of the window instead of two.
+    void set_size(double width, double height);
     void move_to(double left, double top);
     /// Inner size in twips.
     double inner_width() const;
@@ -130,6 +132,8 @@ class Form : public Container, public MouseEvents {
     void remove_command(int id);
     void set_menu_bar(HMENU bar);
     void menu_changed();
+    /// The pictures of the menus are made when the user next opens one: nobody waits for them before.
+    void menu_pictures_changed() { menu_pictures_stale_ = true; }
     void add(Timer& timer) { timers_.push_back(&timer); }
     void remove(Timer& timer) { std::erase(timers_, &timer); }
     using Container::add;
@@ -189,6 +193,7 @@ class Form : public Container, public MouseEvents {
     bool load_begun_ = false;
     bool loading_ = false;
     bool shown_ = false;
+    bool menu_pictures_stale_ = false;
     bool closed_ = false;
     int handlers_running_ = 0;
 };

@@ -48,6 +48,11 @@ void Form::set_width(double twips) {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void Form::set_size(double width, double height) {
+    SetWindowPos(window_, nullptr, 0, 0, to_pixels(std::max(width, 0.0), dpi_), to_pixels(std::max(height, 0.0), dpi_),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void Form::set_height(double twips) {
     SetWindowPos(window_, nullptr, 0, 0, outer().right - outer().left, to_pixels(std::max(twips, 0.0), dpi_),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -97,6 +102,8 @@ void Form::place_on_screen() {
     const LONG height = std::min(area.bottom - area.top, screen.bottom - screen.top);
     const LONG left = std::clamp(area.left, screen.left, screen.right - width);
     const LONG top = std::clamp(area.top, screen.top, screen.bottom - height);
+    const RECT place{left, top, left + width, top + height};
+    if (EqualRect(&place, &area)) return;
     SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -113,7 +120,7 @@ void Form::limit_sizing(WPARAM edge, RECT& area) const {
 void Form::resolution_changed(int dpi, const RECT& suggested) {
     dpi_ = application_.forced_dpi() ? application_.forced_dpi() : dpi;
     items_resolution_changed();
-    renew_menu_pictures();
+    menu_pictures_changed();
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
     // A minimised window has nothing to lay out, and for its handler a minimised size means that it was minimised now.

@@ -119,7 +119,7 @@ void Menu::set_enabled(bool enabled) {
 void Menu::set_pictures(const Picture& unchecked, const Picture& checked) {
     unchecked_picture_ = unchecked;
     checked_picture_ = checked;
-    renew_pictures();
+    form_.menu_pictures_changed();
 }
 
 void Menu::renew_pictures() {

@@ -65,8 +65,7 @@ void frmMailMe::Form_Load() {
     tell_mail_requirements(*this);
     const Settings& stored = session_.settings;
     set_window_state(window_state_of(stored.read(settings::frmMailMeWindowState)));
-    set_height(stored.read(settings::frmMailMeHeght));
-    set_width(stored.read(settings::frmMailMeWidth));
+    set_size(stored.read(settings::frmMailMeWidth), stored.read(settings::frmMailMeHeght));
     centre_on_screen();
     for (const wchar_t* subject : canned_subjects) Combo1.add(subject);
     Form_Resize();

@@ -63,8 +63,7 @@ void frmCtlView::restore_settings() {
 
 void frmCtlView::restore_size() {
     if (window_state() != WindowState::Normal) return;
-    set_height(session_.settings.read(settings::FrmCtlViewHeight));
-    set_width(session_.settings.read(settings::FrmCtlViewWidth));
+    set_size(session_.settings.read(settings::FrmCtlViewWidth), session_.settings.read(settings::FrmCtlViewHeight));
 }
 
 void frmCtlView::build_alphabet_bar() {
