@@ -16,9 +16,9 @@ void OptionButton::take_back_others() {
 }
 
 void OptionButton::set_value(bool value) {
-    send(BM_SETCHECK, value ? BST_CHECKED : BST_UNCHECKED);
     if (value == value_) return;
     value_ = value;
+    send(BM_SETCHECK, value ? BST_CHECKED : BST_UNCHECKED);
     if (!value) return;
     take_back_others();
     raise(on_click);
