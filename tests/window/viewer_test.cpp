@@ -111,6 +111,17 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     press_key(VK_UP, {VK_MENU});
     expect_selected(3);
     EXPECT_FALSE(in_menu()) << "the release of Alt has nothing to do with the menu bar";
+    static bool menu_opened;
+    menu_opened = false;
+    const UINT_PTR watch = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        menu_opened = in_menu();
+        if (!menu_opened) return;
+        KillTimer(nullptr, timer);
+        press_key(VK_ESCAPE);
+    });
+    press_key(VK_MENU);
+    EXPECT_TRUE(pump_until([] { return menu_opened; })) << "Alt alone";
+    KillTimer(nullptr, watch);
     press_key(VK_UP, {VK_CONTROL});
     expect_selected(0);
     press_key(VK_DOWN, {VK_MENU});
