@@ -65,6 +65,7 @@ Form::Form(Application& application, const FormDesign& design)
     tool_tips_ = ToolTips(window_);
     const UINT system_dpi = GetDpiForWindow(window_);
     dpi_ = application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi);
+    tool_tips_.fit_resolution(dpi_);
     SetWindowPos(window_, nullptr, 0, 0, to_pixels(design.width, dpi_), to_pixels(design.height, dpi_),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
