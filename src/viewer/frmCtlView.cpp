@@ -19,6 +19,7 @@ constexpr double picture_button_size = 420;
 // within the window: the way home, save and add, and the rest.
 constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
 constexpr double colour_image_left = 3530;
+constexpr double help_above_mode = 30;
 
 }  // namespace
 
@@ -98,7 +99,9 @@ void frmCtlView::bind_hover_help() {
 void frmCtlView::place_help_box(const Control& control, const MouseEvent& event) {
     const bool in_panel = &control.container() == &Frame2;
     const double left = control.left() + event.x + (in_panel ? Frame2.left() : 0) - Text4.width() / 2;
-    const double top = control.top() + event.y + (in_panel ? Frame2.top() : 0) + 500;
+    // That of the two modes stands above them, or it would cover the keyword that the user types after a click.
+    const double top =
+        in_panel ? Frame2.top() + control.top() + event.y + 500 : control.top() - Text4.height() - help_above_mode;
     Text4.move(
         {std::clamp(left, 0.0, std::max(0.0, inner_width() - Text4.width())), top, Text4.width(), Text4.height()});
 }
