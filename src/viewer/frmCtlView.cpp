@@ -21,6 +21,10 @@ constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
 constexpr double colour_image_left = 3530;
 constexpr double help_above_mode = 30;
 
+bool asks_for_menu(const KeyEvent& event) {
+    return event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift);
+}
+
 }  // namespace
 
 frmCtlView::frmCtlView(Application& application, Session& session, const ViewerWindows& windows)
@@ -66,7 +70,11 @@ void frmCtlView::bind() {
         if (event.button == MouseButton::Left) drag();
     };
     Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
-    Text1.on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    for (Control* control :
+         std::initializer_list<Control*>{&Option1, &Option2, &Text3, &Command1, &Option3, &Option4}) {
+        control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    }
+    Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
     Text1.set_tool_tip(L"Double-click a word to search for it");
     List2.on_click = [this] { List2_Click(); };
 }
@@ -145,6 +153,14 @@ void frmCtlView::Form_KeyDown(KeyEvent& event) {
     }
 }
 
+void frmCtlView::Text1_KeyDown(KeyEvent& event) {
+    Form_KeyDown(event);
+    // With nothing to search for, the box shows the menu that the system has for it.
+    if (event.handled || !asks_for_menu(event) || !offer_search_for_selection()) return;
+    event.handled = true;
+    pop_up_at_corner(menus.mnuTextBox, Text1);
+}
+
 void frmCtlView::ask_for_help() {
     const auto answer = show_message(window(), {.text = L"You pressed the F1 Key for help.\r\nYou can e-mail me for "
                                                         L"help.\r\nDo you want to do so?",
@@ -163,9 +179,9 @@ void frmCtlView::List_DblClick() {
 
 void frmCtlView::List_KeyDown(ListBox& list, KeyEvent& event) {
     Form_KeyDown(event);
-    if (event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift)) {
+    if (asks_for_menu(event)) {
         event.handled = true;
-        pop_up_selected(list);
+        pop_up_at_corner(menus.mnuSelected, list, &menus.mnuSelectedSave);
         return;
     }
     const bool upwards = event.key == keys::up;
@@ -204,11 +220,11 @@ void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
     pop_up(menus.mnuSelected, &menus.mnuSelectedSave);
 }
 
-void frmCtlView::pop_up_selected(const ListBox& list) {
+void frmCtlView::pop_up_at_corner(Menu& menu, const Control& control, const Menu* default_item) {
     constexpr double inset = 300;
-    const bool in_panel = &list.container() == &Frame2;
-    pop_up(menus.mnuSelected, list.left() + (in_panel ? Frame2.left() : 0) + inset,
-           list.top() + (in_panel ? Frame2.top() : 0) + inset, &menus.mnuSelectedSave);
+    const bool in_panel = &control.container() == &Frame2;
+    pop_up(menu, control.left() + (in_panel ? Frame2.left() : 0) + inset,
+           control.top() + (in_panel ? Frame2.top() : 0) + inset, default_item);
 }
 
 }  // namespace quillomat

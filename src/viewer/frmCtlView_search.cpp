@@ -61,10 +61,13 @@ void frmCtlView::List1_Click() {
 }
 
 void frmCtlView::Text1_DblClick() {
+    if (offer_search_for_selection()) pop_up(menus.mnuTextBox);
+}
+
+bool frmCtlView::offer_search_for_selection() {
     const auto caption = search_menu_caption(Text1.selected_text());
-    if (!caption) return;
-    menus.mnuTextBoxSearch.set_caption(without_access_keys(*caption));
-    pop_up(menus.mnuTextBox);
+    if (caption) menus.mnuTextBoxSearch.set_caption(without_access_keys(*caption));
+    return caption.has_value();
 }
 
 void frmCtlView::SearchFor(SearchScope scope) {

@@ -132,8 +132,10 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
 
     int finds = 0;
     viewer_windows.find = [&] { ++finds; };
+    viewer->Option1.set_focus();
     press_key('F', {VK_CONTROL});
-    EXPECT_TRUE(pump_until([&] { return finds == 1; }));
+    EXPECT_TRUE(pump_until([&] { return finds == 1; })) << "wherever the focus is";
+    viewer->List2.set_focus();
     press_key(VK_F10, {VK_SHIFT});
     press_key('F');
     EXPECT_TRUE(pump_until([&] { return finds == 2; })) << "the menu of the right button comes up by keyboard too";
