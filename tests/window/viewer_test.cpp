@@ -158,6 +158,7 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     viewer->Option2.set_value(true);
     EXPECT_TRUE(viewer->Frame2.visible());
     EXPECT_FALSE(viewer->List2.visible());
+    EXPECT_EQ(GetWindow(viewer->Text1.window(), GW_HWNDPREV), viewer->CheatsLabel.window()) << "its name";
     const auto search = [this](const wchar_t* keyword) {
         viewer->Text3.set_text(keyword);
         viewer->Command1.click();
