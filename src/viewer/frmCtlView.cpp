@@ -181,6 +181,7 @@ void frmCtlView::List_KeyDown(ListBox& list, KeyEvent& event) {
     Form_KeyDown(event);
     if (asks_for_menu(event)) {
         event.handled = true;
+        menus.mnuSelectedSave.set_enabled(menus.mnuSave.enabled());
         pop_up_at_corner(menus.mnuSelected, list, &menus.mnuSelectedSave);
         return;
     }
@@ -217,6 +218,7 @@ void frmCtlView::List_MouseMove(ListBox& list, const MouseEvent& event) {
 void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
     if (event.button != MouseButton::Right) return;
     list.select_text(list.item(list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()))));
+    menus.mnuSelectedSave.set_enabled(menus.mnuSave.enabled());
     pop_up(menus.mnuSelected, &menus.mnuSelectedSave);
 }
 
