@@ -183,7 +183,8 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             }
             return 0;
         case WM_ACTIVATE:
-            if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = GetFocus();
+            // A window that is being minimised has lost the focus already; where it was counts when it comes back.
+            if (LOWORD(wparam) == WA_INACTIVE && IsChild(window_, GetFocus())) last_focus_ = GetFocus();
             break;
         case WM_NEXTDLGCTL:
             // The access key of a caption gives that the focus, and then asks for the next control.
