@@ -65,6 +65,7 @@ Form::Form(Application& application, const FormDesign& design)
     tool_tips_ = ToolTips(window_);
     const UINT system_dpi = GetDpiForWindow(window_);
     dpi_ = application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi);
+    tool_tips_.fit_resolution(dpi_);
     SetWindowPos(window_, nullptr, 0, 0, to_pixels(design.width, dpi_), to_pixels(design.height, dpi_),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -182,7 +183,8 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             }
             return 0;
         case WM_ACTIVATE:
-            if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = GetFocus();
+            // A window that is being minimised has lost the focus already; where it was counts when it comes back.
+            if (LOWORD(wparam) == WA_INACTIVE && IsChild(window_, GetFocus())) last_focus_ = GetFocus();
             break;
         case WM_NEXTDLGCTL:
             // The access key of a caption gives that the focus, and then asks for the next control.

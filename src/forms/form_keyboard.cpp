@@ -48,9 +48,10 @@ bool Form::translate(MSG& message) {
             handled =
                 (message.message == WM_KEYDOWN && handle_dialog_key(message)) || IsDialogMessageW(window_, &message);
         }
-        // Unless the system hears of a key pressed with Alt, it opens the menu bar when Alt is released.
+        // Unless the system hears of a key pressed with Alt, it opens the menu bar when Alt is released. Alt itself it
+        // has heard of; told twice, it takes that for such a key, and Alt alone would not open the bar.
         const bool with_alt = message.message == WM_SYSKEYDOWN && (message.lParam & alt_held);
-        if (handled && with_alt && message.wParam != VK_F4 && window_) {
+        if (handled && with_alt && message.wParam != VK_F4 && message.wParam != VK_MENU && window_) {
             DefWindowProcW(window_, message.message, message.wParam, message.lParam);
         }
         // The key may have been given to another window or dropped; the next one is a new one in any case.

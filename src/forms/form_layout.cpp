@@ -119,6 +119,7 @@ void Form::limit_sizing(WPARAM edge, RECT& area) const {
 
 void Form::resolution_changed(int dpi, const RECT& suggested) {
     dpi_ = application_.forced_dpi() ? application_.forced_dpi() : dpi;
+    tool_tips_.fit_resolution(dpi_);
     items_resolution_changed();
     menu_pictures_changed();
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,

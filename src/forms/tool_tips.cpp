@@ -1,17 +1,24 @@
 #include "forms/tool_tips.h"
 
+#include "forms/geometry.h"
+
 namespace quillomat {
 namespace {
 
 // Long texts, such as a long game name, break into lines instead of leaving the screen.
-constexpr int widest_line_pixels = 600;
+constexpr double widest_line = 9000;  // twips
 
 }  // namespace
 
 void ToolTips::create() {
     window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
                               0, form_, nullptr, nullptr, nullptr);
-    SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, widest_line_pixels);
+    fit_resolution(dpi_);
+}
+
+void ToolTips::fit_resolution(int dpi) {
+    dpi_ = dpi;
+    if (window_) SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, to_pixels(widest_line, dpi_));
 }
 
 void ToolTips::set(HWND control, const std::wstring& text) {

@@ -15,12 +15,15 @@ class ToolTips {
     void set(HWND control, const std::wstring& text);
     /// The same for an area of `window`, in pixels. `owner` tells the areas apart.
     void set(HWND window, const void* owner, const RECT& area, const std::wstring& text);
+    /// Breaks long texts into lines that are as wide on every screen; `dpi` is that of the form.
+    void fit_resolution(int dpi);
 
   private:
     void create();
     void put(TTTOOLINFOW& tool, const std::wstring& text);
 
     HWND form_;
+    int dpi_ = 96;
     HWND window_ = nullptr;  // owned by the form's window and destroyed with it
 };
 

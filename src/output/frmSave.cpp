@@ -17,6 +17,7 @@
 namespace quillomat {
 namespace {
 
+constexpr double designed_width = 8100;
 constexpr double smallest_width = 6900;
 constexpr double smallest_height = 4200;
 
@@ -31,7 +32,7 @@ constexpr double button_height = 375;
 frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
     : Form(application, {.name = L"frmSave",
                          .caption = L"Save",
-                         .width = smallest_width,
+                         .width = designed_width,
                          .height = smallest_height,
                          .minimum_width = smallest_width,
                          .minimum_height = smallest_height}),

@@ -19,6 +19,11 @@ constexpr double picture_button_size = 420;
 // within the window: the way home, save and add, and the rest.
 constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
 constexpr double colour_image_left = 3530;
+constexpr double help_above_mode = 30;
+
+bool asks_for_menu(const KeyEvent& event) {
+    return event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift);
+}
 
 }  // namespace
 
@@ -65,7 +70,11 @@ void frmCtlView::bind() {
         if (event.button == MouseButton::Left) drag();
     };
     Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
-    Text1.on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    for (Control* control :
+         std::initializer_list<Control*>{&Option1, &Option2, &Text3, &Command1, &Option3, &Option4}) {
+        control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    }
+    Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
     Text1.set_tool_tip(L"Double-click a word to search for it");
     List2.on_click = [this] { List2_Click(); };
 }
@@ -98,7 +107,9 @@ void frmCtlView::bind_hover_help() {
 void frmCtlView::place_help_box(const Control& control, const MouseEvent& event) {
     const bool in_panel = &control.container() == &Frame2;
     const double left = control.left() + event.x + (in_panel ? Frame2.left() : 0) - Text4.width() / 2;
-    const double top = control.top() + event.y + (in_panel ? Frame2.top() : 0) + 500;
+    // That of the two modes stands above them, or it would cover the keyword that the user types after a click.
+    const double top =
+        in_panel ? Frame2.top() + control.top() + event.y + 500 : control.top() - Text4.height() - help_above_mode;
     Text4.move(
         {std::clamp(left, 0.0, std::max(0.0, inner_width() - Text4.width())), top, Text4.width(), Text4.height()});
 }
@@ -142,6 +153,14 @@ void frmCtlView::Form_KeyDown(KeyEvent& event) {
     }
 }
 
+void frmCtlView::Text1_KeyDown(KeyEvent& event) {
+    Form_KeyDown(event);
+    // With nothing to search for, the box shows the menu that the system has for it.
+    if (event.handled || !asks_for_menu(event) || !offer_search_for_selection()) return;
+    event.handled = true;
+    pop_up_at_corner(menus.mnuTextBox, Text1);
+}
+
 void frmCtlView::ask_for_help() {
     const auto answer = show_message(window(), {.text = L"You pressed the F1 Key for help.\r\nYou can e-mail me for "
                                                         L"help.\r\nDo you want to do so?",
@@ -160,9 +179,10 @@ void frmCtlView::List_DblClick() {
 
 void frmCtlView::List_KeyDown(ListBox& list, KeyEvent& event) {
     Form_KeyDown(event);
-    if (event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift)) {
+    if (asks_for_menu(event)) {
         event.handled = true;
-        pop_up_selected(list);
+        menus.mnuSelectedSave.set_enabled(menus.mnuSave.enabled());
+        pop_up_at_corner(menus.mnuSelected, list, &menus.mnuSelectedSave);
         return;
     }
     const bool upwards = event.key == keys::up;
@@ -198,14 +218,15 @@ void frmCtlView::List_MouseMove(ListBox& list, const MouseEvent& event) {
 void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
     if (event.button != MouseButton::Right) return;
     list.select_text(list.item(list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()))));
+    menus.mnuSelectedSave.set_enabled(menus.mnuSave.enabled());
     pop_up(menus.mnuSelected, &menus.mnuSelectedSave);
 }
 
-void frmCtlView::pop_up_selected(const ListBox& list) {
+void frmCtlView::pop_up_at_corner(Menu& menu, const Control& control, const Menu* default_item) {
     constexpr double inset = 300;
-    const bool in_panel = &list.container() == &Frame2;
-    pop_up(menus.mnuSelected, list.left() + (in_panel ? Frame2.left() : 0) + inset,
-           list.top() + (in_panel ? Frame2.top() : 0) + inset, &menus.mnuSelectedSave);
+    const bool in_panel = &control.container() == &Frame2;
+    pop_up(menu, control.left() + (in_panel ? Frame2.left() : 0) + inset,
+           control.top() + (in_panel ? Frame2.top() : 0) + inset, default_item);
 }
 
 }  // namespace quillomat

@@ -88,14 +88,17 @@ class frmCtlView final : public Form {
     void Form_KeyDown(KeyEvent& event);
     void Command1_Click();
     void Text1_DblClick();
+    void Text1_KeyDown(KeyEvent& event);
+    /// Makes the text box's menu offer a search for what is selected; false when that is nothing to search for.
+    bool offer_search_for_selection();
     void List1_Click();
     void List2_Click();
     void List_DblClick();
     void List_KeyDown(ListBox& list, KeyEvent& event);
     void List_MouseMove(ListBox& list, const MouseEvent& event);
     void List_MouseDown(ListBox& list, const MouseEvent& event);
-    /// The menu of the right button, by keyboard.
-    void pop_up_selected(const ListBox& list);
+    /// A menu that the mouse opens at the pointer, by keyboard.
+    void pop_up_at_corner(Menu& menu, const Control& control, const Menu* default_item = nullptr);
     void Option1_Click();
     void Option2_Click();
     void Image1_MouseMove(const MouseEvent& event);

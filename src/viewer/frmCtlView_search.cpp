@@ -61,10 +61,13 @@ void frmCtlView::List1_Click() {
 }
 
 void frmCtlView::Text1_DblClick() {
+    if (offer_search_for_selection()) pop_up(menus.mnuTextBox);
+}
+
+bool frmCtlView::offer_search_for_selection() {
     const auto caption = search_menu_caption(Text1.selected_text());
-    if (!caption) return;
-    menus.mnuTextBoxSearch.set_caption(without_access_keys(*caption));
-    pop_up(menus.mnuTextBox);
+    if (caption) menus.mnuTextBoxSearch.set_caption(without_access_keys(*caption));
+    return caption.has_value();
 }
 
 void frmCtlView::SearchFor(SearchScope scope) {
@@ -89,7 +92,9 @@ void frmCtlView::ShowFrame() {
     Frame2.set_left(search_panel_start_left);
     Frame2.set_visible(true);
     Frame2.bring_to_front();
+    // A caption stays right before what it names, or screen readers do not find it.
     Text1.bring_to_front();
+    CheatsLabel.bring_to_front();
     Text4.bring_to_front();
     while (const auto next = next_search_panel_left(Frame2.left())) {
         Frame2.set_left(*next);
@@ -104,6 +109,7 @@ void frmCtlView::ShowList() {
     List2.set_left(game_panel_start_left);
     List2.set_visible(true);
     List2.bring_to_front();
+    GamesLabel.bring_to_front();
     Text4.bring_to_front();
     while (const auto next = next_game_panel_left(List2.left())) {
         List2.set_left(*next);

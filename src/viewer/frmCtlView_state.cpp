@@ -1,9 +1,12 @@
 // Opening and closing the viewer: the database, the settings, and what is built from them.
 
+#include <algorithm>
+
 #include "common/window_settings.h"
 #include "forms/message_box.h"
 #include "text/error.h"
 #include "text/numbers.h"
+#include "text/window_size.h"
 #include "viewer/frmCtlView.h"
 #include "win/database_file.h"
 
@@ -63,7 +66,9 @@ void frmCtlView::restore_settings() {
 
 void frmCtlView::restore_size() {
     if (window_state() != WindowState::Normal) return;
-    set_size(session_.settings.read(settings::FrmCtlViewWidth), session_.settings.read(settings::FrmCtlViewHeight));
+    // Never below the smallest size: the window would grow to it only after it was put in the middle of the screen.
+    set_size(std::max<double>(session_.settings.read(settings::FrmCtlViewWidth), viewer_minimum_size.width),
+             std::max<double>(session_.settings.read(settings::FrmCtlViewHeight), viewer_minimum_size.height));
 }
 
 void frmCtlView::build_alphabet_bar() {

@@ -165,6 +165,12 @@ TEST_F(FormsTest, TabWalksInTheOrderOfReadingWhateverComesToTheFront) {
     EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text2.window(); }));
     press_key(VK_TAB, {VK_SHIFT});
     EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text1.window(); }));
+
+    board.Text2.set_focus();
+    SetFocus(nullptr);  // as the system does before it minimises a window
+    SendMessageW(board.window(), WM_ACTIVATE, WA_INACTIVE, 0);
+    SetFocus(board.window());
+    EXPECT_EQ(GetFocus(), board.Text2.window());
 }
 
 TEST_F(FormsTest, KeysReachTheHandlerFirstThenTheDialogThenTheControl) {

@@ -111,6 +111,17 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     press_key(VK_UP, {VK_MENU});
     expect_selected(3);
     EXPECT_FALSE(in_menu()) << "the release of Alt has nothing to do with the menu bar";
+    static bool menu_opened;
+    menu_opened = false;
+    const UINT_PTR watch = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        menu_opened = in_menu();
+        if (!menu_opened) return;
+        KillTimer(nullptr, timer);
+        press_key(VK_ESCAPE);
+    });
+    press_key(VK_MENU);
+    EXPECT_TRUE(pump_until([] { return menu_opened; })) << "Alt alone";
+    KillTimer(nullptr, watch);
     press_key(VK_UP, {VK_CONTROL});
     expect_selected(0);
     press_key(VK_DOWN, {VK_MENU});
@@ -121,8 +132,10 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
 
     int finds = 0;
     viewer_windows.find = [&] { ++finds; };
+    viewer->Option1.set_focus();
     press_key('F', {VK_CONTROL});
-    EXPECT_TRUE(pump_until([&] { return finds == 1; }));
+    EXPECT_TRUE(pump_until([&] { return finds == 1; })) << "wherever the focus is";
+    viewer->List2.set_focus();
     press_key(VK_F10, {VK_SHIFT});
     press_key('F');
     EXPECT_TRUE(pump_until([&] { return finds == 2; })) << "the menu of the right button comes up by keyboard too";
@@ -145,6 +158,7 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     viewer->Option2.set_value(true);
     EXPECT_TRUE(viewer->Frame2.visible());
     EXPECT_FALSE(viewer->List2.visible());
+    EXPECT_EQ(GetWindow(viewer->Text1.window(), GW_HWNDPREV), viewer->CheatsLabel.window()) << "its name";
     const auto search = [this](const wchar_t* keyword) {
         viewer->Text3.set_text(keyword);
         viewer->Command1.click();
