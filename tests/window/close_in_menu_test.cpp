@@ -1,27 +1,11 @@
 // A window that is closed from outside while a menu of it is open.
 
-#include <gtest/gtest.h>
-
 #include "forms/form.h"
 #include "forms/timer.h"
 #include "support.h"
 
 namespace quillomat {
 namespace {
-
-bool waits_in_menu() {
-    GUITHREADINFO thread{};
-    thread.cbSize = sizeof thread;
-    return GetGUIThreadInfo(GetCurrentThreadId(), &thread) && thread.flags & GUI_INMENUMODE &&
-           FindWindowW(L"#32768", nullptr);
-}
-
-struct TestDialog : Form {
-    explicit TestDialog(Application& application)
-        : Form(application, {.name = L"frmTest", .caption = L"Test", .width = 3000, .height = 3000}) {}
-
-    Timer closer{*this, 10};
-};
 
 class CloseInMenuTest : public WindowTest {
   protected:
@@ -34,12 +18,14 @@ class CloseInMenuTest : public WindowTest {
 };
 
 TEST_F(CloseInMenuTest, ADialogEnds) {
-    TestDialog owner(application);
+    const FormDesign design{.name = L"frmTest", .caption = L"Test", .width = 3000, .height = 3000};
+    Form owner(application, design);
     owner.show();
-    TestDialog dialog(application);
+    Form dialog(application, design);
+    Timer closer(dialog, 10);
     bool opened = false;
-    dialog.closer.on_timer = [&] {
-        if (waits_in_menu()) {
+    closer.on_timer = [&] {
+        if (in_menu() && FindWindowW(L"#32768", nullptr)) {
             SendMessageW(dialog.window(), WM_CLOSE, 0, 0);
         } else if (!opened) {
             opened = PostMessageW(dialog.window(), WM_SYSCOMMAND, SC_KEYMENU, ' ');
@@ -49,7 +35,7 @@ TEST_F(CloseInMenuTest, ADialogEnds) {
     dialog.show_modal(&owner);
     KillTimer(nullptr, patience);
     EXPECT_TRUE(opened);
-    EXPECT_FALSE(waits_in_menu());
+    EXPECT_FALSE(in_menu());
 }
 
 }  // namespace

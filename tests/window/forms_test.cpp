@@ -39,12 +39,7 @@ class FormsTest : public WindowTest {
   protected:
     void show() {
         board.show();
-        ASSERT_TRUE(pump_until([this] { return IsWindowVisible(board.window()) && GetFocus(); }));
-    }
-    /// Moves the real pointer to the middle of an item, in front of everything that could cover it.
-    void point_at(HWND window, const Item& item) {
-        const auto pixels = [this](double twips) { return to_pixels(twips, board.dpi()); };
-        move_pointer(window, pixels(item.left() + item.width() / 2), pixels(item.top() + item.height() / 2));
+        ASSERT_SOON(IsWindowVisible(board.window()) && GetFocus());
     }
 
     Board board{application};
@@ -57,7 +52,7 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
     const auto raises_one = [&](const std::function<void()>& act) {
         events = 0;
         act();
-        EXPECT_TRUE(pump_until([&] { return events > 0; }));
+        EXPECT_SOON(events > 0);
         pump();
         return events == 1;
     };
@@ -110,10 +105,11 @@ TEST_F(FormsTest, TheMouseMeetsPaintedItemsAsItMeetsControls) {
     board.Image1.on_mouse_up = [&](const MouseEvent&) { events += L"up "; };
     board.Image1.on_click = [&] { events += L"click "; };
     board.Image1.on_double_click = [&] { events += L"double "; };
-    point_at(board.window(), board.Image1);
+    const RECT& image = board.Image1.pixels();
+    move_pointer(board.window(), (image.left + image.right) / 2, (image.top + image.bottom) / 2);
     click();
     click();
-    EXPECT_TRUE(pump_until([&] { return events.ends_with(L"double up "); }));
+    EXPECT_SOON(events.ends_with(L"double up "));
     EXPECT_EQ(events, L"down up click double up ") << "a double-click is released twice but pressed once";
 }
 
@@ -127,10 +123,10 @@ TEST_F(FormsTest, AnErrorNoHandlerCaughtIsReportedOnceAndTheProgramGoesOn) {
     expect_message(L"Quillomat", L"Permission denied");
     board.Command1.set_focus();
     press_key(VK_SPACE);
-    EXPECT_TRUE(pump_until([&] { return presses == 1 && IsWindowEnabled(board.window()); }));
+    EXPECT_SOON(presses == 1 && IsWindowEnabled(board.window()));
     press_key(VK_SPACE);
     expect_message(L"Quillomat", L"Permission denied");
-    EXPECT_TRUE(pump_until([&] { return presses == 2; }));
+    EXPECT_SOON(presses == 2);
 }
 
 TEST_F(FormsTest, GeometryIsKeptInTwipsAndReadBackInWholePixels) {
@@ -159,12 +155,12 @@ TEST_F(FormsTest, TabWalksInTheOrderOfReadingWhateverComesToTheFront) {
                           board.Command1.window(), board.Command2.window(), board.Text1.window()};
     board.Text1.set_focus();
     for (const HWND expected : order) {
-        EXPECT_TRUE(pump_until([&] { return GetFocus() == expected; }));
+        EXPECT_SOON(GetFocus() == expected);
         press_key(VK_TAB);
     }
-    EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text2.window(); }));
+    EXPECT_SOON(GetFocus() == board.Text2.window());
     press_key(VK_TAB, {VK_SHIFT});
-    EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text1.window(); }));
+    EXPECT_SOON(GetFocus() == board.Text1.window());
 }
 
 TEST_F(FormsTest, KeysReachTheHandlerFirstThenTheDialogThenTheControl) {
@@ -181,22 +177,32 @@ TEST_F(FormsTest, KeysReachTheHandlerFirstThenTheDialogThenTheControl) {
     board.Text1.set_focus();
     press_key(VK_RETURN);
     press_key(VK_RETURN);
-    EXPECT_TRUE(pump_until([&] { return defaults == 1; }));
+    EXPECT_SOON(defaults == 1);
     EXPECT_EQ(seen, 2) << "each press is one event";
 
     board.Text1.on_key_press = [&](CharacterEvent& event) { event.handled = event.character == L'x'; };
     press_key('X');
     press_key('Y');
-    EXPECT_TRUE(pump_until([&] { return board.Text1.text() == L"y"; }));
+    EXPECT_SOON(board.Text1.text() == L"y");
 
     board.Text2.set_focus();
     press_key(VK_ESCAPE);
     press_key('Z');
-    EXPECT_TRUE(pump_until([&] { return board.Text2.text() == L"z"; })) << "Escape in a long text closes nothing";
+    EXPECT_SOON(board.Text2.text() == L"z") << "Escape in a long text closes nothing";
     press_key('L', {VK_MENU});
     bool other = false;
     board.Command2.on_click = [&] { other = true; };
-    EXPECT_TRUE(pump_until([&] { return other; })) << "access keys press buttons";
+    EXPECT_SOON(other) << "access keys press buttons";
+}
+
+TEST_F(FormsTest, TheDefaultButtonIsNotPaintedAgainForStayingTheDefault) {
+    show();
+    for (const auto& [button, painted] :
+         {std::pair{&board.Command1, true}, {&board.Command1, false}, {nullptr, true}}) {
+        board.refresh();
+        board.set_default_button(button);
+        EXPECT_EQ(GetUpdateRect(board.Command1.window(), nullptr, FALSE) != FALSE, painted);
+    }
 }
 
 TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
@@ -210,32 +216,26 @@ TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
         EXPECT_EQ(ticks, 1) << "ticked below its own message";
         timer.set_enabled(false);
     };
-    EXPECT_TRUE(pump_until([&] { return !timer.enabled(); }));
+    EXPECT_SOON(!timer.enabled());
     timer.on_timer = [] { FAIL() << "ticked after it was stopped"; };
     Timer other(board, 1);
     other.on_timer = [&] { ++ticks; };
-    EXPECT_TRUE(pump_until([&] { return ticks == 5; }));
+    EXPECT_SOON(ticks == 5);
 }
 
 TEST_F(FormsTest, AFormClosedInItsOwnHandlerLivesUntilTheHandlerIsDone) {
-    auto form = std::make_unique<Board>(application);
+    std::unique_ptr<Board> form;
+    open_in(form);
     bool handler_done = false;
-    bool closed = false;
     form->Command1.on_click = [&] {
         form->close();
-        application.let_pending_events_run();
+        pump();
         EXPECT_TRUE(form) << "destroyed below a running handler";
         handler_done = true;
     };
-    form->on_closed = [&] {
-        closed = true;
-        form.reset();
-    };
-    form->show();
-    SendMessageW(form->Command1.window(), BM_CLICK, 0, 0);
+    press(form->Command1);
     EXPECT_TRUE(handler_done);
-    EXPECT_TRUE(pump_until([&] { return closed; }));
-    EXPECT_FALSE(form);
+    EXPECT_SOON(!form);
 }
 
 TEST_F(FormsTest, AFormClosedWhileItLoadsHasNothingToSave) {
