@@ -57,20 +57,6 @@ TEST(Movements, EndAtTheirGoalOrLessThanAStepBeyond) {
     }
 }
 
-TEST(ExitConfirmation, ShrinksAndGrowsEachPartToItsOwnLimit) {
-    const struct {
-        ExitConfirmation (*step)(const ExitConfirmation&);
-        ExitConfirmation before;
-        ExitConfirmation after;
-    } cases[] = {
-        {next_asking, {2501, 3615, 3614}, {2101, 3515, 3614}},
-        {next_asking, {2500, 3614.896, 3614.897}, {2500, 3614.896, 3514.897}},
-        {next_withdrawing, {5414, 4588, 4589}, {5814, 4688, 4589}},
-        {next_withdrawing, {5415, 4588.138, 4588.137}, {5415, 4588.138, 4688.137}},
-    };
-    for (const auto& [step, before, after] : cases) EXPECT_EQ(step(before), after);
-}
-
 TEST(RunningCapital, RunsAlongTheCaptionAndStartsAgain) {
     const std::wstring caption = L"me - b";
     int position = 0;
@@ -87,11 +73,8 @@ TEST(Turn, StaysWithinATurnForEver) {
     for (int tick = 1; tick < 10'000; ++tick) {
         turn = next_turn(turn);
         ASSERT_TRUE(*turn > 0 && *turn <= 1) << tick;
-        if (tick == 41) {
-            EXPECT_NEAR(turned_width(*turn), -1, 1e-5) << "seen from behind";
-        }
     }
-    EXPECT_NEAR(turned_width(0.1), 0.80920, 1e-5);
+    EXPECT_NEAR(turned_width(0.5), -1, 1e-5) << "seen from behind";
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 #include <string>
 #include <vector>
@@ -22,32 +23,29 @@ std::wstring name_lines(int count) {
     return text;
 }
 
+using Names = std::vector<std::wstring>;
+
 /// What loading a text, or listing again, listed, and the error that ended it.
 struct Outcome {
-    std::vector<std::wstring> listed;
+    explicit Outcome(const std::function<void(const Catalogue::ListName&)>& action) {
+        try {
+            action([this](std::wstring_view name) { listed.emplace_back(name); });
+        } catch (const Error& caught) {
+            error = caught.code();
+        }
+    }
+
+    Names listed;
     std::optional<ErrorCode> error;
 };
 
-template <typename Action>
-Outcome outcome_of(const Action& action) {
-    Outcome outcome;
-    try {
-        action([&](std::wstring_view name) { outcome.listed.emplace_back(name); });
-    } catch (const Error& error) {
-        outcome.error = error.code();
-    }
-    return outcome;
-}
-
 Outcome load(Catalogue& catalogue, std::wstring_view text) {
-    return outcome_of([&](const Catalogue::ListName& list_name) { catalogue.load(decoded(text), list_name); });
+    return Outcome([&](const auto& list_name) { catalogue.load(decoded(text), list_name); });
 }
 
 Outcome relist(const Catalogue& catalogue) {
-    return outcome_of([&](const Catalogue::ListName& list_name) { catalogue.relist(list_name); });
+    return Outcome([&](const auto& list_name) { catalogue.relist(list_name); });
 }
-
-using Names = std::vector<std::wstring>;
 
 TEST(Catalogue, FillsTheSlots) {
     const struct {
@@ -92,24 +90,16 @@ TEST(Catalogue, HoldsAllItsSlotsAndNoLineMore) {
 
 TEST(Catalogue, RelistsUpToTheFirstEmptyNameWithAddedGames) {
     Catalogue catalogue;
-    load(catalogue, name_lines(2) + marker + L" \r\n" + marker + L" hidden\r\n");
+    load(catalogue, name_lines(2) + marker + L" \r\n" + marker + L" hidden\r\nleft over");
     EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"Game 1"}));
-    catalogue.store(2, L"Added", L"cheats");
-    EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"Game 1", L"Added", L"hidden"}));
-}
-
-TEST(Catalogue, AnAddedGameReplacesTheTrailingTextUntilTheNextLoad) {
-    Catalogue catalogue;
-    load(catalogue, name_lines(1) + L"left over");
-    catalogue.store(1, L"A", L"first");
-    catalogue.store(2, L"B", L"second");
-    catalogue.store(1, L"C", L"third");
-    EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"C", L"B"}));
-    EXPECT_EQ(catalogue.cheats(1), L"third");
-    EXPECT_EQ(catalogue.cheats(2), L"second");
+    for (const auto& [slot, name] : {std::pair{2, L"Added"}, {4, L"A"}, {5, L"B"}, {4, L"C"}}) {
+        catalogue.store(slot, name, name);
+    }
+    EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"Game 1", L"Added", L"hidden", L"C", L"B"}));
+    EXPECT_EQ(catalogue.cheats(4), L"C") << "and not the text that trailed";
     load(catalogue, name_lines(1));
     EXPECT_EQ(relist(catalogue).listed, Names{L"Game 0"});
-    EXPECT_EQ(catalogue.cheats(2), L"");
+    EXPECT_EQ(catalogue.cheats(4), L"");
 }
 
 TEST(Catalogue, RefusesNumbersOutsideItsSlots) {

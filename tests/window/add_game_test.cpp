@@ -103,12 +103,6 @@ TEST_F(AddGameTest, AFailureLeavesTheFileAsItWasAndWhatWasTyped) {
     expect_unchanged(3);  // what was done stays done
 }
 
-TEST_F(AddGameTest, OpensOnAScreenThatIsTooLowForIt) {
-    application.force_dpi(384);
-    open();
-    EXPECT_TRUE(IsWindowVisible(window->window()));
-}
-
 TEST_F(AddGameTest, RemembersItsSizeOnlyWhenNormal) {
     open();
     window->set_width(6600);

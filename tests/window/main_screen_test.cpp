@@ -100,32 +100,6 @@ TEST_F(MainScreenTest, TheExitCanBeTakenBackAndIsConfirmedByEnter) {
     }
 }
 
-TEST_F(MainScreenTest, NothingIsCutOffAtAnyResolution) {
-    for (const int dpi : {96, 144}) {
-        application.force_dpi(dpi);
-        open();
-        std::wstring help;
-        for (Button* button : buttons()) {
-            if (button == &form->Command1) ask_to_exit();
-            const SIZE caption = text_extent(application.fonts().get(button->font(), dpi), button->caption());
-            EXPECT_GE(to_pixels(button->width(), dpi), caption.cx) << dpi;
-            EXPECT_LE(button->left() + button->width(), form->inner_width()) << dpi;
-            RECT face{};
-            GetClientRect(button->window(), &face);
-            ASSERT_TRUE(point_until(button->window(), face.right - 5, face.bottom / 2,
-                                    [&] { return form->Text1.visible() && button->font().underline; }));
-            EXPECT_NE(form->Text1.text(), help) << "each has its own help text";
-            help = form->Text1.text();
-            RECT room{};
-            SendMessageW(form->Text1.window(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
-            const SIZE text = text_extent(application.fonts().get(form->Text1.font(), dpi), help);
-            EXPECT_TRUE(room.right - room.left >= text.cx && room.bottom - room.top >= text.cy) << dpi;
-            EXPECT_LE(form->Text1.left() + form->Text1.width(), form->inner_width()) << dpi;
-        }
-        form.reset();
-    }
-}
-
 class WholeProgramTest : public SessionTest {
   protected:
     WholeProgramTest() { write("Cheats.dat", "code\r\n$$$$$$$$$$$$$$$$$$$$ Alpha\r\n"); }

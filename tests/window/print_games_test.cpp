@@ -92,21 +92,5 @@ TEST_F(PrintGamesTest, TroubleWithThePrinterIsOneMessageOrNoneAndTheWindowStays)
     }
 }
 
-TEST_F(PrintGamesTest, HelpStandsBelowAButtonThatComesToLieUnderTheRestingPointer) {
-    open(20);
-    ASSERT_TRUE(point_until(form->window(), 4, 4, [this] { return !form->Text4.visible(); }));
-    form->Text4.move({0, 0, 1500, 270});
-    // The window moves under the pointer, which is no movement of the mouse.
-    form->Command1.on_mouse_move = nullptr;
-    POINT pointer{};
-    GetCursorPos(&pointer);
-    RECT button{};
-    GetWindowRect(form->Command1.window(), &button);
-    form->move_to(form->left() + to_twips(pointer.x - button.left - 5, form->dpi()),
-                  form->top() + to_twips(pointer.y - button.top - 5, form->dpi()));
-    EXPECT_SOON(form->Text4.visible());
-    EXPECT_GE(form->Text4.top(), form->Command1.top() + form->Command1.height());
-}
-
 }  // namespace
 }  // namespace quillomat

@@ -60,17 +60,6 @@ TEST_F(SaveTest, EscapeLeavesAndEnterWritesExactlyTheNameAndTheCheats) {
     EXPECT_EQ(bytes("place/a -b.TXT.txt"), "Empty\r\n\r\n\r\n");
 }
 
-TEST_F(SaveTest, StartsInTheCurrentFolder) {
-    const std::filesystem::path former = std::filesystem::current_path();
-    std::filesystem::current_path(place);
-    open_viewer(database);
-    open_in(window, session, *link);
-    EXPECT_EQ(window->Dir1.path(), place.wstring());
-    EXPECT_EQ(window->Label3.caption(), place.wstring());
-    EXPECT_EQ(window->Drive1.drive(), place.root_path().wstring());
-    std::filesystem::current_path(former);
-}
-
 TEST_F(SaveTest, AsksBeforeOverwriting) {
     write("place/old.txt", "a much longer text than the new one, so that a rest of it would be seen");
     open();

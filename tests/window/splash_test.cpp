@@ -24,26 +24,6 @@ class SplashTest : public WindowTest {
     std::unique_ptr<frmWait> wait;
 };
 
-TEST_F(SplashTest, NothingStandsOutsideOrOnSomethingElse) {
-    for (const int dpi : {96, 144}) {
-        application.force_dpi(dpi);
-        open();
-        for (int i = 0; i < 200 && splash->Timer2.enabled(); ++i) splash->Timer2.tick();
-        RECT client{};
-        GetClientRect(splash->window(), &client);
-        std::vector<const Label*> labels{&splash->Label2, &splash->Label3, &splash->Label4, &splash->Label6};
-        for (const Label& letter : splash->Label1) labels.push_back(&letter);
-        for (const Label* label : labels) {
-            RECT common{};
-            IntersectRect(&common, &client, &label->pixels());
-            EXPECT_TRUE(EqualRect(&common, &label->pixels())) << dpi;
-            for (const Label* other : labels) {
-                EXPECT_FALSE(label != other && IntersectRect(&common, &label->pixels(), &other->pixels())) << dpi;
-            }
-        }
-    }
-}
-
 TEST_F(SplashTest, AnyKeyAndAClickOnAnythingGoesOn) {
     for (const WORD key : std::initializer_list<WORD>{VK_ESCAPE, VK_TAB, VK_RIGHT, 'Q'}) {
         open();
@@ -70,12 +50,9 @@ TEST_F(SplashTest, TheLoadingWindowStaysPaintedWhileTheViewerLoads) {
     });
     EXPECT_SOON(!wait);
     EXPECT_TRUE(painted);
-}
-
-TEST_F(SplashTest, ALoadThatFailsDoesNotLeaveTheLoadingWindow) {
     expect_message(L"Quillomat", L"Out of memory");
     open_in(wait, [] { throw std::bad_alloc(); });
-    EXPECT_SOON(!wait);
+    EXPECT_SOON(!wait) << "also when the load fails";
 }
 
 }  // namespace
