@@ -48,17 +48,6 @@ TEST_F(MailMeTest, APickedSubjectAndATypedMessageReachTheAuthor) {
     EXPECT_FALSE(sent_a_file());
 }
 
-TEST_F(MailMeTest, TheWidthIsRememberedAndTheHeightIsNot) {
-    open();
-    form->set_height(4500);
-    form->set_width(6600);
-    form->close();
-    ASSERT_SOON(!form);
-    open();
-    EXPECT_NEAR(form->height(), 6045, 15) << "always as high as it was designed";
-    EXPECT_NEAR(form->width(), 6600, 15);
-}
-
 TEST_F(MailMeTest, AProposedMessageNeverReplacesAWrittenOne) {
     open();
     for (const wchar_t* const written : {L"", L"mine"}) {
