@@ -5,6 +5,8 @@
 #include <map>
 #include <string>
 
+#include "text/squeeze.h"
+
 namespace quillomat {
 namespace {
 
@@ -75,6 +77,26 @@ TEST(Turn, StaysWithinATurnForEver) {
         ASSERT_TRUE(*turn > 0 && *turn <= 1) << tick;
     }
     EXPECT_NEAR(turned_width(0.5), -1, 1e-5) << "seen from behind";
+}
+
+constexpr std::uint32_t white = 0xFFFFFF;
+
+TEST(Squeeze, AveragesWhatFallsOnAPixel) {
+    const std::pair<double, std::vector<std::uint32_t>> cases[] = {
+        {1, {0x000000, 0x400000, 0x008000, 0x0000C0}},
+        {0.5, {white, 0x200000, 0x004060, white}},
+        // A quarter of each middle pixel is black and a quarter another colour, the rest background.
+        {0.25, {white, 0x908080, 0x80A0B0, white}},
+        {0, {white, white, white, white}},
+    };
+    for (const auto& [factor, row] : cases) {
+        EXPECT_EQ(squeezed({4, 1, {0x000000, 0x400000, 0x008000, 0x0000C0}}, factor, white).pixels, row) << factor;
+    }
+}
+
+TEST(Squeeze, RowsStayApart) {
+    EXPECT_EQ(squeezed({3, 2, {1, 2, 3, 4, 5, 6}}, -1, white).pixels, (std::vector<std::uint32_t>{3, 2, 1, 6, 5, 4}));
+    EXPECT_TRUE(squeezed({}, 0.3, white).pixels.empty());
 }
 
 }  // namespace

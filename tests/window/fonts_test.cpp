@@ -159,23 +159,5 @@ TEST_F(FontsTest, ClosingTheViewerMeanwhileEndsTheCollection) {
     EXPECT_FALSE(exists("Fonts.dat"));
 }
 
-TEST_F(FontsTest, CommandsKeepTheirNumbersHoweverOftenFontsAreCollected) {
-    open_viewer();
-    // More entries in all than there are numbers.
-    for (int round = 0; round < 8; ++round) {
-        viewer->menus.remove_fonts();
-        for (int i = 0; i < 9'000; ++i) viewer->menus.add_font(L"x");
-    }
-    Menu& entry = *viewer->menus.mnuFontName[5];
-    entry.set_caption(L"Tahoma");
-    EXPECT_LE(viewer->menus.mnuFontName.back()->id(), 0xEFFF);
-    const bool colour = viewer->menus.mnuColour.checked();
-    for (const Menu* menu : {&entry, &viewer->menus.mnuColour}) {
-        SendMessageW(viewer->window(), WM_COMMAND, static_cast<WPARAM>(menu->id()), 0);
-    }
-    EXPECT_EQ(viewer->Text1.font().name, L"Tahoma");
-    EXPECT_NE(viewer->menus.mnuColour.checked(), colour);
-}
-
 }  // namespace
 }  // namespace quillomat
