@@ -2,32 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <string>
-
 #include "text/squeeze.h"
 
 namespace quillomat {
 namespace {
-
-/// The band as it looks: a letter per colour, from dark over mid to light.
-std::string drawn(const LetterBand& band) {
-    const std::map<ColourValue, char> letters = {{0x404040, 'd'}, {0x808080, 'm'}, {0xC0C0C0, 'L'}};
-    std::string text;
-    for (const ColourValue colour : band.colours) text += letters.at(colour);
-    return text;
-}
-
-TEST(LetterBand, RunsAcrossTheNameAndStartsAgain) {
-    int step = 0;
-    for (const char* const frame : {"Lmddd", "mLmdd", "dmLmd", "ddmLm", "dddmL", "ddddm", "mdddd", "Lmddd"}) {
-        const LetterBand band = next_letter_band(step, 5);
-        EXPECT_EQ(drawn(band), frame) << step;
-        step = band.step;
-    }
-    EXPECT_EQ(drawn(next_letter_band(-7, 5)), "ddddd");
-    EXPECT_EQ(drawn(next_letter_band(32767, 5)), "ddddd");
-}
 
 TEST(Motto, EveryOneOfEightCanBeChosenAndNoOther) {
     const std::pair<double, int> cases[] = {{0, 1}, {0.1249, 1}, {0.125, 2}, {0.9999999999999999, 8}};
@@ -57,17 +35,6 @@ TEST(Movements, EndAtTheirGoalOrLessThanAStepBeyond) {
         EXPECT_EQ(made, steps) << what;
         EXPECT_EQ(place, end) << what;
     }
-}
-
-TEST(RunningCapital, RunsAlongTheCaptionAndStartsAgain) {
-    const std::wstring caption = L"me - b";
-    int position = 0;
-    for (const wchar_t* const frame : {L"Me - b", L"mE - b", L"me - b", L"me - b", L"me - b", L"me - B", L"Me - b"}) {
-        position = next_capital(position, caption.size());
-        EXPECT_EQ(with_capital(caption, position, 30), frame) << position;
-    }
-    EXPECT_EQ(with_capital(L"author", 4, 2), L"autH") << "the addresses decide how much follows";
-    EXPECT_EQ(with_capital(L"", 1, 9), L"");
 }
 
 TEST(Turn, StaysWithinATurnForEver) {

@@ -1,17 +1,14 @@
 // The about box and the dialog about the author as a user meets them.
 
-#include "open_forms.h"
 #include "registry_override.h"
-#include "session_support.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
-#include "shell/frmMain.h"
-#include "shell/windows.h"
+#include "support.h"
 
 namespace quillomat {
 namespace {
 
-class AboutTest : public SessionTest {
+class AboutTest : public WindowTest {
   protected:
     void open() {
         open_in(about, pointer, std::int16_t{1});
@@ -75,26 +72,6 @@ TEST_F(AboutTest, StartsTheSystemInformationAndTellsWhatCannotBeStarted) {
     ASSERT_SOON((tool = FindWindowW(L"Notepad", nullptr)) && IsWindowVisible(tool) && !IsIconic(tool));
     PostMessageW(tool, WM_CLOSE, 0, 0);
     EXPECT_SOON(!IsWindow(tool));
-}
-
-TEST_F(AboutTest, OpensInFrontOfTheMainScreenWithTheNumberOfThisRun) {
-    session.settings.write(settings::Counter, 6);
-    Windows windows(application, session);
-    windows.open_main_screen();
-    auto& main_screen = *find_form<frmMain>();
-    Timer closer(main_screen, 10);
-    closer.on_timer = [&] {
-        auto* const box = find_form<frmAbout>();
-        if (!box || !IsWindowVisible(box->window())) return;
-        closer.set_enabled(false);
-        EXPECT_FALSE(IsWindowEnabled(main_screen.window()));
-        EXPECT_EQ(GetWindow(box->window(), GW_OWNER), main_screen.window());
-        EXPECT_EQ(box->Label4.caption(), L"You have run Quillomat 7 times.");
-        box->close();
-    };
-    main_screen.Command6.click();
-    EXPECT_FALSE(closer.enabled()) << "it was seen";
-    EXPECT_TRUE(!find_form<frmAbout>() && IsWindowEnabled(main_screen.window()));
 }
 
 TEST_F(AboutTest, TheAuthorGrowsToShowLinksAsFarAsTheScreenLetsIt) {

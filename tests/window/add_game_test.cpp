@@ -103,23 +103,6 @@ TEST_F(AddGameTest, AFailureLeavesTheFileAsItWasAndWhatWasTyped) {
     expect_unchanged(3);  // what was done stays done
 }
 
-TEST_F(AddGameTest, RemembersItsSizeOnlyWhenNormal) {
-    open();
-    window->set_width(6600);
-    window->set_height(5100);
-    press(*window->cmdButton[1]);
-    ASSERT_SOON(!window);
-    open_in(window, session, *link);
-    EXPECT_NEAR(window->width(), 6600, 15);
-    EXPECT_NEAR(window->height(), 5100, 15);
-    window->set_window_state(WindowState::Maximised);
-    window->close();
-    ASSERT_SOON(!window);
-    EXPECT_EQ(session.settings.read(settings::frmAddNewWidth), 6600);
-    open_in(window, session, *link);
-    EXPECT_EQ(window->window_state(), WindowState::Maximised);
-}
-
 TEST_F(AddGameTest, KeysLeadThroughTheWindow) {
     open();
     Button& add_button = *window->cmdButton[0];

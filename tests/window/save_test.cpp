@@ -1,8 +1,6 @@
 // Saving cheats to a file as a player does it: choosing a place and a name, and what the file holds afterwards.
 
-#include "open_forms.h"
 #include "output/frmSave.h"
-#include "shell/windows.h"
 #include "shown_viewer.h"
 #include "text/paths.h"
 
@@ -151,35 +149,6 @@ TEST_F(SaveTest, ADriveThatIsGoneIsToldAndNotChosen) {
     window->Dir1.set_path(in_small_letter);
     EXPECT_EQ(window->Dir1.path(), in_small_letter) << "the folder, not the root of its drive";
     EXPECT_EQ(window->Drive1.drive(), own);
-}
-
-TEST_F(SaveTest, OpensModallyWithoutAnOwnerAndEscapeClosesAnOpenListFirst) {
-    write("Cheats.dat", database);
-    Windows windows(application, session);
-    windows.open_viewer();
-    auto* const opened = find_form<frmCtlView>();
-    ASSERT_TRUE(opened);
-    opened->List2.select_index(0);
-    const auto dropped = [](frmSave& it) { return SendMessageW(it.Combo1.window(), CB_GETDROPPEDSTATE, 0, 0) != 0; };
-    bool seen = false;
-    Timer probe(*opened, 10);
-    probe.on_timer = [&] {
-        auto* const dialog = find_form<frmSave>();
-        if (!dialog || !IsWindowVisible(dialog->window())) return;
-        probe.set_enabled(false);
-        seen = true;
-        EXPECT_FALSE(IsWindowEnabled(opened->window()));
-        EXPECT_EQ(GetWindow(dialog->window(), GW_OWNER), nullptr);
-        dialog->Combo1.set_focus();
-        SendMessageW(dialog->Combo1.window(), CB_SHOWDROPDOWN, TRUE, 0);
-        press_key(VK_ESCAPE);
-        EXPECT_SOON(!dropped(*dialog));
-        EXPECT_FALSE(dialog->closed());
-        dialog->close();
-    };
-    opened->menus.mnuSelectedSave.pick();
-    EXPECT_TRUE(seen);
-    EXPECT_SOON(GetForegroundWindow() == opened->window());
 }
 
 }  // namespace
