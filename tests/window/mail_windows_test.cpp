@@ -94,10 +94,13 @@ TEST_F(MailCheatsTest, ANameFindsTheFirstGameThatHasIt) {
     session.catalogue.store(20, L"Game 3", L"a second one");
     session.catalogue.store(21, L"Renamed", L"under another name");
     open({3, 21});
-    form->Option2.set_value(true);
+    form->Option1.set_value(true);
     expect_sent();
-    EXPECT_EQ(sent("files/Cheats.txt"),
-              "********************\r\nGame 3\r\n********************\r\n\r\n" + cheats(3) + "\r\n");
+    const std::string separator = "\r\n\r\n-----------------------------------\r\n\r\n";
+    EXPECT_EQ(sent("mail/text"), utf8(message) + separator +
+                                     "********************\r\nGame 3\r\n********************\r\n\r\n" +
+                                     "Press 3 times\r\n\r\n\tand \xC2\xBD & \"quotes\"" + separator +
+                                     "Cheat codes taken from Quillomat.\r\nwww.tobferrand.example");
 }
 
 TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {

@@ -181,6 +181,10 @@ TEST_F(ViewerTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
     open_viewer();
     EXPECT_NEAR(viewer->Text1.width(), viewer->width() - 2980, 15);
     EXPECT_NEAR(viewer->List2.height(), viewer->height() - 2115, 15);
+    for (const Control* beside : std::initializer_list<const Control*>{&viewer->Text1, &viewer->Frame2}) {
+        EXPECT_NEAR(beside->top() + beside->height(), viewer->List2.top() + viewer->List2.height(), 15);
+    }
+    EXPECT_NEAR(viewer->List1.top() + viewer->List1.height(), viewer->Frame2.height(), 15);
     std::unique_ptr<frmAddNew> window;
     open_in(window, session, *link);
     EXPECT_NEAR(window->Text1.width(), window->width() - 360, 15);
