@@ -130,28 +130,29 @@ TEST_F(ViewerCommandsTest, AnImageIsPressedAndComesBack) {
 
 TEST_F(ViewerCommandsTest, HelpGoesWithThePointerWhereverItGoes) {
     const RECT& image = viewer->Image2[6].pixels();
-    const auto is_shown = [this] { return viewer->Shape1.visible() && viewer->Text4.visible(); };
+    const auto is_shown = [this] { return viewer && viewer->Shape1.visible() && viewer->Text4.visible(); };
     const auto is_tidy = [this] {
-        return !viewer->Shape1.visible() && !viewer->Text4.visible() &&
+        return viewer && !viewer->Shape1.visible() && !viewer->Text4.visible() &&
                viewer->Label1[5].back_colour() == rgb(0, 255, 255);
     };
-    EXPECT_TRUE(point_until(viewer->window(), image.left + 9, image.top + 9, is_shown));
-    EXPECT_TRUE(point_until(viewer->window(), image.left + 9, -10, is_tidy)) << "up into the menu bar";
-    EXPECT_TRUE(point_until(viewer->window(), image.left + 9, image.top + 9, is_shown));
+    ASSERT_TRUE(point_until(viewer->window(), image.left + 9, image.top + 9, is_shown));
+    ASSERT_TRUE(point_until(viewer->window(), image.left + 9, -10, is_tidy)) << "up into the menu bar";
+    ASSERT_TRUE(point_until(viewer->window(), image.left + 9, image.top + 9, is_shown));
     // Straight onto a control that has a help text too, and back.
-    EXPECT_TRUE(point_until(viewer->Option2.window(), 10, 8, [this] {
-        return viewer->Text4.text() == L"Click here to search for a specific game" && viewer->Option2.font().underline;
+    ASSERT_TRUE(point_until(viewer->Option2.window(), 10, 8, [this] {
+        return viewer && viewer->Text4.text() == L"Click here to search for a specific game" &&
+               viewer->Option2.font().underline;
     }));
     EXPECT_FALSE(viewer->Shape1.visible());
-    EXPECT_TRUE(point_until(viewer->window(), image.left + 9, image.top + 9, is_shown));
+    ASSERT_TRUE(point_until(viewer->window(), image.left + 9, image.top + 9, is_shown));
     EXPECT_FALSE(viewer->Option2.font().underline);
     SendMessageW(viewer->window(), WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(viewer->menus.mnuOptions.handle()), 1);
     EXPECT_TRUE(is_tidy()) << "an open menu stands alone";
 
     const RECT& letter = viewer->Label1[5].pixels();
-    EXPECT_TRUE(point_until(viewer->window(), letter.left + 4, letter.top + 5,
-                            [this] { return viewer->Label1[5].back_colour() == colours::black; }));
-    EXPECT_TRUE(point_until(viewer->Text1.window(), 50, 50, is_tidy));
+    ASSERT_TRUE(point_until(viewer->window(), letter.left + 4, letter.top + 5,
+                            [this] { return viewer && viewer->Label1[5].back_colour() == colours::black; }));
+    ASSERT_TRUE(point_until(viewer->Text1.window(), 50, 50, is_tidy));
 }
 
 TEST_F(ViewerCommandsTest, TheAlphabetBarJumps) {
