@@ -4,6 +4,7 @@
 //   durability_tests full FOLDER                         fills the disk of a folder, which must be a small one
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -131,14 +132,9 @@ class Writer {
 };
 
 /// Waits without giving up the processor: the system's own waiting is coarser than one writing is long.
-void wait_microseconds(long long microseconds) {
-    LARGE_INTEGER frequency{};
-    LARGE_INTEGER start{};
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&start);
-    LARGE_INTEGER now = start;
-    while ((now.QuadPart - start.QuadPart) * 1'000'000 < microseconds * frequency.QuadPart)
-        QueryPerformanceCounter(&now);
+void wait(std::chrono::microseconds time) {
+    const auto end = std::chrono::steady_clock::now() + time;
+    while (std::chrono::steady_clock::now() < end) continue;
 }
 
 /// Ends a writer in the middle of its work: whether the file is as after its last writing, or as after one more.
@@ -146,7 +142,7 @@ bool survives_kill(Way way, const std::wstring& path, std::mt19937& random) {
     const std::string start = bytes_of(path);
     Writer writer(way == Way::Append ? L"append" : L"replace", path);
     writer.wait_for_first_writing();
-    wait_microseconds(std::uniform_int_distribution<long long>(0, 30'000)(random));
+    wait(std::chrono::microseconds(std::uniform_int_distribution(0, 30'000)(random)));
     writer.end();
     const int finished = writer.finished();
     const std::string left = bytes_of(path);

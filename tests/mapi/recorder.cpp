@@ -1,6 +1,6 @@
 // A mail program for tests. In the folder that QUILLOMAT_MAIL_FOLDER names it leaves
 //   calls.txt    a line for every call, with what matters of its arguments
-//   mail\        of the last mail: address, name, subject and text (UTF-8 from the wide function, else as they came)
+//   mail\        of the last mail: address, name, subject and text, in UTF-8
 //   files\       of the last mail: a copy of each attached file, under the name the recipient sees
 // QUILLOMAT_MAIL_REFUSE names a function and the number it answers instead of doing its work, as in "MAPILogon=3".
 
@@ -11,42 +11,34 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <string_view>
 
 namespace {
 
+namespace fs = std::filesystem;
+
 // What is missing in some compilers' headers.
 struct WideRecipient {
-    ULONG ulReserved;
-    ULONG ulRecipClass;
-    PWSTR lpszName;
-    PWSTR lpszAddress;
-    ULONG ulEIDSize;
-    PVOID lpEntryID;
+    ULONG reserved, kind;
+    PWSTR name, address;
+    ULONG entry_size;
+    PVOID entry;
 };
 
 struct WideFile {
-    ULONG ulReserved;
-    ULONG flFlags;
-    ULONG nPosition;
-    PWSTR lpszPathName;
-    PWSTR lpszFileName;
-    PVOID lpFileType;
+    ULONG reserved, flags, position;
+    PWSTR path, name;
+    PVOID type;
 };
 
 struct WideMessage {
-    ULONG ulReserved;
-    PWSTR lpszSubject;
-    PWSTR lpszNoteText;
-    PWSTR lpszMessageType;
-    PWSTR lpszDateReceived;
-    PWSTR lpszConversationID;
-    FLAGS flFlags;
-    WideRecipient* lpOriginator;
-    ULONG nRecipCount;
-    WideRecipient* lpRecips;
-    ULONG nFileCount;
-    WideFile* lpFiles;
+    ULONG reserved;
+    PWSTR subject, text, type, date_received, conversation;
+    FLAGS flags;
+    WideRecipient* originator;
+    ULONG recipient_count;
+    WideRecipient* recipients;
+    ULONG file_count;
+    WideFile* files;
 };
 
 constexpr LHANDLE only_session = 4711;
@@ -58,7 +50,7 @@ std::wstring environment(const wchar_t* name) {
     return text;
 }
 
-std::filesystem::path folder() {
+fs::path folder() {
     return environment(L"QUILLOMAT_MAIL_FOLDER");
 }
 
@@ -70,51 +62,13 @@ ULONG called(const std::string& function, const std::string& arguments) {
     return refused.starts_with(wanted) ? std::stoul(refused.substr(wanted.size())) : 0;
 }
 
-std::string bytes(const char* text) {
-    return text ? text : "";
+void write(const char* name, const wchar_t* text) {
+    const std::u8string bytes = fs::path(text ? text : L"").u8string();
+    std::ofstream(folder() / "mail" / name, std::ios::binary) << std::string(bytes.begin(), bytes.end());
 }
 
-std::string bytes(const wchar_t* text) {
-    if (!text) return {};
-    std::string result(
-        static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr)), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, -1, result.data(), static_cast<int>(result.size()), nullptr, nullptr);
-    result.pop_back();
-    return result;
-}
-
-template <class Character>
-void write(const char* name, const Character* text) {
-    std::ofstream(folder() / "mail" / name, std::ios::binary) << bytes(text);
-}
-
-template <class File>
-void keep_copy(const File& file) {
-    const std::filesystem::path path(file.lpszPathName);
-    const std::filesystem::path name = file.lpszFileName ? std::filesystem::path(file.lpszFileName) : path.filename();
-    std::filesystem::copy_file(path, folder() / "files" / name);
-}
-
-template <class Message>
-ULONG send(const char* function, LHANDLE session, ULONG_PTR owner, const Message& message, FLAGS flags) {
-    const bool in_text = message.nFileCount > 0 && message.lpFiles[0].nPosition != 0xFFFFFFFF;
-    const bool to_one = message.nRecipCount == 1 && message.lpRecips[0].ulRecipClass == MAPI_TO;
-    const ULONG refusal =
-        called(function, std::string(flags & MAPI_DIALOG ? " dialog" : "") + (to_one ? " to one" : "") +
-                             (message.nFileCount > 0 ? " file" : "") + (in_text ? " in text" : "") +
-                             (IsWindow(reinterpret_cast<HWND>(owner)) ? "" : " without owner"));
-    if (refusal != 0) return refusal;
-    if (session != only_session || sessions_open != 1) return MAPI_E_INVALID_SESSION;
-    for (const char* part : {"mail", "files"}) {
-        std::filesystem::remove_all(folder() / part);
-        std::filesystem::create_directories(folder() / part);
-    }
-    write("address", message.lpRecips[0].lpszAddress);
-    write("name", message.lpRecips[0].lpszName);
-    write("subject", message.lpszSubject);
-    write("text", message.lpszNoteText);
-    for (ULONG index = 0; index < message.nFileCount; ++index) keep_copy(message.lpFiles[index]);
-    return SUCCESS_SUCCESS;
+std::string if_so(bool condition, const char* words) {
+    return condition ? words : "";
 }
 
 }  // namespace
@@ -123,9 +77,8 @@ extern "C" {
 
 ULONG WINAPI MAPILogon(ULONG_PTR, LPSTR profile, LPSTR, FLAGS flags, ULONG, LPLHANDLE session) {
     const ULONG refusal =
-        called("MAPILogon", std::string(flags & MAPI_LOGON_UI ? " dialog" : "") +
-                                (flags & MAPI_FORCE_DOWNLOAD ? " download" : "") +
-                                (flags & MAPI_NEW_SESSION ? " new" : "") + (profile ? " profile" : ""));
+        called("MAPILogon", if_so(flags & MAPI_LOGON_UI, " dialog") + if_so(flags & MAPI_FORCE_DOWNLOAD, " download") +
+                                if_so(flags & MAPI_NEW_SESSION, " new") + if_so(profile, " profile"));
     if (refusal != 0) return refusal;
     ++sessions_open;
     *session = only_session;
@@ -139,12 +92,29 @@ ULONG WINAPI MAPILogoff(LHANDLE session, ULONG_PTR, FLAGS, ULONG) {
     return refusal;
 }
 
-ULONG WINAPI MAPISendMail(LHANDLE session, ULONG_PTR owner, lpMapiMessage message, FLAGS flags, ULONG) {
-    return send("MAPISendMail", session, owner, *message, flags);
-}
-
 ULONG WINAPI MAPISendMailW(LHANDLE session, ULONG_PTR owner, WideMessage* message, FLAGS flags, ULONG) {
-    return send("MAPISendMailW", session, owner, *message, flags);
+    const bool to_one = message->recipient_count == 1 && message->recipients[0].kind == MAPI_TO;
+    const bool with_file = message->file_count > 0;
+    const ULONG refusal = called(
+        "MAPISendMailW", if_so(flags & MAPI_DIALOG, " dialog") + if_so(to_one, " to one") + if_so(with_file, " file") +
+                             if_so(with_file && message->files[0].position != 0xFFFFFFFF, " in text") +
+                             if_so(!IsWindow(reinterpret_cast<HWND>(owner)), " without owner"));
+    if (refusal != 0) return refusal;
+    if (session != only_session || sessions_open != 1) return MAPI_E_INVALID_SESSION;
+    for (const char* part : {"mail", "files"}) {
+        fs::remove_all(folder() / part);
+        fs::create_directories(folder() / part);
+    }
+    write("address", message->recipients[0].address);
+    write("name", message->recipients[0].name);
+    write("subject", message->subject);
+    write("text", message->text);
+    for (ULONG index = 0; index < message->file_count; ++index) {
+        const WideFile& file = message->files[index];
+        fs::copy_file(file.path,
+                      folder() / "files" / (file.name ? fs::path(file.name) : fs::path(file.path).filename()));
+    }
+    return SUCCESS_SUCCESS;
 }
 
 }  // extern "C"

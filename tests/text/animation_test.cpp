@@ -2,30 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <string>
+#include "text/squeeze.h"
 
 namespace quillomat {
 namespace {
-
-/// The band as it looks: a letter per colour, from dark over mid to light.
-std::string drawn(const LetterBand& band) {
-    const std::map<ColourValue, char> letters = {{0x404040, 'd'}, {0x808080, 'm'}, {0xC0C0C0, 'L'}};
-    std::string text;
-    for (const ColourValue colour : band.colours) text += letters.at(colour);
-    return text;
-}
-
-TEST(LetterBand, RunsAcrossTheNameAndStartsAgain) {
-    int step = 0;
-    for (const char* const frame : {"Lmddd", "mLmdd", "dmLmd", "ddmLm", "dddmL", "ddddm", "mdddd", "Lmddd"}) {
-        const LetterBand band = next_letter_band(step, 5);
-        EXPECT_EQ(drawn(band), frame) << step;
-        step = band.step;
-    }
-    EXPECT_EQ(drawn(next_letter_band(-7, 5)), "ddddd");
-    EXPECT_EQ(drawn(next_letter_band(32767, 5)), "ddddd");
-}
 
 TEST(Motto, EveryOneOfEightCanBeChosenAndNoOther) {
     const std::pair<double, int> cases[] = {{0, 1}, {0.1249, 1}, {0.125, 2}, {0.9999999999999999, 8}};
@@ -57,41 +37,33 @@ TEST(Movements, EndAtTheirGoalOrLessThanAStepBeyond) {
     }
 }
 
-TEST(ExitConfirmation, ShrinksAndGrowsEachPartToItsOwnLimit) {
-    const struct {
-        ExitConfirmation (*step)(const ExitConfirmation&);
-        ExitConfirmation before;
-        ExitConfirmation after;
-    } cases[] = {
-        {next_asking, {2501, 3615, 3614}, {2101, 3515, 3614}},
-        {next_asking, {2500, 3614.896, 3614.897}, {2500, 3614.896, 3514.897}},
-        {next_withdrawing, {5414, 4588, 4589}, {5814, 4688, 4589}},
-        {next_withdrawing, {5415, 4588.138, 4588.137}, {5415, 4588.138, 4688.137}},
-    };
-    for (const auto& [step, before, after] : cases) EXPECT_EQ(step(before), after);
-}
-
-TEST(RunningCapital, RunsAlongTheCaptionAndStartsAgain) {
-    const std::wstring caption = L"me - b";
-    int position = 0;
-    for (const wchar_t* const frame : {L"Me - b", L"mE - b", L"me - b", L"me - b", L"me - b", L"me - B", L"Me - b"}) {
-        position = next_capital(position, caption.size());
-        EXPECT_EQ(with_capital(caption, position, 30), frame) << position;
-    }
-    EXPECT_EQ(with_capital(L"author", 4, 2), L"autH") << "the addresses decide how much follows";
-    EXPECT_EQ(with_capital(L"", 1, 9), L"");
-}
-
 TEST(Turn, StaysWithinATurnForEver) {
     std::optional<double> turn;
     for (int tick = 1; tick < 10'000; ++tick) {
         turn = next_turn(turn);
         ASSERT_TRUE(*turn > 0 && *turn <= 1) << tick;
-        if (tick == 41) {
-            EXPECT_NEAR(turned_width(*turn), -1, 1e-5) << "seen from behind";
-        }
     }
-    EXPECT_NEAR(turned_width(0.1), 0.80920, 1e-5);
+    EXPECT_NEAR(turned_width(0.5), -1, 1e-5) << "seen from behind";
+}
+
+constexpr std::uint32_t white = 0xFFFFFF;
+
+TEST(Squeeze, AveragesWhatFallsOnAPixel) {
+    const std::pair<double, std::vector<std::uint32_t>> cases[] = {
+        {1, {0x000000, 0x400000, 0x008000, 0x0000C0}},
+        {0.5, {white, 0x200000, 0x004060, white}},
+        // A quarter of each middle pixel is black and a quarter another colour, the rest background.
+        {0.25, {white, 0x908080, 0x80A0B0, white}},
+        {0, {white, white, white, white}},
+    };
+    for (const auto& [factor, row] : cases) {
+        EXPECT_EQ(squeezed({4, 1, {0x000000, 0x400000, 0x008000, 0x0000C0}}, factor, white).pixels, row) << factor;
+    }
+}
+
+TEST(Squeeze, RowsStayApart) {
+    EXPECT_EQ(squeezed({3, 2, {1, 2, 3, 4, 5, 6}}, -1, white).pixels, (std::vector<std::uint32_t>{3, 2, 1, 6, 5, 4}));
+    EXPECT_TRUE(squeezed({}, 0.3, white).pixels.empty());
 }
 
 }  // namespace

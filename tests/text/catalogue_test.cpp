@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 #include <string>
 #include <vector>
@@ -22,32 +23,29 @@ std::wstring name_lines(int count) {
     return text;
 }
 
+using Names = std::vector<std::wstring>;
+
 /// What loading a text, or listing again, listed, and the error that ended it.
 struct Outcome {
-    std::vector<std::wstring> listed;
+    explicit Outcome(const std::function<void(const Catalogue::ListName&)>& action) {
+        try {
+            action([this](std::wstring_view name) { listed.emplace_back(name); });
+        } catch (const Error& caught) {
+            error = caught.code();
+        }
+    }
+
+    Names listed;
     std::optional<ErrorCode> error;
 };
 
-template <typename Action>
-Outcome outcome_of(const Action& action) {
-    Outcome outcome;
-    try {
-        action([&](std::wstring_view name) { outcome.listed.emplace_back(name); });
-    } catch (const Error& error) {
-        outcome.error = error.code();
-    }
-    return outcome;
-}
-
 Outcome load(Catalogue& catalogue, std::wstring_view text) {
-    return outcome_of([&](const Catalogue::ListName& list_name) { catalogue.load(decoded(text), list_name); });
+    return Outcome([&](const auto& list_name) { catalogue.load(decoded(text), list_name); });
 }
 
 Outcome relist(const Catalogue& catalogue) {
-    return outcome_of([&](const Catalogue::ListName& list_name) { catalogue.relist(list_name); });
+    return Outcome([&](const auto& list_name) { catalogue.relist(list_name); });
 }
-
-using Names = std::vector<std::wstring>;
 
 TEST(Catalogue, FillsTheSlots) {
     const struct {
@@ -92,24 +90,16 @@ TEST(Catalogue, HoldsAllItsSlotsAndNoLineMore) {
 
 TEST(Catalogue, RelistsUpToTheFirstEmptyNameWithAddedGames) {
     Catalogue catalogue;
-    load(catalogue, name_lines(2) + marker + L" \r\n" + marker + L" hidden\r\n");
+    load(catalogue, name_lines(2) + marker + L" \r\n" + marker + L" hidden\r\nleft over");
     EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"Game 1"}));
-    catalogue.store(2, L"Added", L"cheats");
-    EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"Game 1", L"Added", L"hidden"}));
-}
-
-TEST(Catalogue, AnAddedGameReplacesTheTrailingTextUntilTheNextLoad) {
-    Catalogue catalogue;
-    load(catalogue, name_lines(1) + L"left over");
-    catalogue.store(1, L"A", L"first");
-    catalogue.store(2, L"B", L"second");
-    catalogue.store(1, L"C", L"third");
-    EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"C", L"B"}));
-    EXPECT_EQ(catalogue.cheats(1), L"third");
-    EXPECT_EQ(catalogue.cheats(2), L"second");
+    for (const auto& [slot, name] : {std::pair{2, L"Added"}, {4, L"A"}, {5, L"B"}, {4, L"C"}}) {
+        catalogue.store(slot, name, name);
+    }
+    EXPECT_EQ(relist(catalogue).listed, (Names{L"Game 0", L"Game 1", L"Added", L"hidden", L"C", L"B"}));
+    EXPECT_EQ(catalogue.cheats(4), L"C") << "and not the text that trailed";
     load(catalogue, name_lines(1));
     EXPECT_EQ(relist(catalogue).listed, Names{L"Game 0"});
-    EXPECT_EQ(catalogue.cheats(2), L"");
+    EXPECT_EQ(catalogue.cheats(4), L"");
 }
 
 TEST(Catalogue, RefusesNumbersOutsideItsSlots) {
@@ -122,11 +112,8 @@ TEST(Catalogue, RefusesNumbersOutsideItsSlots) {
 }
 
 TEST(Catalogue, ReadsBackTheRecordsThatWereWritten) {
-    std::wstring text;
-    for (const wchar_t* cheats : {L"one\r\ntwo\r\nthree", L"x\r\n"}) text += record_text(L"Game", cheats);
-    EXPECT_EQ(text, L"one\r\ntwo\r\nthree\r\n$$$$$$$$$$$$$$$$$$$$ Game\r\nx\r\n\r\n$$$$$$$$$$$$$$$$$$$$ Game\r\n");
     Catalogue catalogue;
-    load(catalogue, text);
+    load(catalogue, record_text(L"Game", L"one\r\ntwo\r\nthree") + record_text(L"Game", L"x\r\n"));
     EXPECT_EQ(catalogue.cheats(0), L"one\r\ntwo\r\nthree");
     EXPECT_EQ(catalogue.cheats(1), L"x\r\n");
 }
@@ -158,25 +145,19 @@ TEST(Catalogue, AgreesWithReadingLineByLine) {
     }
 }
 
-/// Lone CRs are looked for in blocks, and a CR LF may lie across two of them.
+/// Lone CRs are looked for in blocks, and a CR LF may lie across two of them. Runs that are no marker are passed once:
+/// looking at a whole run again from each of its characters would not end.
 TEST(Catalogue, AgreesWithReadingLineByLineWhereverALineEnds) {
-    Catalogue catalogue;
+    const std::wstring run(2'000'000, L'$');
+    std::vector<std::wstring> texts{L" " + run + L"\r\n" + marker + L" A", run, L"x\n" + run + L"\r\n\r\n" + run};
     for (std::size_t position = 4080; position < 4110; ++position) {
-        for (const wchar_t* line_end : {L"\r\n", L"\r", L"\n"}) {
-            const std::wstring text = std::wstring(position, L'x') + line_end + marker + L" A" + line_end +
-                                      std::wstring(5000, L'y') + line_end;
-            ASSERT_EQ(difference_from_reference(text, catalogue), std::nullopt) << position;
+        for (const std::wstring line_end : {L"\r\n", L"\r", L"\n"}) {
+            const std::wstring name_line = line_end + marker + L" A" + line_end;
+            texts.push_back(std::wstring(position, L'x') + name_line + std::wstring(5000, L'y') + line_end);
         }
     }
-}
-
-/// Runs that are no marker are passed once: looking at a whole run again from each of its characters would not end.
-TEST(Catalogue, AgreesWithReadingLineByLineOnEndlessRuns) {
     Catalogue catalogue;
-    const std::wstring run(2'000'000, L'$');
-    for (const std::wstring& text : {L" " + run + L"\r\n" + marker + L" A", run, L"x\n" + run + L"\r\n\r\n" + run}) {
-        EXPECT_EQ(difference_from_reference(text, catalogue), std::nullopt);
-    }
+    for (const std::wstring& text : texts) EXPECT_EQ(difference_from_reference(text, catalogue), std::nullopt);
 }
 
 }  // namespace

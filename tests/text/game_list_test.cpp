@@ -4,6 +4,9 @@
 
 #include <vector>
 
+#include "text/game_range.h"
+#include "text/picked_games.h"
+
 namespace quillomat {
 namespace {
 
@@ -41,6 +44,50 @@ TEST(GameList, JumpsToTheFirstItemWithAnInitial) {
     EXPECT_EQ(first_with_initial(L'B', count, text_in(items)), 3);
     EXPECT_EQ(first_with_initial(L'C', count, text_in(items)), std::nullopt);
     EXPECT_EQ(first_with_initial(L'A', 0, text_in(items)), std::nullopt);
+}
+
+TEST(GameRange, IsWhatWasTypedWhenTheListHasIt) {
+    const struct {
+        const wchar_t* first;
+        const wchar_t* last;
+        const wchar_t* total;
+        std::optional<GameRange> range;
+    } cases[] = {
+        {L"1", L"2000", L"2000", GameRange{1, 2000}},
+        {L"0012", L"20", L"9", GameRange{12, 20}},
+        {L"1", L"2001", L"2001", std::nullopt},
+        {L"0", L"5", L"6", std::nullopt},
+        {L"1", L"", L"0", std::nullopt},
+        {L"5", L"3", L"-1", std::nullopt},
+        {L"3 pasted", L"4th", L"2", GameRange{3, 4}},
+        {L"1", L"99999999999999999999999999", L"4000000000000000000", std::nullopt},
+    };
+    for (const auto& [first, last, total, range] : cases) {
+        EXPECT_EQ(typed_range_total(first, last), total) << first << L" to " << last;
+        EXPECT_EQ(typed_range(first, last, 2000), range) << first << L" to " << last;
+    }
+    EXPECT_EQ(typed_range(L"1", L"1", 0), std::nullopt) << "an empty list has no range at all";
+}
+
+TEST(PickedGames, TheCursorGoesRoundFromOneToTheNext) {
+    using Picked = std::vector<int>;
+    const struct {
+        int current;
+        Picked picked;
+        std::optional<int> previous;
+        std::optional<int> next;
+    } cases[] = {
+        {5, {}, {}, {}},          // nothing to go to
+        {5, {5}, 5, 5},           // only where it is
+        {5, {2}, 2, 2},           // round
+        {4, {2, 4, 7, 9}, 2, 7},  // from a picked one
+        {9, {2, 4, 7, 9}, 7, 2},  // round from the last
+        {2500, {0, 2500}, 0, 0},  // the ends of the longest list
+    };
+    for (const auto& [current, picked, previous, next] : cases) {
+        EXPECT_EQ(previous_picked(current, picked), previous) << current;
+        EXPECT_EQ(next_picked(current, picked), next) << current;
+    }
 }
 
 }  // namespace

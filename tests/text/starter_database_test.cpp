@@ -26,35 +26,21 @@ std::size_t count_of(const std::string& text, const std::string& part) {
 }
 
 /// The database a new user starts with, checked for what the program relies on and for slips of whoever edits it.
-class StarterDatabase : public testing::Test {
-  protected:
-    void SetUp() override {
-        ASSERT_FALSE(bytes.empty()) << "no " QUILLOMAT_STARTER_DATABASE;
-        catalogue.load(widened(bytes), [this](std::wstring_view name) { names.emplace_back(name); });
-    }
-
-    std::string bytes = starter_database();
-    Catalogue catalogue;
+TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
+    const std::string bytes = starter_database();
     std::vector<std::wstring> names;
-};
-
-TEST_F(StarterDatabase, HoldsEveryRecordWhole) {
-    const std::size_t name_lines = count_of("\r\n" + bytes, "\r\n$$$$$$$$$$$$$$$$$$$$ ");
-    EXPECT_EQ(names.size(), name_lines);
-    EXPECT_EQ(count_of(bytes, "$$$$$$$$$$"), 2 * name_lines) << "a marker that is too short, too long or misplaced";
+    Catalogue catalogue;
+    catalogue.load(widened(bytes), [&](std::wstring_view name) { names.emplace_back(name); });
     EXPECT_GE(names.size(), 150U);
-    EXPECT_TRUE(bytes.ends_with("\r\n"));
+    EXPECT_EQ(names.size(), count_of("\r\n" + bytes, "\r\n$$$$$$$$$$$$$$$$$$$$ "));
+    EXPECT_EQ(count_of(bytes, "$$$$$$$$$$"), 2 * names.size()) << "a marker that is too short, too long or misplaced";
     EXPECT_EQ(catalogue.cheats(static_cast<int>(names.size())), L"") << "text behind the last name line";
-}
 
-TEST_F(StarterDatabase, IsPlainTextWithWholeLineEnds) {
-    const std::size_t line_ends = count_of(bytes, "\r\n");
     const auto is_control = [](char byte) { return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F; };
-    EXPECT_EQ(std::count_if(bytes.begin(), bytes.end(), is_control), 2 * static_cast<std::ptrdiff_t>(line_ends));
+    EXPECT_TRUE(bytes.ends_with("\r\n"));
+    EXPECT_EQ(static_cast<std::size_t>(std::ranges::count_if(bytes, is_control)), 2 * count_of(bytes, "\r\n"));
     EXPECT_EQ(bytes.find('\xC3'), std::string::npos) << "saved as UTF-8";
-}
 
-TEST_F(StarterDatabase, ListsTheGamesInAlphabeticalOrder) {
     std::wstring previous;
     for (const std::wstring& name : names) {
         std::wstring upper = name;

@@ -1,13 +1,8 @@
-// The about box as a user meets it.
+// The about box and the dialog about the author as a user meets them.
 
-#include <memory>
-
-#include "open_forms.h"
 #include "registry_override.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
-#include "shell/frmMain.h"
-#include "shell/windows.h"
 #include "support.h"
 
 namespace quillomat {
@@ -16,118 +11,111 @@ namespace {
 class AboutTest : public WindowTest {
   protected:
     void open() {
-        about = std::make_unique<frmAbout>(application, pointer, std::int16_t{1});
-        about->show();
-        ASSERT_TRUE(pump_until([this] { return IsWindowVisible(about->window()) && GetFocus(); }));
+        open_in(about, pointer, std::int16_t{1});
+        ASSERT_SOON(IsWindowVisible(about->window()) && GetFocus());
+    }
+    void open_author(int dpi = 96) {
+        application.force_dpi(dpi);
+        open_in(author, pointer);
+        ASSERT_SOON(IsWindowVisible(author->window()) && GetFocus());
+    }
+    std::vector<Link*> links() const {
+        return {&author->Label3, &author->Label4, &author->Label5, &author->Label6, &author->Label8};
+    }
+    void expect_opened(const char* address) {
+        std::string opened;
+        EXPECT_SOON(!(opened = links_.take()).empty());
+        EXPECT_EQ(opened, address);
     }
 
     PointerState pointer;
     std::unique_ptr<frmAbout> about;
+    std::unique_ptr<Dialog1> author;
+
+  private:
+    const CaughtLinks links_;
 };
 
-TEST_F(AboutTest, OpensInTheMiddleWithThePointerOnItsButton) {
-    open();
-    RECT outer{};
-    GetWindowRect(about->window(), &outer);
-    EXPECT_NEAR(outer.left + outer.right, GetSystemMetrics(SM_CXSCREEN), 2);
-    EXPECT_TRUE(about->cmdButton[0].has_focus());
-    POINT position{};
-    GetCursorPos(&position);
-    EXPECT_EQ(WindowFromPoint(position), about->cmdButton[0].window());
-}
-
 TEST_F(AboutTest, TheAddressesAndTheMailMenuLeadToTheAuthor) {
-    const CaughtLinks links;
     open();
-    std::string address;
-    const auto opened = [&] { return !(address = links.take()).empty(); };
+    press_key(VK_ESCAPE);
+    EXPECT_SOON(!about);
+    open();
     press_key('E', {VK_MENU});
     press_key('D');
-    EXPECT_TRUE(pump_until(opened));
-    EXPECT_EQ(address, "mailto:tob@tobferrand.example");
+    expect_opened("mailto:tob@tobferrand.example");
     about->Label2.click();
-    EXPECT_TRUE(pump_until(opened));
-    EXPECT_EQ(address, "http://www.tobferrand.example");
+    expect_opened("http://www.tobferrand.example");
     about->mnuMailMe.pick();
-    EXPECT_TRUE(about->closed());
     EXPECT_EQ(about->next(), frmAbout::Next::MessageToAuthor);
 }
 
-TEST_F(AboutTest, ALinkThatNothingOpensGivesOneMessage) {
+TEST_F(AboutTest, StartsTheSystemInformationAndTellsWhatCannotBeStarted) {
+    constexpr wchar_t msinfo[] = L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
     const RegistryOverride no_programs(HKEY_CLASSES_ROOT);
+    const RegistryOverride machine(HKEY_LOCAL_MACHINE);
     open();
     expect_message(L"Quillomat",
                    L"An error has occured.\r\nMake sure your internet connection is ON and that your web settings are "
                    L"configured properly.");
     about->Label2.click();
-}
-
-TEST_F(AboutTest, TheSystemInformationToolIsStarted) {
-    const RegistryOverride machine(HKEY_LOCAL_MACHINE);
-    open();
-    const std::wstring key = L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
-    machine.set(key, L"PATH", L"C:\\no such folder\\MSINFO32.EXE");
+    machine.set(msinfo, L"PATH", L"C:\\no such folder\\MSINFO32.EXE");
     expect_message(L"Quillomat", L"System Information Is Unavailable At This Time");
     about->cmdButton[1].click();
 
     // Any program with a window of its own shows that it was started.
     wchar_t folder[MAX_PATH];
     GetSystemDirectoryW(folder, MAX_PATH);
-    machine.set(key, L"PATH", folder + std::wstring(L"\\notepad.exe"));
+    machine.set(msinfo, L"PATH", folder + std::wstring(L"\\notepad.exe"));
     about->cmdButton[1].click();
     HWND tool = nullptr;
-    ASSERT_TRUE(pump_until([&] { return (tool = FindWindowW(L"Notepad", nullptr)) != nullptr; }));
-    EXPECT_TRUE(pump_until([&] { return IsWindowVisible(tool) && !IsIconic(tool); }));
+    ASSERT_SOON((tool = FindWindowW(L"Notepad", nullptr)) && IsWindowVisible(tool) && !IsIconic(tool));
     PostMessageW(tool, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(pump_until([&] { return !IsWindow(tool); }));
+    EXPECT_SOON(!IsWindow(tool));
 }
 
-TEST_F(AboutTest, EscapeAndEnterCloseIt) {
-    for (const WORD key : {VK_ESCAPE, VK_RETURN}) {
-        open();
-        press_key(key);
-        EXPECT_TRUE(pump_until([this] { return about->closed(); }));
+TEST_F(AboutTest, TheAuthorGrowsToShowLinksAsFarAsTheScreenLetsIt) {
+    for (const int dpi : {96, 120, 144, 288}) {
+        open_author(dpi);
+        const double screen_height = to_twips(GetSystemMetrics(SM_CYSCREEN), dpi);
+        const double height_before = author->height();
+        author->move_to(author->left(), screen_height - height_before);
+        for (int round = 0; round < 2; ++round) {
+            author->cmdButton[0].click();
+            EXPECT_TRUE(author->cmdButton[1].has_focus()) << "the focus goes on to the button that takes its place";
+            EXPECT_TRUE(dpi > 144 || author->top() + author->height() <= screen_height) << dpi;
+            for (const Link* link : links()) {
+                EXPECT_TRUE(IsWindowVisible(link->window()));
+                EXPECT_TRUE(dpi > 144 || link->top() + link->height() < author->inner_height()) << dpi;
+            }
+            author->cmdButton[1].click();
+            EXPECT_TRUE(author->cmdButton[0].has_focus());
+            EXPECT_TRUE(dpi > 144 || author->height() == height_before) << dpi;
+            for (const Link* link : links()) EXPECT_FALSE(link->visible()) << "below the edge no key reaches it";
+        }
     }
 }
 
-/// A dialog of the main screen, as the program opens it.
-class AboutFromMainScreenTest : public WindowTest {
-  protected:
-    AboutFromMainScreenTest() {
-        session.settings = registry.settings();
-        session.settings.write(settings::Counter, 6);
-        windows.open_main_screen();
+TEST_F(AboutTest, EveryLinkOfTheAuthorOpensItsPage) {
+    open_author();
+    author->Expand();
+    const char* const addresses[] = {"http://www.tobferrand.example", "http://lists.allvb.example/subscribe/allvb",
+                                     "http://www.tobferrand.example/cgi-bin/guestex.cgi",
+                                     "mailto:tob@tobferrand.example", "http://www.tobferrand.example/downloads.htm"};
+    for (std::size_t i = 0; i < links().size(); ++i) {
+        links()[i]->click();
+        expect_opened(addresses[i]);
     }
-    /// Opens it with a button, looks at it and closes it again.
-    template <class Dialog>
-    void open(Button& button, const std::function<void(const Dialog&)>& look) {
-        const Form& main_screen = button.form();
-        Timer closer(button.form(), 10);
-        closer.on_timer = [&] {
-            auto* dialog = find_form<Dialog>();
-            if (!dialog || !IsWindowVisible(dialog->window())) return;
-            closer.set_enabled(false);
-            EXPECT_FALSE(IsWindowEnabled(main_screen.window()));
-            EXPECT_EQ(GetWindow(dialog->window(), GW_OWNER), main_screen.window());
-            look(*dialog);
-            dialog->close();
-        };
-        button.click();
-        EXPECT_FALSE(closer.enabled()) << "it was seen";
-        EXPECT_EQ(find_form<Dialog>(), nullptr);
-        EXPECT_TRUE(IsWindowEnabled(main_screen.window()));
+    // In the box, the address that is double-clicked.
+    const HWND box = author->Text1.window();
+    for (const std::size_t line : {0u, 1u}) {
+        const LRESULT start = SendMessageW(box, EM_LINEINDEX, line, 0);
+        const LRESULT place = SendMessageW(box, EM_POSFROMCHAR, static_cast<WPARAM>(start), 0);
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+            SendMessageW(box, message, 0, MAKELPARAM(40, HIWORD(place) + 5));
+        }
+        expect_opened(addresses[line == 0 ? 3 : 0]);
     }
-
-    TemporarySettings registry;
-    Session session;
-    Windows windows{application, session};
-};
-
-TEST_F(AboutFromMainScreenTest, OpensInFrontOfItWithTheNumberOfThisRun) {
-    auto& main_screen = *find_form<frmMain>();
-    open<frmAbout>(main_screen.Command6,
-                   [](const frmAbout& box) { EXPECT_EQ(box.Label4.caption(), L"You have run Quillomat 7 times."); });
-    open<Dialog1>(main_screen.Command8, [](const Dialog1&) {});
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
 // The rules that every window of the program relies on, held over every kind of control.
 
-#include <memory>
-
 #include "forms/button.h"
 #include "forms/form.h"
 #include "forms/frame.h"
+#include "forms/gdi.h"
 #include "forms/graphics.h"
 #include "forms/list_box.h"
 #include "forms/option_button.h"
@@ -39,12 +38,7 @@ class FormsTest : public WindowTest {
   protected:
     void show() {
         board.show();
-        ASSERT_TRUE(pump_until([this] { return IsWindowVisible(board.window()) && GetFocus(); }));
-    }
-    /// Moves the real pointer to the middle of an item, in front of everything that could cover it.
-    void point_at(HWND window, const Item& item) {
-        const auto pixels = [this](double twips) { return to_pixels(twips, board.dpi()); };
-        move_pointer(window, pixels(item.left() + item.width() / 2), pixels(item.top() + item.height() / 2));
+        ASSERT_SOON(IsWindowVisible(board.window()) && GetFocus());
     }
 
     Board board{application};
@@ -54,41 +48,41 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
     show();
     int events = 0;
     const auto count = [&events] { ++events; };
-    const auto raises_one = [&](const std::function<void()>& act) {
+    const auto expect_one = [&](const std::function<void()>& act) {
         events = 0;
         act();
-        EXPECT_TRUE(pump_until([&] { return events > 0; }));
+        EXPECT_SOON(events > 0);
         pump();
-        return events == 1;
+        EXPECT_EQ(events, 1);
     };
     for (TextBox* box : {&board.Text1, &board.Text2}) {
         box->on_change = count;
         box->set_focus();
-        EXPECT_TRUE(raises_one([&] { box->set_text(L"a"); }));
-        EXPECT_TRUE(raises_one([] { press_key('B'); }));
+        expect_one([&] { box->set_text(L"a"); });
+        expect_one([] { press_key('B'); });
     }
 
     board.List1.on_click = count;
-    board.List1.add(L"first");
-    board.List1.add(L"second");
+    for (const wchar_t* item : {L"first", L"second"}) board.List1.add(item);
     board.List1.set_focus();
-    EXPECT_TRUE(raises_one([&] { board.List1.select_index(0); }));
-    EXPECT_TRUE(raises_one([] { press_key(VK_DOWN); }));
+    expect_one([&] { board.List1.select_index(0); });
+    expect_one([] { press_key(VK_DOWN); });
 
     board.Option2.on_click = count;
-    EXPECT_TRUE(raises_one([&] {
+    // A choice that is set already does not become set.
+    expect_one([&] {
         board.Option2.set_value(true);
         board.Option2.set_value(true);
-    })) << "a choice that is set already does not become set";
+    });
     board.Option1.set_value(true);
     EXPECT_FALSE(board.Option2.value());
     board.Option1.set_focus();
-    EXPECT_TRUE(raises_one([] { press_key(VK_RIGHT); }));
+    expect_one([] { press_key(VK_RIGHT); });
 
     board.Command1.on_click = count;
     board.Command1.set_focus();
-    EXPECT_TRUE(raises_one([&] { board.Command1.click(); }));
-    EXPECT_TRUE(raises_one([] { press_key(VK_SPACE); }));
+    expect_one([&] { board.Command1.click(); });
+    expect_one([] { press_key(VK_SPACE); });
 }
 
 TEST_F(FormsTest, TextsOfEveryLengthAndCharacterComeBackUnchanged) {
@@ -110,10 +104,11 @@ TEST_F(FormsTest, TheMouseMeetsPaintedItemsAsItMeetsControls) {
     board.Image1.on_mouse_up = [&](const MouseEvent&) { events += L"up "; };
     board.Image1.on_click = [&] { events += L"click "; };
     board.Image1.on_double_click = [&] { events += L"double "; };
-    point_at(board.window(), board.Image1);
+    const RECT& image = board.Image1.pixels();
+    move_pointer(board.window(), (image.left + image.right) / 2, (image.top + image.bottom) / 2);
     click();
     click();
-    EXPECT_TRUE(pump_until([&] { return events.ends_with(L"double up "); }));
+    EXPECT_SOON(events.ends_with(L"double up "));
     EXPECT_EQ(events, L"down up click double up ") << "a double-click is released twice but pressed once";
 }
 
@@ -124,24 +119,20 @@ TEST_F(FormsTest, AnErrorNoHandlerCaughtIsReportedOnceAndTheProgramGoesOn) {
         ++presses;
         throw Error(ErrorCode::PermissionDenied);
     };
-    expect_message(L"Quillomat", L"Permission denied");
-    board.Command1.set_focus();
-    press_key(VK_SPACE);
-    EXPECT_TRUE(pump_until([&] { return presses == 1 && IsWindowEnabled(board.window()); }));
-    press_key(VK_SPACE);
-    expect_message(L"Quillomat", L"Permission denied");
-    EXPECT_TRUE(pump_until([&] { return presses == 2; }));
+    for (const int expected : {1, 2}) {
+        expect_message(L"Quillomat", L"Permission denied");
+        board.Command1.set_focus();
+        press_key(VK_SPACE);
+        EXPECT_SOON(presses == expected && IsWindowEnabled(board.window()));
+    }
 }
 
 TEST_F(FormsTest, GeometryIsKeptInTwipsAndReadBackInWholePixels) {
     for (const int dpi : {96, 120, 144, 192}) {
-        const double pixel = 1440.0 / dpi;
         const RECT suggested{0, 0, 500, 500};
         SendMessageW(board.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
-        EXPECT_EQ(board.dpi(), dpi);
         board.Command1.set_left(1007);
-        EXPECT_NEAR(board.Command1.left(), 1007, pixel / 2);
-        EXPECT_DOUBLE_EQ(std::remainder(board.Command1.left(), pixel), 0);
+        EXPECT_DOUBLE_EQ(board.Command1.left(), to_pixels(1007, dpi) * 1440.0 / dpi);
         RECT area{};
         GetWindowRect(board.Command1.window(), &area);
         MapWindowPoints(nullptr, board.window(), reinterpret_cast<POINT*>(&area), 2);
@@ -155,16 +146,14 @@ TEST_F(FormsTest, TabWalksInTheOrderOfReadingWhateverComesToTheFront) {
     show();
     board.Command2.bring_to_front();
     board.List1.set_enabled(false);
-    HWND const order[] = {board.Text1.window(),    board.Text2.window(),    board.Option1.window(),
-                          board.Command1.window(), board.Command2.window(), board.Text1.window()};
     board.Text1.set_focus();
-    for (const HWND expected : order) {
-        EXPECT_TRUE(pump_until([&] { return GetFocus() == expected; }));
+    for (const Control* next : std::initializer_list<const Control*>{&board.Text2, &board.Option1, &board.Command1,
+                                                                     &board.Command2, &board.Text1, &board.Text2}) {
         press_key(VK_TAB);
+        EXPECT_SOON(next->has_focus());
     }
-    EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text2.window(); }));
     press_key(VK_TAB, {VK_SHIFT});
-    EXPECT_TRUE(pump_until([&] { return GetFocus() == board.Text1.window(); }));
+    EXPECT_SOON(board.Text1.has_focus());
 
     board.Text2.set_focus();
     SetFocus(nullptr);  // as the system does before it minimises a window
@@ -187,22 +176,32 @@ TEST_F(FormsTest, KeysReachTheHandlerFirstThenTheDialogThenTheControl) {
     board.Text1.set_focus();
     press_key(VK_RETURN);
     press_key(VK_RETURN);
-    EXPECT_TRUE(pump_until([&] { return defaults == 1; }));
+    EXPECT_SOON(defaults == 1);
     EXPECT_EQ(seen, 2) << "each press is one event";
 
     board.Text1.on_key_press = [&](CharacterEvent& event) { event.handled = event.character == L'x'; };
     press_key('X');
     press_key('Y');
-    EXPECT_TRUE(pump_until([&] { return board.Text1.text() == L"y"; }));
+    EXPECT_SOON(board.Text1.text() == L"y");
 
     board.Text2.set_focus();
     press_key(VK_ESCAPE);
     press_key('Z');
-    EXPECT_TRUE(pump_until([&] { return board.Text2.text() == L"z"; })) << "Escape in a long text closes nothing";
-    press_key('L', {VK_MENU});
+    EXPECT_SOON(board.Text2.text() == L"z") << "Escape in a long text closes nothing";
     bool other = false;
     board.Command2.on_click = [&] { other = true; };
-    EXPECT_TRUE(pump_until([&] { return other; })) << "access keys press buttons";
+    press_key('L', {VK_MENU});
+    EXPECT_SOON(other) << "access keys press buttons";
+}
+
+TEST_F(FormsTest, TheDefaultButtonIsNotPaintedAgainForStayingTheDefault) {
+    show();
+    for (const auto& [button, painted] :
+         {std::pair{&board.Command1, true}, {&board.Command1, false}, {nullptr, true}}) {
+        board.refresh();
+        board.set_default_button(button);
+        EXPECT_EQ(GetUpdateRect(board.Command1.window(), nullptr, FALSE) != FALSE, painted);
+    }
 }
 
 TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
@@ -216,64 +215,93 @@ TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
         EXPECT_EQ(ticks, 1) << "ticked below its own message";
         timer.set_enabled(false);
     };
-    EXPECT_TRUE(pump_until([&] { return !timer.enabled(); }));
+    EXPECT_SOON(!timer.enabled());
     timer.on_timer = [] { FAIL() << "ticked after it was stopped"; };
     Timer other(board, 1);
     other.on_timer = [&] { ++ticks; };
-    EXPECT_TRUE(pump_until([&] { return ticks == 5; }));
+    EXPECT_SOON(ticks == 5);
 }
 
 TEST_F(FormsTest, AFormClosedInItsOwnHandlerLivesUntilTheHandlerIsDone) {
-    auto form = std::make_unique<Board>(application);
+    std::unique_ptr<Board> form;
+    open_in(form);
     bool handler_done = false;
-    bool closed = false;
     form->Command1.on_click = [&] {
         form->close();
-        application.let_pending_events_run();
+        pump();
         EXPECT_TRUE(form) << "destroyed below a running handler";
         handler_done = true;
     };
-    form->on_closed = [&] {
-        closed = true;
-        form.reset();
-    };
-    form->show();
-    SendMessageW(form->Command1.window(), BM_CLICK, 0, 0);
+    press(form->Command1);
     EXPECT_TRUE(handler_done);
-    EXPECT_TRUE(pump_until([&] { return closed; }));
-    EXPECT_FALSE(form);
+    EXPECT_SOON(!form);
 }
 
 TEST_F(FormsTest, AFormClosedWhileItLoadsHasNothingToSave) {
-    Board form(application);
     bool unloaded = false;
-    form.on_unload = [&] { unloaded = true; };
-    form.on_load = [&] {
+    board.on_unload = [&] { unloaded = true; };
+    board.on_load = [&] {
         // The system closes every window when the user signs off, whatever is still being asked.
-        SendMessageW(form.window(), WM_ENDSESSION, TRUE, 0);
-        form.Text1.set_text(L"what was stored");
+        SendMessageW(board.window(), WM_ENDSESSION, TRUE, 0);
+        board.Text1.set_text(L"what was stored");
     };
-    form.show();
-    EXPECT_TRUE(form.closed());
+    board.show();
+    EXPECT_TRUE(board.closed() && !board.shown());
     EXPECT_FALSE(unloaded) << "what is stored would give way to what was not read yet";
-    EXPECT_FALSE(form.shown());
 }
 
-TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItCloses) {
+TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItClosesEvenInAMenu) {
     show();
     Board other(application);
     other.show();
+    const auto all_enabled = [&] { return IsWindowEnabled(board.window()) && IsWindowEnabled(other.window()); };
     Board dialog(application);
-    Timer closer(dialog, 1);
+    Timer closer(dialog, 10);
+    bool opened = false;
     closer.on_timer = [&] {
-        EXPECT_FALSE(IsWindowEnabled(board.window()));
-        EXPECT_FALSE(IsWindowEnabled(other.window()));
-        dialog.close();
+        EXPECT_FALSE(IsWindowEnabled(board.window()) || IsWindowEnabled(other.window()));
+        if (in_menu() && FindWindowW(L"#32768", nullptr)) {
+            SendMessageW(dialog.window(), WM_CLOSE, 0, 0);
+        } else if (!opened) {
+            opened = PostMessageW(dialog.window(), WM_SYSCOMMAND, SC_KEYMENU, ' ');
+        }
     };
+    // Ends what would else wait for ever.
+    const UINT_PTR patience = SetTimer(nullptr, 0, 10'000, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        ADD_FAILURE() << "the dialog does not end";
+        KillTimer(nullptr, timer);
+        EndMenu();
+    });
     dialog.show_modal(&board);
-    EXPECT_TRUE(IsWindowEnabled(board.window()));
-    EXPECT_TRUE(IsWindowEnabled(other.window()));
+    KillTimer(nullptr, patience);
+    EXPECT_TRUE(opened && !in_menu());
+    EXPECT_TRUE(all_enabled());
     EXPECT_EQ(GetActiveWindow(), board.window());
+}
+
+TEST_F(FormsTest, ATextKeepsItsColourWhereItCanBeRead) {
+    constexpr Colour link{0xFF0000};
+    constexpr Colour pointed_at{0xFF8080};
+    const struct {
+        Colour text;
+        Colour background;
+        Colour expected;
+    } cases[] = {
+        {link, rgb(244, 244, 244), link},
+        {colours::black, pointed_at, colours::black},
+        {{0x800080}, {0xFFC0FF}, {0x800080}},
+        // A theme of white on black.
+        {link, colours::black, colours::white},
+        {colours::white, pointed_at, colours::black},
+        // A button whose colour runs through the rainbow.
+        {colours::black, {0x800000}, colours::white},
+        {colours::black, {0xFF00FF}, colours::white},
+        // The theme's own pair is the user's choice.
+        {colours::grey_text, colours::button_face, {resolve(colours::grey_text)}},
+    };
+    for (const auto& [text, background, expected] : cases) {
+        EXPECT_EQ(legible(text, background), expected.value) << std::hex << text.value << " on " << background.value;
+    }
 }
 
 }  // namespace

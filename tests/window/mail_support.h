@@ -1,26 +1,18 @@
 #pragma once
 
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
-#include "common/session.h"
-#include "forms/button.h"
 #include "registry_override.h"
-#include "support.h"
-#include "temporary.h"
-#include "win/api.h"
+#include "session_support.h"
 
 namespace quillomat {
 
 /// A window that sends mails, on a computer whose default mail program is the tests' own.
-class MailTest : public WindowTest {
+class MailTest : public SessionTest {
   protected:
     MailTest() {
-        session.program_folder = folder.path().wstring();
-        session.settings = registry.settings();
         // What a run that was ended has left behind is no record of this one.
         std::filesystem::remove_all(record());
         std::filesystem::create_directories(record());
@@ -33,9 +25,6 @@ class MailTest : public WindowTest {
     /// Has the mail program refuse a call, as in "MAPILogon=3"; an empty text has it refuse none.
     static void refuse(const wchar_t* call) { SetEnvironmentVariableW(L"QUILLOMAT_MAIL_REFUSE", call); }
 
-    /// As the user does, so that what goes wrong is shown to the user.
-    static void press(const Button& button) { SendMessageW(button.window(), BM_CLICK, 0, 0); }
-
     /// The calls the mail program has received since this was last asked.
     std::vector<std::string> calls() const {
         std::ifstream file(record() / "calls.txt");
@@ -46,13 +35,8 @@ class MailTest : public WindowTest {
         return lines;
     }
     /// A part of the last mail, or a file that went with it.
-    std::string sent(const char* part) const { return content(record() / part); }
+    std::string sent(const char* part) const { return bytes(record() / part); }
     bool sent_a_file() const { return !std::filesystem::is_empty(record() / "files"); }
-
-    static std::string content(const std::filesystem::path& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator(file), {}};
-    }
 
     void expect_requirements() {
         expect_message(
@@ -62,10 +46,7 @@ class MailTest : public WindowTest {
             L"cannot send e-mail from Quillomat if you use Hotmail or any other web based e-mail.");
     }
 
-    TemporaryFolder folder;
-    TemporarySettings registry;
     RegistryOverride machine{HKEY_LOCAL_MACHINE};
-    Session session;
 
   private:
     std::filesystem::path record() const { return folder.path() / "record"; }

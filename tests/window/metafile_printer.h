@@ -10,31 +10,14 @@ namespace quillomat {
 
 /// What a test's printer was given.
 struct Printed {
-    struct Text {
-        int left = 0;
-        int top = 0;
-        std::wstring text;
-    };
-    struct Rule {
-        POINT from{};
-        POINT to{};
-        int width = 0;
-    };
-    struct Page {
-        std::vector<Text> texts;
-        std::vector<Rule> rules;
-    };
-
     std::wstring document;
-    std::vector<Page> pages;
+    /// The lines of each page.
+    std::vector<std::vector<std::wstring>> pages;
     int documents_ended = 0;
     int documents_aborted = 0;
     /// The page at whose end there is an error; 0 for none.
     std::size_t fails_at_page = 0;
     ErrorCode failure = ErrorCode::PrinterError;
-
-    /// The lines of all pages in their order.
-    std::vector<std::wstring> lines() const;
 };
 
 /// A printer whose pages are metafiles that are read back. They have the screen's size and resolution.

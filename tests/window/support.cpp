@@ -130,4 +130,21 @@ void WindowTest::click(DWORD down, DWORD up) {
     send_mouse(up);
 }
 
+std::wstring WindowTest::clipboard_text() {
+    std::wstring text;
+    if (!OpenClipboard(nullptr)) return text;
+    if (const HANDLE memory = GetClipboardData(CF_UNICODETEXT)) {
+        text = static_cast<const wchar_t*>(GlobalLock(memory));
+        GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    return text;
+}
+
+bool WindowTest::in_menu() {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    return GetGUIThreadInfo(GetCurrentThreadId(), &thread) && thread.flags & GUI_INMENUMODE;
+}
+
 }  // namespace quillomat

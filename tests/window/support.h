@@ -3,12 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/application.h"
+#include "forms/control.h"
 #include "forms/message_box.h"
 #include "win/api.h"
+
+/// Handles messages until the condition holds; fails when it does not within ten seconds.
+#define EXPECT_SOON(condition) EXPECT_TRUE(pump_until([&] { return static_cast<bool>(condition); })) << #condition
+#define ASSERT_SOON(condition) ASSERT_TRUE(pump_until([&] { return static_cast<bool>(condition); })) << #condition
 
 namespace quillomat {
 
@@ -27,6 +34,18 @@ class WindowTest : public ::testing::Test {
     /// Handles what waits now.
     void pump() { application.let_pending_events_run(); }
 
+    /// Opens a window in a place that is empty again once it has closed.
+    template <class Window, class... Arguments>
+    void open_in(std::unique_ptr<Window>& place, Arguments&&... arguments) {
+        place = std::make_unique<Window>(application, std::forward<Arguments>(arguments)...);
+        place->on_closed = [&place] { place.reset(); };
+        place->show();
+        pump();
+    }
+
+    /// As the user does, so that what goes wrong is shown to the user.
+    static void press(const Control& button) { SendMessageW(button.window(), BM_CLICK, 0, 0); }
+
     /// Real input: presses and releases a key on whatever has the focus.
     static void press_key(WORD key, std::initializer_list<WORD> held = {});
     /// Moves the pointer to a place of a window, in pixels from its inner left and top.
@@ -36,6 +55,11 @@ class WindowTest : public ::testing::Test {
     bool point_until(HWND window, int x, int y, const std::function<bool()>& condition);
     /// Presses and releases a mouse button where the pointer is.
     static void click(DWORD down = MOUSEEVENTF_LEFTDOWN, DWORD up = MOUSEEVENTF_LEFTUP);
+
+    /// The text on the clipboard; nothing when there is none.
+    static std::wstring clipboard_text();
+    /// Whether a menu is open.
+    static bool in_menu();
 
     Application application{L"Quillomat"};
 

@@ -1,5 +1,7 @@
 // The cheat viewer as a player meets it: opening, selecting, searching, closing.
 
+#include "common/window_settings.h"
+#include "output/frmAddNew.h"
 #include "shown_viewer.h"
 
 namespace quillomat {
@@ -15,33 +17,18 @@ constexpr char database[] =
 class ViewerTest : public ShownViewerTest {
   protected:
     ViewerTest() { write("Cheats.dat", database); }
-
-    static bool in_menu() {
-        GUITHREADINFO state{};
-        state.cbSize = sizeof state;
-        GetGUIThreadInfo(GetCurrentThreadId(), &state);
-        return state.flags & GUI_INMENUMODE;
-    }
-    void close() {
-        viewer->close();
-        ASSERT_TRUE(viewer_closes());
-    }
 };
 
 TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
     open_viewer();
-    EXPECT_EQ(viewer->List2.count(), 5);
     EXPECT_FALSE(viewer->menus.mnuSave.enabled());
     EXPECT_EQ(viewer->caption(), L"") << "the stored caption gives way to the game that is shown, here none";
-
     RECT item{};
     SendMessageW(viewer->List2.window(), LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&item));
-    const int middle = (item.top + item.bottom) / 2;
-    ASSERT_TRUE(point_until(viewer->List2.window(), 20, middle,
+    ASSERT_TRUE(point_until(viewer->List2.window(), 20, (item.top + item.bottom) / 2,
                             [this] { return viewer->List2.tool_tip() == L"Amber & Ash (Game No. 2 of 5 games.)"; }));
-    EXPECT_FALSE(viewer->List2.selected_index());
     click();
-    ASSERT_TRUE(pump_until([this] { return viewer->Text1.text() == L"MARIO warps"; }));
+    ASSERT_SOON(viewer->Text1.text() == L"MARIO warps");
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
     EXPECT_EQ(viewer->menus.mnuSave.caption(), L"&Save Amber && Ash") << "the name's own ampersand is no access key";
     EXPECT_TRUE(viewer->menus.mnuSave.enabled());
@@ -49,7 +36,7 @@ TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
     EXPECT_TRUE(point_until(viewer->List2.window(), 25, 8, [this] { return viewer->caption() == L"Alpha"; }));
 }
 
-TEST_F(ViewerTest, RemembersTenSettingsFromOneRunToTheNext) {
+TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     open_viewer();
     viewer->List2.select_index(2);
     viewer->Text3.set_text(L"keyword");
@@ -57,7 +44,7 @@ TEST_F(ViewerTest, RemembersTenSettingsFromOneRunToTheNext) {
     viewer->menus.mnuAutoSelect.on_click();
     viewer->set_height(7200);
     viewer->set_width(9000);
-    close();
+    close_viewer();
 
     session.viewer = {};
     open_viewer();
@@ -66,35 +53,29 @@ TEST_F(ViewerTest, RemembersTenSettingsFromOneRunToTheNext) {
     EXPECT_EQ(viewer->Text1.text(), L"mario once");
     EXPECT_EQ(viewer->Text3.text(), L"keyword");
     EXPECT_TRUE(viewer->Command1.enabled());
-    EXPECT_FALSE(viewer->menus.mnuColour.checked());
     EXPECT_EQ(viewer->Text1.back_colour(), colours::white);
     EXPECT_TRUE(viewer->menus.mnuAutoSelect.checked());
     EXPECT_NEAR(viewer->height(), 7200, 15);
     EXPECT_NEAR(viewer->width(), 9000, 15);
     viewer->set_window_state(WindowState::Maximised);
-    close();
+    close_viewer();
     EXPECT_EQ(session.settings.read(settings::FrmCtlViewWindowState), 2);
     EXPECT_EQ(session.settings.read(settings::FrmCtlViewWidth), 9000) << "a maximised window keeps the size it had";
-}
 
-TEST_F(ViewerTest, ASecondOpeningListsFromMemory) {
-    open_viewer();
-    close();
     std::filesystem::remove(folder.path() / "Cheats.dat");
     session.catalogue.store(5, L"Added", L"in between");
     open_viewer();
-    EXPECT_EQ(viewer->List2.count(), 6);
+    EXPECT_EQ(viewer->List2.count(), 6) << "later openings list from memory";
     EXPECT_EQ(viewer->List2.item(5), L"Added");
 }
 
 TEST_F(ViewerTest, AFailedLoadShowsWhyAndKeepsWhatWasRead) {
     expect_message(L"Error!", L"Invalid procedure call or argument");
     open_viewer("a\r\n$$$$$$$$$$$$$$$$$$$$ One\r\n$$$$$$$$$$$$$$$$$$$$\r\n");
-    EXPECT_EQ(viewer->List2.count(), 1);
     EXPECT_TRUE(session.text_file.is_open()) << "file number 1 stays open";
     viewer->List2.select_index(0);
     EXPECT_EQ(viewer->caption(), L"One") << "what was read can be used";
-    close();
+    close_viewer();
     session.viewer.open_count = 32767;
     expect_message(L"Error!", L"Overflow");
     open_viewer();
@@ -103,14 +84,20 @@ TEST_F(ViewerTest, AFailedLoadShowsWhyAndKeepsWhatWasRead) {
 TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     open_viewer();
     viewer->List2.set_focus();
-    const auto expect_selected = [this](int index) {
-        EXPECT_TRUE(pump_until([&] { return viewer->List2.selected_index() == index; })) << index;
-    };
-    press_key(VK_DOWN, {VK_CONTROL});
-    expect_selected(4);
-    press_key(VK_UP, {VK_MENU});
-    expect_selected(3);
-    EXPECT_FALSE(in_menu()) << "the release of Alt has nothing to do with the menu bar";
+    const struct {
+        WORD key;
+        std::initializer_list<WORD> held;
+        int selected;
+    } cases[] = {{VK_DOWN, {VK_CONTROL}, 4},
+                 {VK_UP, {VK_MENU}, 3},
+                 {VK_UP, {VK_CONTROL}, 0},
+                 {VK_DOWN, {VK_MENU}, 2},
+                 {VK_UP, {}, 1}};
+    for (const auto& [key, held, selected] : cases) {
+        press_key(key, held);
+        EXPECT_SOON(viewer->List2.selected_index() == selected);
+        EXPECT_FALSE(in_menu()) << "the release of Alt has nothing to do with the menu bar";
+    }
     static bool menu_opened;
     menu_opened = false;
     const UINT_PTR watch = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
@@ -120,44 +107,37 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
         press_key(VK_ESCAPE);
     });
     press_key(VK_MENU);
-    EXPECT_TRUE(pump_until([] { return menu_opened; })) << "Alt alone";
+    EXPECT_SOON(menu_opened) << "Alt alone";
     KillTimer(nullptr, watch);
-    press_key(VK_UP, {VK_CONTROL});
-    expect_selected(0);
-    press_key(VK_DOWN, {VK_MENU});
-    expect_selected(2);
-    press_key(VK_UP);
-    expect_selected(1);
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
 
     int finds = 0;
     viewer_windows.find = [&] { ++finds; };
     viewer->Option1.set_focus();
     press_key('F', {VK_CONTROL});
-    EXPECT_TRUE(pump_until([&] { return finds == 1; })) << "wherever the focus is";
+    EXPECT_SOON(finds == 1) << "wherever the focus is";
     viewer->List2.set_focus();
     press_key(VK_F10, {VK_SHIFT});
     press_key('F');
-    EXPECT_TRUE(pump_until([&] { return finds == 2; })) << "the menu of the right button comes up by keyboard too";
+    EXPECT_SOON(finds == 2) << "the menu of the right button comes up by keyboard too";
 
     std::wstring asked;
     viewer_windows.mail_author = [&](const std::wstring& text) { asked = text; };
     expect_message(L"Help!",
                    L"You pressed the F1 Key for help.\r\nYou can e-mail me for help.\r\nDo you want to do so?", IDYES);
     press_key(VK_F1);
-    EXPECT_TRUE(pump_until([&] { return asked == L"[Type your question here]"; }));
+    EXPECT_SOON(asked == L"[Type your question here]");
     bool main_screen_restored = false;
     viewer_windows.restore_main_screen = [&] { main_screen_restored = true; };
     press_key(VK_ESCAPE);
-    EXPECT_TRUE(viewer_closes());
+    EXPECT_SOON(!viewer);
     EXPECT_TRUE(main_screen_restored);
 }
 
 TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     open_viewer();
     viewer->Option2.set_value(true);
-    EXPECT_TRUE(viewer->Frame2.visible());
-    EXPECT_FALSE(viewer->List2.visible());
+    EXPECT_TRUE(viewer->Frame2.visible() && !viewer->List2.visible());
     EXPECT_EQ(GetWindow(viewer->Text1.window(), GW_HWNDPREV), viewer->CheatsLabel.window()) << "its name";
     const auto search = [this](const wchar_t* keyword) {
         viewer->Text3.set_text(keyword);
@@ -172,7 +152,6 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     EXPECT_EQ(viewer->Text3.selected_text(), L"\u00e9T\u00c9") << "a new keyword is typed over the old one";
     expect_message(L"Nothing there.", L"Nothing was found! Try searching for something else.");
     EXPECT_EQ(search(L"mario  "), L"");
-
     search(L"CODE");
     viewer->List1.select_index(0);
     EXPECT_EQ(viewer->caption(), L"Super MARIO");
@@ -180,21 +159,16 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     viewer->Option1.set_value(true);
     EXPECT_FALSE(viewer->Frame2.visible());
     EXPECT_TRUE(viewer->List2.has_focus());
-}
 
-TEST_F(ViewerTest, SearchesForAWordOfTheText) {
-    open_viewer();
     viewer->Text1.set_text(L" warps mario ");
     viewer->Text1.select(0, 7);
     viewer->SearchFor(SearchScope::Cheats);
     EXPECT_TRUE(viewer->Option2.value() && viewer->Option4.value());
-    EXPECT_EQ(viewer->Text3.text(), L"warps");
+    EXPECT_EQ(viewer->Text3.text(), L"warps") << "a word of the text";
     EXPECT_EQ(viewer->default_button(), &viewer->Command1);
-    EXPECT_TRUE(pump_until([this] {
-        POINT pointer{};
-        GetCursorPos(&pointer);
-        return WindowFromPoint(pointer) == viewer->Command1.window();
-    })) << "the pointer is on the button that starts the search";
+    POINT pointer{};
+    EXPECT_SOON(GetCursorPos(&pointer) && WindowFromPoint(pointer) == viewer->Command1.window())
+        << "the pointer is on the button that starts the search";
 }
 
 TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised) {
@@ -206,9 +180,28 @@ TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised
     viewer->List1.add(L"Result");
     SendMessageW(viewer->List1.window(), LB_SETCURSEL, 0, 0);
     viewer->set_window_state(WindowState::Minimised);
-    EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Quillomat - Result"; }));
+    EXPECT_SOON(viewer->caption() == L"Quillomat - Result");
+    // A change of resolution meanwhile keeps the game's name.
+    application.force_dpi(120);
+    const RECT place{0, 0, 900, 600};
+    SendMessageW(viewer->window(), WM_DPICHANGED, MAKEWPARAM(120, 120), reinterpret_cast<LPARAM>(&place));
     viewer->set_window_state(WindowState::Normal);
-    EXPECT_TRUE(pump_until([this] { return viewer->caption() == L"Alpha"; }));
+    EXPECT_SOON(viewer->caption() == L"Alpha");
+}
+
+TEST_F(ViewerTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
+    // At this resolution the smallest sizes are larger than any window the system allows on the tests' screen.
+    application.force_dpi(480);
+    open_viewer();
+    EXPECT_NEAR(viewer->Text1.width(), viewer->width() - 2980, 15);
+    EXPECT_NEAR(viewer->List2.height(), viewer->height() - 2115, 15);
+    for (const Control* beside : std::initializer_list<const Control*>{&viewer->Text1, &viewer->Frame2}) {
+        EXPECT_NEAR(beside->top() + beside->height(), viewer->List2.top() + viewer->List2.height(), 15);
+    }
+    EXPECT_NEAR(viewer->List1.top() + viewer->List1.height(), viewer->Frame2.height(), 15);
+    std::unique_ptr<frmAddNew> window;
+    open_in(window, session, *link);
+    EXPECT_NEAR(window->Text1.width(), window->width() - 360, 15);
 }
 
 TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
@@ -218,22 +211,23 @@ TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
         {L"FrmCtlViewWindowState", L"7"},
         {L"Font", L"No Such Font At All With A Very Long Name Indeed"},
         {L"DefaultGame", L"No such game"}};
-    for (const auto& [key, text] : corrupt) {
-        session.settings.write(Setting<std::wstring_view>{key, L""}, text);
-        session.viewer = {};
-        open_viewer();
-        RECT area{};
-        GetWindowRect(viewer->window(), &area);
-        const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-        RECT visible{};
-        IntersectRect(&visible, &area, &screen);
-        EXPECT_TRUE(EqualRect(&visible, &area)) << "all of it is on the screen";
-        EXPECT_GE(area.bottom - area.top, 300);
-        EXPECT_TRUE(IsWindowVisible(viewer->window()) && !IsIconic(viewer->window()));
-        viewer->List2.select_index(1);
-        EXPECT_EQ(viewer->Text1.text(), L"MARIO warps");
-        viewer.reset();
-    }
+    for (const auto& [key, text] : corrupt) session.settings.write(Setting<std::wstring_view>{key, L""}, text);
+    open_viewer();
+    RECT area{};
+    GetWindowRect(viewer->window(), &area);
+    const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    RECT visible{};
+    IntersectRect(&visible, &area, &screen);
+    EXPECT_TRUE(EqualRect(&visible, &area)) << "all of it is on the screen";
+    EXPECT_GE(area.bottom - area.top, 300);
+    EXPECT_TRUE(IsWindowVisible(viewer->window()) && !IsIconic(viewer->window()));
+    viewer->List2.select_index(1);
+    EXPECT_EQ(viewer->Text1.text(), L"MARIO warps");
+}
+
+TEST(WindowSettings, SizesAreStoredInWholeTwips) {
+    const std::pair<double, int> cases[] = {{6660.6, 6661}, {6660.5, 6660}, {6661.5, 6662}, {40000, 32767}};
+    for (const auto& [twips, stored] : cases) EXPECT_EQ(stored_size(twips), stored) << twips;
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <set>
@@ -11,16 +10,12 @@
 
 #include "temporary.h"
 #include "text/error.h"
-#include "win/database_file.h"
-#include "win/program_folder.h"
+#include "win/handle.h"
 
 namespace quillomat {
 namespace {
 
 using namespace std::string_literals;
-
-/// A character that no single-byte code page has, and no UTF-8 text either: half a pair.
-constexpr wchar_t unwritable[] = L"half \xD83D";
 
 /// The number of the error that something throws, if it throws one.
 std::optional<ErrorCode> error_of(const std::function<void()>& something) {
@@ -49,9 +44,6 @@ class TextFile : public testing::Test {
         return path(name);
     }
 
-    /// The content of a file by its whole path.
-    std::string bytes_of(const std::wstring& file) const { return folder_.read(file); }
-
     std::set<std::wstring> names() const {
         std::set<std::wstring> found;
         for (const auto& entry : std::filesystem::directory_iterator(folder_.path()))
@@ -74,12 +66,15 @@ class TextFileWriting : public TextFile, public testing::WithParamInterface<Writ
 INSTANTIATE_TEST_SUITE_P(BothWays, TextFileWriting, testing::Values(&TextFileSlot::append, &TextFileSlot::replace),
                          [](const auto& info) { return info.index == 0 ? "Append" : "Replace"; });
 
-TEST_F(TextFile, ReadsTheWholeFile) {
+TEST_F(TextFile, ReadsTheWholeFileAndKeepsNobodyFromWriting) {
     const std::string line(100'000, 'x');
     const std::wstring file = make(L"a.txt", line + "\r\n\0end"s);
     slot_.open_for_reading(file);
     EXPECT_EQ(slot_.read_all().view(), std::wstring(100'000, L'x') + L"\r\n\0end"s);
-    slot_.close();
+    folder_.write(L"a.txt", "new");
+    EXPECT_EQ(folder_.read(file), "new");
+    // Only the one slot is taken, not the file.
+    EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), ErrorCode::FileAlreadyOpen);
 }
 
 TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
@@ -96,40 +91,16 @@ TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
     }
 }
 
-TEST_F(TextFile, ReadingKeepsNobodyFromWriting) {
-    const std::wstring file = make(L"a.txt", "old");
-    slot_.open_for_reading(file);
-    folder_.write(L"a.txt", "new");
-    EXPECT_EQ(bytes_of(file), "new");
-    // Only the one slot is taken, not the file.
-    EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), ErrorCode::FileAlreadyOpen);
-}
-
-TEST_F(TextFile, AFileTooLargeForMemoryIsRefused) {
-    const std::wstring file = make(L"large.txt", "");
-    std::filesystem::resize_file(file, (std::uintmax_t{1} << 32) + 5);
-    slot_.open_for_reading(file);
-    EXPECT_EQ(error_of([&] { slot_.read_all(); }), ErrorCode::OutOfMemory);
-}
-
 TEST_F(TextFile, AppendingPutsNothingInBetweenAndReplacingForgetsTheOldContent) {
     const std::wstring file = make(L"a.txt", "no line end");
     slot_.append(file, L" here\r\n");
     slot_.append(file, L"");
     slot_.append(file, L"last\r\n");
-    EXPECT_EQ(bytes_of(file), "no line end here\r\nlast\r\n");
+    EXPECT_EQ(folder_.read(file), "no line end here\r\nlast\r\n");
     slot_.replace(file, L"new\r\n");
-    EXPECT_EQ(bytes_of(file), "new\r\n");
+    EXPECT_EQ(folder_.read(file), "new\r\n");
     slot_.replace(file, L"");
-    EXPECT_EQ(bytes_of(file), "");
-    EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
-}
-
-TEST_P(TextFileWriting, WritesOverWhatARunThatWasEndedHasLeftBehind) {
-    const std::wstring file = make(L"a.txt", "");
-    make(L"~quillomat.tmp", "half a rec");
-    EXPECT_EQ(write(file, L"new"), std::nullopt);
-    EXPECT_EQ(bytes_of(file), "new");
+    EXPECT_EQ(folder_.read(file), "");
     EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
 }
 
@@ -140,68 +111,45 @@ TEST_P(TextFileWriting, TwoRunsThatWriteAtOnceLoseNothing) {
                                                CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
         EXPECT_EQ(write(file, L"new"), ErrorCode::PermissionDenied);
     }
-    EXPECT_EQ(bytes_of(file), "old");
-    EXPECT_EQ(write(file, L"new"), std::nullopt);
+    EXPECT_EQ(folder_.read(file), "old");
+    make(L"~quillomat.tmp", "what a run that was ended has left behind");
+    EXPECT_EQ(write(file, L" new"), std::nullopt);
+    EXPECT_TRUE(folder_.read(file).ends_with(" new"));
+    EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
 }
 
 TEST_P(TextFileWriting, MakesTheFileWhenThereIsNone) {
     EXPECT_EQ(write(path(L"new.txt"), L"text\r\n"), std::nullopt);
-    EXPECT_EQ(bytes_of(path(L"new.txt")), "text\r\n");
+    EXPECT_EQ(folder_.read(path(L"new.txt")), "text\r\n");
     EXPECT_EQ(write(path(L"none\\new.txt"), L"text"), ErrorCode::PathNotFound);
     EXPECT_FALSE(slot_.is_open());
 }
 
 TEST_P(TextFileWriting, AFailureChangesNothing) {
     const std::wstring file = make(L"a.txt", "old\r\n");
-    const auto expect_unchanged = [&] {
-        EXPECT_EQ(bytes_of(file), "old\r\n");
+    const auto expect_refused = [&](const std::wstring& path, const wchar_t* text, ErrorCode code) {
+        EXPECT_EQ(write(path, text), code);
+        EXPECT_EQ(folder_.read(file), "old\r\n");
         EXPECT_EQ(names(), std::set<std::wstring>{L"a.txt"});
     };
 
-    EXPECT_EQ(write(file, unwritable), ErrorCode::InvalidArgument);
-    EXPECT_EQ(write(path(L"new.txt"), unwritable), ErrorCode::InvalidArgument);
-    expect_unchanged();
-    EXPECT_EQ(write(folder_.path().wstring(), L"new"), ErrorCode::PermissionDenied);
-    expect_unchanged();
+    // Half a pair is a character that no single-byte code page has, and no UTF-8 text either.
+    expect_refused(file, L"half \xD83D", ErrorCode::InvalidArgument);
+    expect_refused(path(L"new.txt"), L"half \xD83D", ErrorCode::InvalidArgument);
+    expect_refused(folder_.path().wstring(), L"new", ErrorCode::PermissionDenied);
     {
         // Another program that lets nobody write.
         const FileHandle lock(
             CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-        EXPECT_EQ(write(file, L"new"), ErrorCode::PermissionDenied);
-        expect_unchanged();
+        expect_refused(file, L"new", ErrorCode::PermissionDenied);
     }
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-    EXPECT_EQ(write(file, L"new"), ErrorCode::PermissionDenied);
-    expect_unchanged();
+    expect_refused(file, L"new", ErrorCode::PermissionDenied);
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_FALSE(slot_.is_open());
-
     slot_.open_for_reading(file);
-    EXPECT_EQ(write(file, L"new"), ErrorCode::FileAlreadyOpen);
+    expect_refused(file, L"new", ErrorCode::FileAlreadyOpen);
     EXPECT_TRUE(slot_.is_open());
-    expect_unchanged();
-}
-
-TEST_F(TextFile, ADatabaseThatFailsInTheMiddleKeepsTheSlot) {
-    Catalogue catalogue;
-    std::vector<std::wstring> listed;
-    const auto load = [&](const std::wstring& file) {
-        return error_of([&] {
-            load_catalogue(slot_, file, catalogue, [&](std::wstring_view name) { listed.emplace_back(name); });
-        });
-    };
-    EXPECT_EQ(load(make(L"Cheats.dat", "one\r\n$$$$$$$$$$$$$$$$$$$$ First\r\n")), std::nullopt);
-    EXPECT_FALSE(slot_.is_open());
-    const std::wstring file = make(L"Cheats.dat", "two\r\n$$$$$$$$$$$$$$$$$$$$ Second\r\n$$$$$$$$$$$$$$$$$$$$\r\n");
-    EXPECT_EQ(load(file), ErrorCode::InvalidArgument);
-    EXPECT_EQ(listed, (std::vector<std::wstring>{L"First", L"Second"}));
-    EXPECT_EQ(load(file), ErrorCode::FileAlreadyOpen);
-}
-
-TEST(ProgramFolder, IsWhereTheProgramIs) {
-    const std::wstring folder = program_folder();
-    EXPECT_NE(folder.back(), L'\\');
-    EXPECT_TRUE(file_exists(folder + L"\\window_tests.exe")) << testing::PrintToString(folder);
 }
 
 }  // namespace

@@ -1,10 +1,11 @@
-#include "text/pointer_arithmetic.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "text/error.h"
+#include "text/pointer_arithmetic.h"
+#include "text/rounding.h"
+#include "text/window_size.h"
 
 namespace quillomat {
 namespace {
@@ -16,7 +17,6 @@ TEST(PointerArithmetic, MapsPixelsOntoTheAbsoluteRange) {
         int absolute;
     } cases[] = {
         {512, 1024, 32768},   // 32767.5 goes to the even neighbour
-        {256, 1024, 16384},   // 16383.75
         {1024, 1024, 65535},  // the scale is over the whole size, not over the last pixel
         {476, 1366, 22836},   // 22836.5007, which single precision puts below the half
         {1097, 1366, 52630},  // 52629.4985, which it puts above
@@ -37,7 +37,6 @@ TEST(PointerArithmetic, FindsTheCentreWhereItIsOnTheScreen) {
         {{900, 0, 1148, 10}, PixelPoint{1024, 5}},  // centre just on the far edge
         {{902, 0, 1148, 10}, std::nullopt},
         {{-12, 0, 10, 10}, std::nullopt},
-        {{0, -40, 10, 20}, std::nullopt},
         {{0, 760, 10, 780}, std::nullopt},
         {{-32000, -32000, -31900, -31900}, std::nullopt},  // where the system puts minimised windows
     };
@@ -47,6 +46,20 @@ TEST(PointerArithmetic, FindsTheCentreWhereItIsOnTheScreen) {
     constexpr int lowest = std::numeric_limits<int>::min();
     constexpr int highest = std::numeric_limits<int>::max();
     EXPECT_THROW(centre_on_screen({lowest, 0, highest, 10}, {1024, 768}), Error);
+}
+
+/// A window that could not reach its minimum would be corrected for ever, and never laid out.
+TEST(WindowSize, IsLargeEnoughAtItsMinimumAtEveryDpi) {
+    for (int dpi = 72; dpi <= 480; ++dpi) {
+        const double twips_per_pixel = 1440.0 / dpi;
+        const auto read_back = [&](double twips) { return round_half_even(twips / twips_per_pixel) * twips_per_pixel; };
+        for (const WindowSize& minimum : {viewer_minimum_size, WindowSize{5715, 3960}}) {
+            const WindowSize actual{read_back(minimum.width), read_back(minimum.height)};
+            EXPECT_EQ(corrected_size(actual, minimum, twips_per_pixel), std::nullopt) << dpi;
+            const WindowSize narrower{actual.width - twips_per_pixel, actual.height};
+            EXPECT_NE(corrected_size(narrower, minimum, twips_per_pixel), std::nullopt) << dpi;
+        }
+    }
 }
 
 }  // namespace

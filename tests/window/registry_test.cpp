@@ -1,12 +1,14 @@
+// What stands in the registry, put there by the program or by others.
+
 #include "common/settings.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <string>
 
-#include "temporary.h"
+#include "registry_override.h"
 #include "text/error.h"
+#include "win/system_information.h"
 
 namespace quillomat {
 namespace {
@@ -27,57 +29,44 @@ class SettingsStore : public testing::Test {
     const Settings settings_ = registry_.settings();
 };
 
-TEST_F(SettingsStore, ValuesComeBackAsTheyWere) {
-    settings_.write(settings::FrmCtlViewWindowState, std::numeric_limits<std::int32_t>::min());
-    EXPECT_EQ(settings_.read(settings::FrmCtlViewWindowState), std::numeric_limits<std::int32_t>::min());
-    settings_.write(settings::Colour, false);
-    EXPECT_FALSE(settings_.read(settings::Colour));
+TEST_F(SettingsStore, ValuesComeBackAsTheyWereUnderTheAgreedNames) {
+    settings_.write(settings::MailFriendsName, L"Ann");
+    settings_.write(settings::MailOption, true);
+    settings_.write(settings::frmMailMeHeight, -9000);
+    EXPECT_EQ(raw(L"Mail-Friend'sName"), L"Ann");
+    EXPECT_EQ(raw(L"mail-option"), L"True");
+    EXPECT_EQ(raw(L"frmMailMeHeight"), L"-9000");
+    EXPECT_EQ(settings_.read(settings::frmMailMeHeght), 6045) << "never the one that was written";
     EXPECT_EQ(settings_.read(settings::UpperLimit, 42), 42);
     settings_.write(settings::UpperLimit, 7);
     EXPECT_EQ(settings_.read(settings::UpperLimit, 42), 7);
 
-    // Stored and empty is another thing than not stored.
     settings_.write(settings::MailMessage, L"");
-    EXPECT_EQ(settings_.read(settings::MailMessage), L"");
+    EXPECT_EQ(settings_.read(settings::MailMessage), L"") << "stored and empty is another thing than not stored";
     std::wstring long_text = L"Pok\u00E9mon \U0001F600\r\n";
     while (long_text.size() < 1'000'000) long_text += long_text;
     settings_.write(settings::Text1, long_text);
     EXPECT_TRUE(settings_.read(settings::Text1) == long_text);
 }
 
-TEST_F(SettingsStore, OtherProgramsSeeTheAgreedNamesAndTexts) {
-    settings_.write(settings::MailFriendsName, L"Ann");
-    settings_.write(settings::MailOption, true);
-    settings_.write(settings::frmMailMeHeight, 9000);
-    EXPECT_EQ(raw(L"Mail-Friend'sName"), L"Ann");
-    EXPECT_EQ(raw(L"mail-option"), L"True");
-    EXPECT_EQ(raw(L"frmMailMeHeight"), L"9000");
-    // The height that is read is never the one that was written.
-    EXPECT_EQ(settings_.read(settings::frmMailMeHeght), 6045);
-}
-
-TEST_F(SettingsStore, TextsThatStandForNoValueCountAsAbsent) {
+TEST_F(SettingsStore, WhatAnotherProgramStoredIsSafe) {
     SaveSetting(registry_.application(), L"Settings", L"Value", L"32768");
     EXPECT_EQ(settings_.read(SettingKey<std::int16_t>{L"Value"}, 77), 77);
     EXPECT_EQ(settings_.read(SettingKey<std::int32_t>{L"Value"}, 88), 32768);
     EXPECT_TRUE(settings_.read(SettingKey<bool>{L"Value"}, true));
-}
-
-TEST_F(SettingsStore, BytesThatAreNoTextAreSafe) {
     const DWORD number = 5;
     store(L"Counter", REG_DWORD, &number, sizeof number);
     EXPECT_EQ(settings_.read(settings::Counter), 0);
-    store(L"Font", REG_EXPAND_SZ, L"%TEMP%", 14);
-    EXPECT_EQ(settings_.read(settings::Font), L"MS Sans Serif");
 
-    const std::tuple<std::wstring, std::size_t, const wchar_t*> cases[] = {
-        {L"Arial", 10, L"Arial"},  // without a zero at its end
-        {L"Arial", 9, L"Aria"},    // half a character
-        {L"Arial", 1, L""},
-        {std::wstring(L"Arial\0Black\0\0", 13), 26, L"Arial"},
+    const std::tuple<DWORD, std::wstring, std::size_t, const wchar_t*> cases[] = {
+        {REG_EXPAND_SZ, L"%TEMP%", 14, L"MS Sans Serif"},
+        {REG_SZ, L"Arial", 10, L"Arial"},  // without a zero at its end
+        {REG_SZ, L"Arial", 9, L"Aria"},    // half a character
+        {REG_SZ, L"Arial", 1, L""},
+        {REG_SZ, std::wstring(L"Arial\0Black\0\0", 13), 26, L"Arial"},
     };
-    for (const auto& [text, size, read] : cases) {
-        store(L"Font", REG_SZ, text.data(), size);
+    for (const auto& [type, text, size, read] : cases) {
+        store(L"Font", type, text.data(), size);
         EXPECT_EQ(settings_.read(settings::Font), read) << size;
     }
 }
@@ -86,6 +75,18 @@ TEST_F(SettingsStore, AStoreThatCannotBeWrittenSaysSoAndStillAnswers) {
     const Settings impossible(std::wstring(300, L'x'));
     EXPECT_THROW(impossible.write(settings::Counter, 1), Error);
     EXPECT_EQ(impossible.read(settings::Counter), 0);
+}
+
+TEST(SystemInformation, TheToolIsLookedForInTwoPlaces) {
+    const RegistryOverride machine(HKEY_LOCAL_MACHINE);
+    const TemporaryFolder folder;
+    EXPECT_EQ(system_information_tool(), std::nullopt);
+    machine.set(L"SOFTWARE\\Microsoft\\Shared Tools Location", L"MSINFO", folder.path().wstring());
+    EXPECT_EQ(system_information_tool(), std::nullopt) << "the folder does not hold the tool";
+    folder.write("MSINFO32.EXE", "tool");
+    EXPECT_EQ(system_information_tool(), folder.path().wstring() + L"\\MSINFO32.EXE");
+    machine.set(L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", L"PATH", L"E:\\own.exe");
+    EXPECT_EQ(system_information_tool(), L"E:\\own.exe") << "the first place goes before the second";
 }
 
 }  // namespace
