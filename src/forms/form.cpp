@@ -15,6 +15,7 @@ namespace {
 
 constexpr UINT destroy_message = WM_APP;
 constexpr WORD application_icon = 1;
+constexpr UINT_PTR idle_timer = 1;
 
 struct BorderStyle {
     DWORD style;
@@ -163,6 +164,11 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             resolution_changed(HIWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
             return 0;
         case WM_TIMER: {
+            if (wparam == idle_timer) {
+                KillTimer(window_, idle_timer);
+                tool_tips_.begin();
+                return 0;
+            }
             const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(wparam));
             if (timer != timers_.end() && !closed_) (*timer)->tick();
             return 0;
@@ -232,6 +238,7 @@ void Form::show() {
     const WindowState state = state_;
     if (!shown_) {
         shown_ = true;
+        SetTimer(window_, idle_timer, USER_TIMER_MINIMUM, nullptr);
         resized();
         restore_focus();
     }

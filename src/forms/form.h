@@ -159,6 +159,7 @@ class Form : public Container, public MouseEvents {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
     void load();
     void resized();
+    void set_pixel_size(LONG width, LONG height);
     void limit_sizing(WPARAM edge, RECT& area) const;
     void resolution_changed(int dpi, const RECT& suggested);
     void renew_menu_pictures();

@@ -43,19 +43,23 @@ double Form::height() const {
     return to_twips(outer().bottom - outer().top, dpi_);
 }
 
-void Form::set_width(double twips) {
-    SetWindowPos(window_, nullptr, 0, 0, to_pixels(std::max(twips, 0.0), dpi_), outer().bottom - outer().top,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+void Form::set_pixel_size(LONG width, LONG height) {
+    const RECT area = outer();
+    // The system lays a window out anew even when it keeps its size.
+    if (width == area.right - area.left && height == area.bottom - area.top) return;
+    SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Form::set_size(double width, double height) {
-    SetWindowPos(window_, nullptr, 0, 0, to_pixels(std::max(width, 0.0), dpi_), to_pixels(std::max(height, 0.0), dpi_),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+void Form::set_width(double twips) {
+    set_pixel_size(to_pixels(std::max(twips, 0.0), dpi_), outer().bottom - outer().top);
 }
 
 void Form::set_height(double twips) {
-    SetWindowPos(window_, nullptr, 0, 0, outer().right - outer().left, to_pixels(std::max(twips, 0.0), dpi_),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    set_pixel_size(outer().right - outer().left, to_pixels(std::max(twips, 0.0), dpi_));
+}
+
+void Form::set_size(double width, double height) {
+    set_pixel_size(to_pixels(std::max(width, 0.0), dpi_), to_pixels(std::max(height, 0.0), dpi_));
 }
 
 void Form::move_to(double left, double top) {

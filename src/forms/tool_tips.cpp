@@ -1,5 +1,7 @@
 #include "forms/tool_tips.h"
 
+#include <utility>
+
 #include "forms/geometry.h"
 
 namespace quillomat {
@@ -14,6 +16,11 @@ void ToolTips::create() {
     window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
                               0, form_, nullptr, nullptr, nullptr);
     fit_resolution(dpi_);
+}
+
+void ToolTips::begin() {
+    begun_ = true;
+    for (auto& [tool, text] : std::exchange(waiting_, {})) put(tool, text);
 }
 
 void ToolTips::fit_resolution(int dpi) {
@@ -39,6 +46,10 @@ void ToolTips::set(HWND window, const void* owner, const RECT& area, const std::
 }
 
 void ToolTips::put(TTTOOLINFOW& tool, const std::wstring& text) {
+    if (!begun_) {
+        waiting_.emplace_back(tool, text);
+        return;
+    }
     if (!window_) create();
     tool.cbSize = sizeof tool;
     TTTOOLINFOW known = tool;
