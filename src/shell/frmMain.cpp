@@ -19,6 +19,11 @@ constexpr Colour stripe_colour = rgb(47, 167, 160);
 constexpr double help_box_turn = 1290;
 constexpr double help_box_rise = 500;
 
+// The colours of a button follow one another faster than a screen shows pictures, and painting them is what costs. Of
+// those that come within this time only one is painted. It is shorter than the 16 milliseconds between two ticks of a
+// timer at its slowest, so that there no colour is left out.
+constexpr std::chrono::milliseconds shortest_colour{12};
+
 }  // namespace
 
 frmMain::frmMain(Application& application, Session& session, const MainWindows& windows)
@@ -239,7 +244,10 @@ void frmMain::Timer3_Timer() {
 void frmMain::Timer6_Timer() {
     const ColourCycle next = next_colour_cycle(colour_step_);
     colour_step_ = static_cast<std::int16_t>(next.step);
-    if (next.colour) Command4.set_back_colour(Colour{*next.colour});
+    const auto now = std::chrono::steady_clock::now();
+    if (!next.colour || now - colour_shown_ < shortest_colour) return;
+    colour_shown_ = now;
+    Command4.set_back_colour(Colour{*next.colour});
 }
 
 void frmMain::Timer7_Timer() {
