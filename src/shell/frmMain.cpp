@@ -20,9 +20,8 @@ constexpr double help_box_turn = 1290;
 constexpr double help_box_rise = 500;
 
 // The colours of a button follow one another faster than a screen shows pictures, and painting them is what costs. Of
-// those that come within this time only one is painted. It is shorter than the 16 milliseconds between two ticks of a
-// timer at its slowest, so that there no colour is left out.
-constexpr std::chrono::milliseconds shortest_colour{12};
+// those that come within one frame only the last is painted.
+constexpr std::chrono::milliseconds frame{33};
 
 }  // namespace
 
@@ -245,8 +244,9 @@ void frmMain::Timer6_Timer() {
     const ColourCycle next = next_colour_cycle(colour_step_);
     colour_step_ = static_cast<std::int16_t>(next.step);
     const auto now = std::chrono::steady_clock::now();
-    if (!next.colour || now - colour_shown_ < shortest_colour) return;
-    colour_shown_ = now;
+    if (!next.colour || now < next_colour_painted_) return;
+    // Counted from when it was due: the frames keep falling on other colours, so that each has its turn.
+    next_colour_painted_ = std::max(next_colour_painted_ + frame, now);
     Command4.set_back_colour(Colour{*next.colour});
 }
 

@@ -103,7 +103,7 @@ class frmMain final : public Form {
     const MainWindows& windows_;
     HoverHelp hover_help_{session_.pointer, Text1, Timer7};
     std::int16_t colour_step_ = 0;
-    std::chrono::steady_clock::time_point colour_shown_;
+    std::chrono::steady_clock::time_point next_colour_painted_;
 };
 
 }  // namespace quillomat
