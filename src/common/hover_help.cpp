@@ -44,6 +44,13 @@ bool is_under_pointer(const PointerState& pointer, const Graphic& item) {
     return PtInRect(&item.pixels(), position);
 }
 
+bool is_under_pointer(const PointerState& pointer, const Control& control) {
+    if (pointer.PointerWindow == control.window()) return true;
+    RECT area{};
+    return pointer.PointerWindow == control.container().window() && GetWindowRect(control.window(), &area) &&
+           PtInRect(&area, pointer.PointerPos);
+}
+
 HoverHelp::HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)
     : pointer_(pointer), help_box_(help_box), timer_(timer) {
     help_box_.form().on_pointer_moved = [this] { wake(); };

@@ -21,6 +21,8 @@ void HideTip(Control& control, TextBox& help_box);
 
 /// Whether the pointer, when it was last read, was over a painted item and over nothing in front of its container.
 bool is_under_pointer(const PointerState& pointer, const Graphic& item);
+/// The same for a control, enabled or not: to the pointer a disabled one is a part of its container.
+bool is_under_pointer(const PointerState& pointer, const Control& control);
 
 /// The help texts of one window: each is shown exactly while the pointer is over its control. The window's hover timer
 /// calls `tick`; where the help box stands is the window's business.

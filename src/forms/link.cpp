@@ -48,11 +48,14 @@ void Link::draw(const DRAWITEMSTRUCT& request) {
     fill(canvas, request.rcItem, container().back_colour());
     // While the mouse holds it, it is down wherever the pointer has gone.
     const bool down = (request.itemState & ODS_SELECTED) || GetCapture() == window();
+    const Colour own = down ? held_down : idle;
+    const COLORREF shown = legible(own, container().back_colour());
+    // Without the colour of a link, the line is what tells it from a mere text.
     FontSpec spec = font();
-    spec.underline = hot();
+    spec.underline = hot() || shown != resolve(own);
     const Selection selected(canvas, form().application().fonts().get(spec, dpi()));
     SetBkMode(canvas, TRANSPARENT);
-    SetTextColor(canvas, legible(down ? held_down : idle, container().back_colour()));
+    SetTextColor(canvas, shown);
     RECT area = request.rcItem;
     InflateRect(&area, -margin_pixels, 0);
     const std::wstring text = caption();

@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
+#include "forms/gdi.h"
 #include "text/error.h"
 
 namespace quillomat {
 
 ListBox::ListBox(Container& container, Bounds bounds, Picking picking)
-    : ListBox(container, bounds, picking == Picking::Several ? DWORD{LBS_MULTIPLESEL} : 0) {
+    : ListBox(container, bounds, picking == Picking::Several ? DWORD{LBS_MULTIPLESEL | WS_HSCROLL} : 0) {
     picking_ = picking;
 }
 
@@ -97,6 +98,28 @@ void ListBox::set_top_index(int index) {
 
 int ListBox::item_from_point(int x, int y) const {
     return static_cast<int>(send(LB_ITEMFROMPOINT, 0, MAKELPARAM(x, y)));
+}
+
+void ListBox::fit_scroll_range() {
+    const HDC canvas = GetDC(window());
+    LONG widest = 0;
+    {
+        const Selection font(canvas, reinterpret_cast<HFONT>(send(WM_GETFONT)));
+        for (int index = 0; index < count(); ++index) {
+            const std::wstring text = item(index);
+            SIZE size{};
+            GetTextExtentPoint32W(canvas, text.c_str(), static_cast<int>(text.size()), &size);
+            widest = std::max(widest, size.cx);
+        }
+    }
+    ReleaseDC(window(), canvas);
+    constexpr LONG margin = 4;
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + margin));
+}
+
+void ListBox::resolution_changed() {
+    Control::resolution_changed();
+    if (picking_ == Picking::Several) fit_scroll_range();
 }
 
 void ListBox::notified(WORD code) {

@@ -58,7 +58,11 @@ class ListBox : public Control {
     /// outside of the list's texts.
     int item_from_point(int x, int y) const;
 
+    /// Lets the user scroll sideways as far as the longest text reaches; for a list for picking several.
+    void fit_scroll_range();
+
     void notified(WORD code) override;
+    void resolution_changed() override;
 
   protected:
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;

@@ -144,6 +144,9 @@ void frmAddNew::Timer1_Timer() {
     // Only now does the window stand where it will stay.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(cmdButton[add_button]->window());
     hover_help_.tick();
+    // The hover help knows nothing of what was shown for a disabled button.
+    const auto under_pointer = [this](const Button* button) { return is_under_pointer(session_.pointer, *button); };
+    if (std::none_of(cmdButton.begin(), cmdButton.end(), under_pointer)) Text3.set_visible(false);
 }
 
 void frmAddNew::Form_MouseMove(const MouseEvent& event) {

@@ -106,6 +106,7 @@ void frmMailCheats::Form_Load() {
     {
         const ListBox::Filling filling(List1);
         for (const std::wstring& name : games_.names) List1.add(name);
+        List1.fit_scroll_range();
     }
     if (games_.selected) {
         List1.select_index(*games_.selected);

@@ -66,9 +66,9 @@ void frmMailMe::Form_Load() {
     const Settings& stored = session_.settings;
     set_window_state(window_state_of(stored.read(settings::frmMailMeWindowState)));
     set_size(stored.read(settings::frmMailMeWidth), stored.read(settings::frmMailMeHeght));
+    Form_Resize();
     centre_on_screen();
     for (const wchar_t* subject : canned_subjects) Combo1.add(subject);
-    Form_Resize();
     CenterMouseOn(Command1.window());
 }
 

@@ -21,7 +21,7 @@ class frmMailMe final : public Form {
     /// `session` must outlive the form.
     frmMailMe(Application& application, Session& session);
 
-    StaticLabel Label1{*this, L"Subject:", {60, 60, 3000, 210}};
+    StaticLabel Label1{*this, L"Subject:", {60, 45, 3000, 210}};
     ComboBox Combo1{*this, {60, 270, 6780, 315}};
     StaticLabel Label2{*this, L"Message", {60, 630, 3000, 210}};
     TextBox Text1{*this, {60, 840, 6780, 4185}, TextBoxKind::Writing};

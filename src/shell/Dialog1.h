@@ -34,11 +34,11 @@ class Dialog1 final : public Form {
     Button cmdButton[3]{{*this, L"&Open Links", {240, 3885, 1500, 375}},
                         {*this, L"&Close Links", {240, 3885, 1500, 375}},
                         {*this, L"&Take me back to the main screen!", {2490, 3885, 3180, 375}}};
-    Link Label3{*this, L"Tob's Home Page - My official website.", 240, 4650};
-    Link Label4{*this, L"AllVB - Visual Basic Discussion Group", 240, 5070};
-    Link Label5{*this, L"Sign My Site's Guestbook", 240, 5490};
-    Link Label6{*this, L"E-mail me", 3960, 4650};
-    Link Label8{*this, L"My other programs", 3960, 5070};
+    Link Label3{*this, L"Tob's Home Page - My official website.", 240, 4530};
+    Link Label4{*this, L"AllVB - Visual Basic Discussion Group", 240, 4905};
+    Link Label5{*this, L"Sign My Site's Guestbook", 240, 5280};
+    Link Label6{*this, L"E-mail me", 3960, 4530};
+    Link Label8{*this, L"My other programs", 3960, 4905};
     TextBox HelpBox{*this, {600, 3500, 1500, 270}, TextBoxKind::Help};
     Timer Timer1{*this, 150};
     Timer Timer2{*this, 50};

@@ -1,6 +1,7 @@
 #include "shell/emboss_label.h"
 
 #include "forms/form.h"
+#include "forms/gdi.h"
 #include "forms/graphics.h"
 
 namespace quillomat {
@@ -22,14 +23,17 @@ void EmbossLabel(Label& main, Label& shadow, Label& highlight, const std::wstrin
         label->set_caption(caption);
         label->set_back_style(BackStyle::Transparent);
     }
-    main.set_fore_colour(text_colour);
+    // On a background on which the text would be lost, edges of a fixed colour would only blur it.
+    const bool plain = legible(text_colour, main.container().back_colour()) != resolve(text_colour);
+    main.set_fore_colour(plain ? colours::button_text : text_colour);
     shadow.set_fore_colour(shadow_colour);
     highlight.set_fore_colour(highlight_colour);
     const double offset = to_twips(style == EmbossStyle::Raised ? depth : -depth, main.form().dpi());
     place_copy(shadow, main, offset);
     place_copy(highlight, main, -offset);
     // The three are painted together when the program is idle, so nothing is seen in between.
-    for (Label* label : {&shadow, &highlight, &main}) label->set_visible(true);
+    for (Label* edge : {&shadow, &highlight}) edge->set_visible(!plain);
+    main.set_visible(true);
     main.bring_to_front();
 }
 

@@ -19,6 +19,10 @@ constexpr Colour stripe_colour = rgb(47, 167, 160);
 constexpr double help_box_turn = 1290;
 constexpr double help_box_rise = 500;
 
+// The colours of a button follow one another faster than a screen shows pictures, and painting them is what costs. Of
+// those that come within one frame only the last is painted.
+constexpr std::chrono::milliseconds frame{33};
+
 }  // namespace
 
 frmMain::frmMain(Application& application, Session& session, const MainWindows& windows)
@@ -239,7 +243,11 @@ void frmMain::Timer3_Timer() {
 void frmMain::Timer6_Timer() {
     const ColourCycle next = next_colour_cycle(colour_step_);
     colour_step_ = static_cast<std::int16_t>(next.step);
-    if (next.colour) Command4.set_back_colour(Colour{*next.colour});
+    const auto now = std::chrono::steady_clock::now();
+    if (!next.colour || now < next_colour_painted_) return;
+    // Counted from when it was due: the frames keep falling on other colours, so that each has its turn.
+    next_colour_painted_ = std::max(next_colour_painted_ + frame, now);
+    Command4.set_back_colour(Colour{*next.colour});
 }
 
 void frmMain::Timer7_Timer() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 
 #include "common/hover_help.h"
@@ -102,6 +103,7 @@ class frmMain final : public Form {
     const MainWindows& windows_;
     HoverHelp hover_help_{session_.pointer, Text1, Timer7};
     std::int16_t colour_step_ = 0;
+    std::chrono::steady_clock::time_point next_colour_painted_;
 };
 
 }  // namespace quillomat

@@ -12,7 +12,8 @@ frmWait::frmWait(Application& application, std::function<void()> show_viewer)
                          .height = 1200,
                          .border = FormBorder::None}),
       show_viewer_(std::move(show_viewer)) {
-    set_back_colour(colours::white);
+    set_back_colour(colours::window);
+    Label1.set_fore_colour(colours::window_text);
     Label1.set_font({.points = 11});
     Shape1.set_border_colour(colours::grey_text);
     on_load = [this] { centre_on_screen(); };

@@ -68,6 +68,13 @@ TEST_F(AddGameTest, ANameThatExistsIsShownAndAnotherOneProposed) {
     expect_unchanged(2);
 }
 
+TEST_F(AddGameTest, TheHelpOfTheDisabledButtonStaysOnlyWhileThePointerIsOnIt) {
+    open();
+    const auto shown = [this] { return window->Text3.visible(); };
+    EXPECT_TRUE(point_until(window->cmdButton[0]->window(), 9, 9, shown));
+    EXPECT_TRUE(point_until(window->Text2.window(), 9, 9, [&] { return !shown(); }));
+}
+
 TEST_F(AddGameTest, TheLimitIsToldAndNothingIsStored) {
     std::string full;
     for (int i = 0; i < Catalogue::slot_count; ++i) full += "$$$$$$$$$$$$$$$$$$$$ Game\r\n";
