@@ -2,7 +2,7 @@
 
 #include "win/clipboard.h"
 
-#include <latch>
+#include <future>
 #include <thread>
 
 #include "support.h"
@@ -28,22 +28,22 @@ TEST_F(ClipboardTest, HoldsWhatWasCopiedToTheEnd) {
 
 TEST_F(ClipboardTest, AProgramThatKeepsItOpenIsReportedAndNothingChanges) {
     put_on_clipboard(owner, L"before");
-    std::latch opened(1);
-    std::latch enough(1);
+    std::promise<void> opened;
+    std::promise<void> enough;
     std::thread other_program([&] {
         EXPECT_TRUE(OpenClipboard(nullptr));
-        opened.count_down();
-        enough.wait();
+        opened.set_value();
+        enough.get_future().wait();
         CloseClipboard();
     });
-    opened.wait();
+    opened.get_future().wait();
     try {
         put_on_clipboard(owner, L"after");
         ADD_FAILURE() << "copied to a clipboard that cannot be opened";
     } catch (const Error& error) {
         EXPECT_EQ(error.code(), ErrorCode::ClipboardError);
     }
-    enough.count_down();
+    enough.set_value();
     other_program.join();
     EXPECT_EQ(clipboard_text(), L"before");
 }
