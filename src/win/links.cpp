@@ -1,20 +1,12 @@
 #include "win/links.h"
 
-#include "win/api.h"
+#include "win/system_function.h"
 // Need the above.
 #include <objbase.h>
 #include <shellapi.h>
 
 namespace quillomat {
 namespace {
-
-/// A function of one of the system's libraries, which is brought in now: loading these with the program would hold up
-/// its first window. The library stays, as it may still be at work when the function has returned.
-template <class Function>
-Function* system_function(const wchar_t* library, const char* name) {
-    const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    return module ? reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name))) : nullptr;
-}
 
 /// Some browsers are started through COM, which the thread must have ready.
 class ComApartment {

@@ -6,6 +6,7 @@
 #include "text/rounding.h"
 #include "text/twips.h"
 #include "win/errors.h"
+#include "win/system_function.h"
 
 namespace quillomat {
 namespace {
@@ -59,13 +60,8 @@ void printed(const Call& call) {
 
 /// The name of the default printer; empty when there is none.
 std::wstring default_printer_name() {
-    // Loaded when it is needed: with the program, this library and all it looks for would slow down every start.
-    const std::unique_ptr<std::remove_pointer_t<HMODULE>, decltype(&FreeLibrary)> spooler(
-        LoadLibraryExW(L"winspool.drv", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32), &FreeLibrary);
-    if (!spooler) return {};
-    using GetDefaultPrinterFunction = BOOL(WINAPI*)(wchar_t*, DWORD*);
-    const auto get_default_printer = reinterpret_cast<GetDefaultPrinterFunction>(
-        reinterpret_cast<void*>(GetProcAddress(spooler.get(), "GetDefaultPrinterW")));
+    using GetDefaultPrinterFunction = BOOL WINAPI(wchar_t*, DWORD*);
+    const auto get_default_printer = system_function<GetDefaultPrinterFunction>(L"winspool.drv", "GetDefaultPrinterW");
     if (!get_default_printer) return {};
 
     DWORD size = 0;

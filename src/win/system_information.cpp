@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "win/handle.h"
+#include "win/system_function.h"
 #include "win/text_file.h"
 // Need the system's header.
 #include <shellapi.h>
@@ -65,7 +66,8 @@ bool start_program(const std::wstring& path) {
     request.fMask = SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
     request.lpFile = path.c_str();
     request.nShow = SW_SHOWNORMAL;
-    return ShellExecuteExW(&request) != FALSE;
+    const auto execute = system_function<decltype(ShellExecuteExW)>(L"shell32.dll", "ShellExecuteExW");
+    return execute && execute(&request);
 }
 
 }  // namespace quillomat
