@@ -37,7 +37,7 @@ void ListBox::clear() {
 }
 
 void ListBox::add(std::wstring_view text) {
-    if (send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
+    if (default_message(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
         throw Error(ErrorCode::OutOfMemory);
     }
 }

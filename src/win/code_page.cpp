@@ -5,6 +5,7 @@
 #include <iterator>
 #include <limits>
 #include <memory>
+#include <utility>
 
 #include "win/errors.h"
 
@@ -13,19 +14,17 @@ namespace {
 
 static_assert(system_code_page == CP_ACP);
 
-/// Bytes that are decoded in one call. The system counts bytes in 32 bits inside, and a character has two.
-constexpr std::size_t most_decoded_at_once = std::size_t{1} << 30;
+/// Bytes that are decoded in one call: the processor still has them at hand. More than the system counts are too many.
+constexpr std::size_t block_size = std::size_t{1} << 18;
 /// Characters whose bytes can surely be counted in an int.
 constexpr std::size_t most_encoded = std::numeric_limits<int>::max() / 4;
 
-/// How many bytes can be decoded on their own without cutting a character in two.
-std::size_t piece_length(std::string_view bytes) {
-    if (bytes.size() <= most_decoded_at_once) return bytes.size();
-    // Line ends, blanks and all others before the digits are no part of a longer character in any code page. Where a
-    // piece has none of them it is no text, and there is no harm in cutting anywhere.
-    const auto begin = bytes.rend() - most_decoded_at_once;
-    const auto last = std::find_if(begin, bytes.rend(), [](char byte) { return byte >= '\0' && byte < '0'; });
-    return last == bytes.rend() ? most_decoded_at_once : static_cast<std::size_t>(bytes.rend() - last);
+/// How many bytes at the beginning can be decoded on their own without cutting a character in two.
+std::size_t whole_characters(std::string_view bytes) {
+    // Line ends, blanks and all others before the digits are no part of a longer character in any code page. Where none
+    // of them comes for so long it is no text, and there is no harm in cutting anywhere.
+    const auto last = std::find_if(bytes.rbegin(), bytes.rend(), [](char byte) { return byte >= '\0' && byte < '0'; });
+    return last == bytes.rend() ? bytes.size() : static_cast<std::size_t>(bytes.rend() - last);
 }
 
 bool holds_every_character(unsigned code_page) {
@@ -81,19 +80,33 @@ void refuse_first_lacking(std::wstring_view text, unsigned code_page) {
 
 }  // namespace
 
+// No code page has more characters than bytes, so there is no pass for counting them first.
+Decoder::Decoder(std::size_t most_bytes, unsigned code_page)
+    : code_page_(code_page), text_{std::make_unique_for_overwrite<wchar_t[]>(most_bytes)} {}
+
+void Decoder::decode(std::string_view bytes) {
+    if (bytes.empty()) return;
+    const auto length = static_cast<int>(bytes.size());
+    const int decoded =
+        MultiByteToWideChar(code_page_, 0, bytes.data(), length, text_.characters.get() + text_.length, length);
+    if (decoded == 0) throw_last_error();
+    text_.length += static_cast<std::size_t>(decoded);
+}
+
+std::size_t Decoder::add(std::string_view bytes) {
+    const std::size_t length = whole_characters(bytes.substr(0, block_size));
+    decode(bytes.substr(0, length));
+    return length;
+}
+
+DecodedText Decoder::finish(std::string_view bytes) {
+    while (bytes.size() > block_size) bytes.remove_prefix(add(bytes));
+    decode(bytes);
+    return std::move(text_);
+}
+
 DecodedText decode(std::string_view bytes, unsigned code_page) {
-    DecodedText text;
-    // No code page has more characters than bytes, so there is no pass for counting them first.
-    text.characters = std::make_unique_for_overwrite<wchar_t[]>(bytes.size());
-    while (!bytes.empty()) {
-        const std::size_t length = piece_length(bytes);
-        const int decoded = MultiByteToWideChar(code_page, 0, bytes.data(), static_cast<int>(length),
-                                                text.characters.get() + text.length, static_cast<int>(length));
-        if (decoded == 0) throw_last_error();
-        text.length += static_cast<std::size_t>(decoded);
-        bytes.remove_prefix(length);
-    }
-    return text;
+    return Decoder(bytes.size(), code_page).finish(bytes);
 }
 
 std::string encode(std::wstring_view text, unsigned code_page) {

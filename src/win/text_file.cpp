@@ -1,5 +1,6 @@
 #include "win/text_file.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <new>
@@ -12,6 +13,9 @@ namespace {
 
 /// Bytes of the largest file that is read. No text is larger, and reading takes three times as much memory.
 constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
+
+/// Bytes that are read at once.
+constexpr DWORD block_size = 1 << 18;
 
 LONGLONG size_of(HANDLE file) {
     LARGE_INTEGER size{};
@@ -64,7 +68,6 @@ void copy_content(HANDLE target, const std::wstring& source_path) {
     const FileHandle source(CreateFileW(source_path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                         FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!source) throw_last_error();
-    constexpr DWORD block_size = 1 << 20;
     const auto block = std::make_unique_for_overwrite<char[]>(block_size);
     for (;;) {
         DWORD read = 0;
@@ -118,17 +121,23 @@ DecodedText TextFileSlot::read_all() try {
     if (file_size > largest_file) {
         throw Error(ErrorCode::OutOfMemory, L"The file is too large: at most 2 GB can be read");
     }
-    const auto size = static_cast<std::size_t>(file_size);
-    const auto bytes = std::make_unique_for_overwrite<char[]>(size);
-    std::size_t length = 0;
-    while (length < size) {
+    auto left = static_cast<std::size_t>(file_size);
+    Decoder decoder(left);
+    // A block at a time: the whole file in memory beside its text would cost more time than decoding it.
+    const auto block = std::make_unique_for_overwrite<char[]>(block_size);
+    std::size_t length = 0;  // of what is in the block
+    for (;;) {
         DWORD read = 0;
-        const auto wanted = static_cast<DWORD>(size - length);
-        if (!ReadFile(file_.get(), bytes.get() + length, wanted, &read, nullptr)) throw_last_error();
-        if (read == 0) break;  // another program has shortened the file
+        const auto wanted = static_cast<DWORD>(std::min<std::size_t>(left, block_size - length));
+        if (!ReadFile(file_.get(), block.get() + length, wanted, &read, nullptr)) throw_last_error();
         length += read;
+        left -= read;
+        // The file has come to its end, or another program has shortened it.
+        if (left == 0 || read == 0) return decoder.finish({block.get(), length});
+        const std::size_t decoded = decoder.add({block.get(), length});
+        std::copy(block.get() + decoded, block.get() + length, block.get());
+        length -= decoded;
     }
-    return decode({bytes.get(), length});
 } catch (const std::bad_alloc&) {
     throw Error(ErrorCode::OutOfMemory);
 }

@@ -32,6 +32,16 @@ TEST(CodePage, TextsComeBackInEveryKindOfCodePage) {
     for (const auto& [code_page, text] : cases) EXPECT_EQ(decoded(encode(text, code_page), code_page), text);
 }
 
+TEST(CodePage, NoCharacterIsCutWhereABlockEnds) {
+    for (const unsigned code_page : {japanese, utf_8}) {
+        // The blocks end at another byte of a character in every line.
+        std::wstring text;
+        while (text.size() < 1'000'000) text += L"\u65E5\u672C\u8A9E \u65E5\u672C\u8A9E!\r\n";
+        const std::string bytes = encode(text, code_page);
+        EXPECT_TRUE(decoded(bytes, code_page) == text) << code_page;
+    }
+}
+
 TEST(CodePage, BytesThatMeanNothingStillDecode) {
     const std::pair<unsigned, std::string_view> cases[] = {
         {japanese, "\x81"}, {japanese, "a\xFD\xFE\xFFz"}, {utf_8, "\xFF\xC3"}, {utf_8, "a\xED\xA0\x80\xF0\x9F"}};
