@@ -64,8 +64,11 @@ Action Player::next(const Scene& scene) {
     std::seed_seq numbers{seed_, count_};
     random_.seed(numbers);
     if (count_ % period == 0) return {};
-    if (planned_.empty() && !scene.menu() && chance(has_class(scene.topmost(), L"frmCtlView") ? 2 : 15)) {
-        plan_filling_in(scene);
+    if (planned_.empty() && !scene.menu()) {
+        // Windows with a menu bar are there for much longer than those that are to be filled in.
+        const bool has_menu_bar = scene.topmost() && GetMenu(scene.topmost());
+        if (has_menu_bar && chance(2)) plan_command();
+        if (chance(has_menu_bar ? 2 : 15)) plan_filling_in(scene);
     }
     if (!planned_.empty()) {
         const Action action = planned_.front();
@@ -104,6 +107,17 @@ bool Player::aim(const Scene& scene, POINT& place) {
     return false;
 }
 
+void Player::plan_command() {
+    const auto press = [this](WORD key, int times) {
+        for (; times > 0; --times)
+            planned_.push_back({.kind = Action::Kind::Key, .value = key, .pause = number(0, 50)});
+    };
+    press(VK_F10, 1);
+    press(VK_RIGHT, number(0, 2));
+    press(VK_DOWN, number(1, 5));
+    press(VK_RETURN, 1);
+}
+
 void Player::plan_filling_in(const Scene& scene) {
     std::vector<HWND> buttons;
     const auto click = [this](HWND control) {
@@ -120,8 +134,7 @@ void Player::plan_filling_in(const Scene& scene) {
         }
     }
     if (planned_.empty() || buttons.empty()) return planned_.clear();
-    // The one that does it comes first, as a rule.
-    click(chance(60) ? buttons.front() : any(buttons));
+    click(any(buttons));
 }
 
 Action Player::with_mouse(const Scene& scene) {

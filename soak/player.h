@@ -25,6 +25,8 @@ class Player {
     /// A place of the screen where the program is hit; false when none was found.
     bool aim(const Scene& scene, POINT& place);
     POINT place_on(HWND window);
+    /// Picks a command of the menu bar.
+    void plan_command();
     /// Types something into every box of a window and presses one of its buttons: by chance alone that would never
     /// happen.
     void plan_filling_in(const Scene& scene);

@@ -26,7 +26,7 @@ std::vector<HWND> visible_windows() {
 
 void add_controls(HWND parent, std::vector<HWND>& controls) {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (!IsWindowVisible(child) || !IsWindowEnabled(child)) continue;
+        if (!IsWindowVisible(child)) continue;
         const std::size_t before = controls.size();
         add_controls(child, controls);
         if (controls.size() == before) controls.push_back(child);

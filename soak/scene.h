@@ -33,7 +33,7 @@ class Scene {
     std::vector<HWND> windows_;
 };
 
-/// The visible, enabled controls of a window that have none of these in them.
+/// The visible controls of a window that have none of these in them.
 std::vector<HWND> controls_of(HWND window);
 
 /// Closes what other programs show in front, like a mail program that was started by a link.
