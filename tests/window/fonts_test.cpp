@@ -53,7 +53,10 @@ class FontsTest : public ShownViewerTest {
         KillTimer(nullptr, timer);
         EXPECT_TRUE(menu_keys_.empty()) << "the menu has popped up";
     }
-    void collect() { viewer->menus.mnuFontName[0]->pick(); }
+    /// As a message, like the user's: while it is handled, the viewer is not destroyed.
+    void collect() {
+        SendMessageW(viewer->window(), WM_COMMAND, static_cast<WPARAM>(viewer->menus.mnuFontName[0]->id()), 0);
+    }
     Form* status() const { return Form::from(FindWindowW(L"frmStatus", nullptr)); }
 
     Names fonts;
