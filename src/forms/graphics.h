@@ -102,7 +102,6 @@ class Shape : public Graphic {
     Shape(Container& container, Bounds bounds);
 
     void set_border_colour(Colour colour);
-    Colour border_colour() const { return border_colour_; }
     /// Paints the inside too, which is transparent before.
     void set_fill_colour(Colour colour);
 

@@ -76,7 +76,6 @@ class Menu {
     void update(const MENUITEMINFOW& info) const;
 
     Form& form_;
-    Menu* parent_ = nullptr;
     HMENU container_ = nullptr;  // the menu this is an entry of
     HMENU handle_ = nullptr;     // the menu of its own entries
     int id_;
