@@ -94,7 +94,7 @@ LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARA
     if (!form) return DefWindowProcW(window, message, wparam, lparam);
     if (message == WM_NCDESTROY) {
         // An owner that has closed waits for its windows.
-        PostMessageW(GetWindow(window, GW_OWNER), destroy_message, 0, 0);
+        if (const HWND owner = GetWindow(window, GW_OWNER)) PostMessageW(owner, destroy_message, 0, 0);
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         form->window_ = nullptr;
         // The handler may destroy the form, itself included, so it is moved out of it first.
@@ -119,7 +119,7 @@ LRESULT Form::guarded(const std::function<LRESULT()>& work) {
         application_.report_current_exception(window_);
     }
     --handlers_running_;
-    if (closed_ && !modal_ && handlers_running_ == 0) PostMessageW(window_, destroy_message, 0, 0);
+    if (closed_ && !modal_ && handlers_running_ == 0 && window_) PostMessageW(window_, destroy_message, 0, 0);
     return result;
 }
 
