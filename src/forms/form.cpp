@@ -332,6 +332,12 @@ void Form::set_mouse_pointer(PointerShape shape) {
     SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(shape == PointerShape::Hourglass ? IDC_WAIT : IDC_ARROW)));
 }
 
+void Form::drag_by(MouseEvents& surface) {
+    surface.on_mouse_down = [this](const MouseEvent& event) {
+        if (event.button == MouseButton::Left) drag();
+    };
+}
+
 void Form::drag() {
     ReleaseCapture();
     SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);

@@ -109,8 +109,9 @@ class Form : public Container, public MouseEvents {
     void set_window_state(WindowState state);
 
     void set_mouse_pointer(PointerShape shape);
-    /// Lets the user drag the window by its surface, as if by its title bar.
-    void drag();
+    /// Lets the user drag the window by something on it, or by its own surface, as if by its title bar. Takes over the
+    /// mouse presses there.
+    void drag_by(MouseEvents& surface);
     void bring_to_foreground();
     /// Paints the window and all that stands on it now instead of when the program is idle.
     void refresh();
@@ -159,6 +160,7 @@ class Form : public Container, public MouseEvents {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
     void load();
     void resized();
+    void drag();
     void set_pixel_size(LONG width, LONG height);
     void limit_sizing(WPARAM edge, RECT& area) const;
     void resolution_changed(int dpi, const RECT& suggested);

@@ -56,9 +56,7 @@ void frmAddNew::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     on_mouse_move = [this](const MouseEvent& event) { Form_MouseMove(event); };
     Text1.on_change = [this] { UpdateAddButton(); };
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };

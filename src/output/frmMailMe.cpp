@@ -35,9 +35,7 @@ void frmMailMe::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Combo1.on_change = [this] { UpdateSendButton(); };
     Combo1.on_key_down = [this](KeyEvent& event) { Combo1_KeyDown(event); };
     keep_line_count(lines_);

@@ -44,9 +44,7 @@ frmPrintGames::frmPrintGames(Application& application, Session& session, ListedG
 void frmPrintGames::bind() {
     on_load = [this] { Form_Load(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Option1.on_click = [this] { Option1_Click(); };
     Option2.on_click = [this] { Option2_Click(); };
     Command1.on_click = [this] { Command1_Click(); };

@@ -49,9 +49,7 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
 void frmSave::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Drive1.on_change = [this] { Drive1_Change(); };
     Dir1.on_change = [this] { Dir1_Change(); };
     File1.on_click = [this] { File1_Click(); };

@@ -65,9 +65,7 @@ void frmMain::bind() {
     on_unload = [this] { raise(windows_.close_all); };
     for (MouseEvents* surface :
          std::initializer_list<MouseEvents*>{this, &Frame1, &Picture1, &Name, &Subtitle, &Command7, &Command9}) {
-        surface->on_mouse_down = [this](const MouseEvent& event) {
-            if (event.button == MouseButton::Left) drag();
-        };
+        drag_by(*surface);
     }
     Image1.on_double_click = [this] { raise(windows_.mail_author); };
 

@@ -66,9 +66,7 @@ void frmCtlView::bind() {
     on_resize = [this] { Form_Resize(); };
     on_unload = [this] { Form_Unload(); };
     on_mouse_move = [this](const MouseEvent&) { tidy_image_bar(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
     for (Control* control :
          std::initializer_list<Control*>{&Option1, &Option2, &Text3, &Command1, &Option3, &Option4}) {
