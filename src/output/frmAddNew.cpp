@@ -81,11 +81,7 @@ void frmAddNew::bind_hover_help() {
     hover_help_.on_shown = [this](Control& button, const MouseEvent& event) {
         show_help_box(&button == cmdButton[add_button] ? add_button : cancel_button, event.x, event.y);
     };
-    // The help box never keeps the focus.
-    Text3.on_got_focus = [this] {
-        Text3.set_visible(false);
-        cmdButton[add_button]->set_focus();
-    };
+    hover_help_.pass_focus_to(*cmdButton[add_button]);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 

@@ -93,11 +93,7 @@ void frmMailCheats::bind_hover_help() {
     hover_help_.add(Command1, L"Send E-mail!");
     hover_help_.add(Command2, L"Cancel E-mail");
     hover_help_.keep_above_pointer();
-    // The help box never keeps the focus.
-    Text5.on_got_focus = [this] {
-        Text5.set_visible(false);
-        (Command1.enabled() ? Command1 : Command2).set_focus();
-    };
+    hover_help_.pass_focus_to(Command1, Command2);
     Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 

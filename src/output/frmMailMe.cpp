@@ -51,11 +51,7 @@ void frmMailMe::bind_hover_help() {
     hover_help_.add(Command1, L"Click here to send the message(to me!)");
     hover_help_.add(Command2, L"Click here to cancel the message (too bad)");
     hover_help_.keep_above_pointer();
-    // The help box never keeps the focus.
-    Text2.on_got_focus = [this] {
-        Text2.set_visible(false);
-        (Command1.enabled() ? Command1 : Command2).set_focus();
-    };
+    hover_help_.pass_focus_to(Command1, Command2);
     Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 

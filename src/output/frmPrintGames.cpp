@@ -72,11 +72,7 @@ void frmPrintGames::bind_hover_help() {
     hover_help_.on_shown = [this](Control& button, const MouseEvent&) {
         Text4.move({button.left(), button.top() + button.height() + help_below_button, Text4.width(), Text4.height()});
     };
-    // The help box never keeps the focus.
-    Text4.on_got_focus = [this] {
-        Text4.set_visible(false);
-        Command1.set_focus();
-    };
+    hover_help_.pass_focus_to(Command1);
     Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 

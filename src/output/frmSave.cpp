@@ -62,11 +62,7 @@ void frmSave::bind_hover_help() {
     hover_help_.add(Command1, L"Save cheat codes");
     hover_help_.add(Command2, L"Cancel save");
     hover_help_.on_shown = [this](Control& button, const MouseEvent&) { place_help_box(button); };
-    // The help box never keeps the focus.
-    Text2.on_got_focus = [this] {
-        Text2.set_visible(false);
-        Command1.set_focus();
-    };
+    hover_help_.pass_focus_to(Command1);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 

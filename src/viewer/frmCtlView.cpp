@@ -94,11 +94,7 @@ void frmCtlView::bind_hover_help() {
         control->on_mouse_move = [this, control](const MouseEvent& event) { place_help_box(*control, event); };
     }
     hover_help_.on_shown = [this](Control& control, const MouseEvent& event) { place_help_box(control, event); };
-    // The help box never keeps the focus.
-    Text4.on_got_focus = [this] {
-        Text4.set_visible(false);
-        Text1.set_focus();
-    };
+    hover_help_.pass_focus_to(Text1);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 
