@@ -54,10 +54,7 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
 }  // namespace
 
 Form::Form(Application& application, const FormDesign& design)
-    : application_(application),
-      caption_(design.caption),
-      minimum_width_(design.minimum_width),
-      minimum_height_(design.minimum_height) {
+    : application_(application), caption_(design.caption), minimum_(design.minimum) {
     register_class(design.name, procedure);
     const auto [style, extended] = style_of(design.border);
     CreateWindowExW(extended, design.name, design.caption, style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,

@@ -10,6 +10,7 @@
 #include "forms/geometry.h"
 #include "forms/picture.h"
 #include "forms/tool_tips.h"
+#include "text/window_size.h"
 
 namespace quillomat {
 
@@ -35,8 +36,7 @@ struct FormDesign {
     double height = 0;
     FormBorder border = FormBorder::Sizable;
     /// What the user can make it no smaller than by its border, in twips.
-    double minimum_width = 0;
-    double minimum_height = 0;
+    WindowSize minimum{};
 };
 
 /// A top-level window. The object is made when the window is opened and lives until it has closed.
@@ -178,8 +178,7 @@ class Form : public Container, public MouseEvents {
     std::wstring caption_;
     Icon small_icon_;
     Icon large_icon_;
-    double minimum_width_;
-    double minimum_height_;
+    WindowSize minimum_;
     HWND window_ = nullptr;
     int dpi_ = 96;
     ToolTips tool_tips_{nullptr};

@@ -42,8 +42,7 @@ frmAddNew::frmAddNew(Application& application, Session& session, ViewerLink& vie
                          .caption = L"Add New Game",
                          .width = 5715,
                          .height = 4320,
-                         .minimum_width = add_game_minimum_size.width,
-                         .minimum_height = add_game_minimum_size.height}),
+                         .minimum = add_game_minimum_size}),
       session_(session),
       viewer_(viewer) {
     bind();

@@ -45,8 +45,7 @@ frmMailCheats::frmMailCheats(Application& application, Session& session, GamesTo
                          .caption = L"Mail Cheat Codes to a friend",
                          .width = 9600,
                          .height = 6900,
-                         .minimum_width = minimum_size.width,
-                         .minimum_height = minimum_size.height}),
+                         .minimum = minimum_size}),
       session_(session),
       games_(std::move(games)) {
     List2.set_visible(false);

@@ -22,8 +22,7 @@ frmMailMe::frmMailMe(Application& application, Session& session)
                          .caption = L"Mail me!",
                          .width = settings::frmMailMeWidth.fallback,
                          .height = settings::frmMailMeHeght.fallback,
-                         .minimum_width = minimum_size.width,
-                         .minimum_height = minimum_size.height}),
+                         .minimum = minimum_size}),
       session_(session) {
     Label6.set_visible(false);
     bind();

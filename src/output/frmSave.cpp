@@ -18,8 +18,7 @@ namespace quillomat {
 namespace {
 
 constexpr double designed_width = 8100;
-constexpr double smallest_width = 6900;
-constexpr double smallest_height = 4200;
+constexpr WindowSize smallest_size{6900, 4200};
 
 constexpr double margin = 120;
 constexpr double label_height = 225;
@@ -33,9 +32,8 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
     : Form(application, {.name = L"frmSave",
                          .caption = L"Save",
                          .width = designed_width,
-                         .height = smallest_height,
-                         .minimum_width = smallest_width,
-                         .minimum_height = smallest_height}),
+                         .height = smallest_size.height,
+                         .minimum = smallest_size}),
       session_(session),
       viewer_(viewer) {
     bind();

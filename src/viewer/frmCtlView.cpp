@@ -32,8 +32,7 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
                          .caption = L"Cheat Codes!",
                          .width = 8925,
                          .height = 6660,
-                         .minimum_width = viewer_minimum_size.width,
-                         .minimum_height = viewer_minimum_size.height}),
+                         .minimum = viewer_minimum_size}),
       Image1(*this, Picture(PICTURE_COLOUR), {colour_image_left, 30, picture_button_size, picture_button_size}),
       session_(session),
       windows_(windows) {
