@@ -19,6 +19,7 @@ class Button;
 class Menu;
 class Timer;
 
+/// How a form is shown, by the numbers that the settings hold.
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 
 /// What frames a form and whether the user can change its size.
@@ -105,13 +106,16 @@ class Form : public Container, public MouseEvents {
     /// Moves the window, and makes it smaller if need be, so that all of it is in reach of the user.
     void place_on_screen();
 
+    /// How the window is shown; before that, how it will be.
     WindowState window_state() const;
     void set_window_state(WindowState state);
 
+    /// The shape of the pointer over the form and all that stands on it, from now on.
     void set_mouse_pointer(PointerShape shape);
     /// Lets the user drag the window by something on it, or by its own surface, as if by its title bar. Takes over the
     /// mouse presses there.
     void drag_by(MouseEvents& surface);
+    /// Makes it the window the user works in.
     void bring_to_foreground();
     /// Paints the window and all that stands on it now instead of when the program is idle.
     void refresh();
