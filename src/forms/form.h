@@ -145,6 +145,8 @@ class Form : public Container, public MouseEvents {
     using Container::remove;
     /// Gives the focus to a control, at once or when the window is first shown.
     void focus(HWND control);
+    /// A control has got another window: a focus that the form keeps for its next activation goes to that one.
+    void move_last_focus(HWND former, HWND present);
     ToolTips& tool_tips() { return tool_tips_; }
     /// Gives the dialog keys and key events of a message to where they belong; true when it needs nothing further.
     bool translate(MSG& message);
