@@ -107,11 +107,11 @@ LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARA
     return form->guarded([&] { return form->handle_message(message, wparam, lparam); });
 }
 
-LRESULT Form::guarded(const std::function<LRESULT()>& work) {
+LRESULT Form::run_guarded(LRESULT (*work)(void* what), void* what) {
     ++handlers_running_;
     LRESULT result = 0;
     try {
-        result = work();
+        result = work(what);
     } catch (...) {
         application_.report_current_exception(window_);
     }

@@ -152,7 +152,11 @@ class Form : public Container, public MouseEvents {
     bool translate(MSG& message);
     /// Runs what may raise events: no exception gets out to the system, the user sees its description instead; and the
     /// form stays alive until it is done.
-    LRESULT guarded(const std::function<LRESULT()>& work);
+    template <class Work>
+    LRESULT guarded(Work work) {
+        // Once for every message, so without the memory that a std::function would take.
+        return run_guarded([](void* what) -> LRESULT { return (*static_cast<Work*>(what))(); }, &work);
+    }
     /// Puts the windows it owns in front of it; for its controls when they have got the focus.
     void keep_owned_in_front();
     /// Draws the keyboard cues (focus frame, underlined access keys) from now on.
@@ -164,6 +168,7 @@ class Form : public Container, public MouseEvents {
   private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT run_guarded(LRESULT (*work)(void* what), void* what);
     void load();
     void resized();
     void drag();
