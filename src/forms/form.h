@@ -169,6 +169,10 @@ class Form : public Container, public MouseEvents {
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT run_guarded(LRESULT (*work)(void* what), void* what);
+    void timer_has_run(UINT_PTR id);
+    /// False when no command has this number.
+    bool pick_command(int id);
+    void menu_opens(HMENU opening);
     void load();
     void resized();
     void drag();
