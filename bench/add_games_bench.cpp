@@ -21,6 +21,7 @@
 namespace {
 
 using namespace quillomat;
+using bench::median;
 using Clock = std::chrono::steady_clock;
 
 /// Presses the button of every message box that appears.
@@ -86,11 +87,6 @@ class Place {
     frmCtlView viewer_{application_, session_, windows_};
     OpenViewer link_{viewer_};
 };
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
-    return values[values.size() / 2];
-}
 
 bool all_can_be_read(const std::wstring& path, int games) {
     TextFileSlot slot;

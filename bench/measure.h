@@ -7,6 +7,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quillomat::bench {
@@ -16,6 +17,12 @@ struct Subject {
     std::function<void()> run;
     std::function<void()> tidy = [] {};
 };
+
+inline double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
 
 /// The median seconds of each subject. The subjects take turns, so that whatever else the machine does hits all alike.
 inline std::vector<double> medians(std::size_t rounds, std::initializer_list<Subject> subjects) {
@@ -31,10 +38,7 @@ inline std::vector<double> medians(std::size_t rounds, std::initializer_list<Sub
         }
     }
     std::vector<double> result;
-    for (std::vector<double>& runs : seconds) {
-        std::nth_element(runs.begin(), runs.begin() + static_cast<std::ptrdiff_t>(runs.size() / 2), runs.end());
-        result.push_back(runs[runs.size() / 2]);
-    }
+    for (std::vector<double>& runs : seconds) result.push_back(median(std::move(runs)));
     return result;
 }
 

@@ -1,5 +1,5 @@
-// From the press on "Go!" until the results are listed, over all games of a database, beside another search of the
-// whole file that was measured before: search_bench FOLDER KEYWORD BASELINE MILLISECONDS
+// From the press on "Go!" until the results are listed, over all games of a database, in turns with the mere listing of
+// the same names: search_bench FOLDER KEYWORD
 
 #include <string>
 #include <vector>

@@ -2,6 +2,7 @@
 // FOLDER is where the database of the viewer lies.
 
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -65,11 +66,6 @@ struct Start {
     std::vector<double> milliseconds;
 };
 
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
-    return values[values.size() / 2];
-}
-
 std::wstring quoted(const std::filesystem::path& path) {
     return L"\"" + path.wstring() + L"\"";
 }
@@ -101,9 +97,10 @@ int wmain(int count, wchar_t** arguments) {
             start.milliseconds.push_back(Program(start.command, start.window_class).milliseconds_to_window());
         }
     }
+    using namespace quillomat::bench;
     for (const Start& start : starts) {
-        quillomat::bench::print({start.name, median(start.milliseconds), "ms", "empty window", median(empty),
-                                 start.at_most_times * median(empty)});
+        print({start.name, median(start.milliseconds), "ms", "empty window", median(empty),
+               start.at_most_times * median(empty)});
     }
     return 0;
 }

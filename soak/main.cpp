@@ -5,11 +5,14 @@
 //
 // It refuses where the program could reach more than one drive: what is saved at random must not hit the user's files.
 
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
+#include <sstream>
 #include <stdexcept>
 
 #include "soak/player.h"

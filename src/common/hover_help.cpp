@@ -60,6 +60,13 @@ void HoverHelp::add(Control& control, std::wstring text) {
     tips_.push_back({control, std::move(text)});
 }
 
+void HoverHelp::pass_focus_to(Control& receiver, Control& otherwise) {
+    help_box_.on_got_focus = [this, &receiver, &otherwise] {
+        help_box_.set_visible(false);
+        (receiver.enabled() ? receiver : otherwise).set_focus();
+    };
+}
+
 void HoverHelp::keep_above_pointer() {
     on_shown = [this](Control& control, const MouseEvent& pointer) { place_above_pointer(control, pointer); };
     for (const Tip& tip : tips_) {

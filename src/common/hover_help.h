@@ -37,7 +37,12 @@ class HoverHelp {
     /// the pointer without a movement of the mouse.
     std::function<void(Control&, const MouseEvent&)> on_shown;
 
+    /// Gives a control of the window a help text.
     void add(Control& control, std::wstring text);
+    /// The help box never keeps the focus: it hides and passes it to `receiver`. Takes over its focus event.
+    void pass_focus_to(Control& receiver) { pass_focus_to(receiver, receiver); }
+    /// The same with another receiver while the first one is disabled.
+    void pass_focus_to(Control& receiver, Control& otherwise);
     /// Keeps the help box above the pointer while that is on one of the controls added so far, inside of the window as
     /// far as it fits. Takes over their mouse movements and `on_shown`.
     void keep_above_pointer();

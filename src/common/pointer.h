@@ -14,6 +14,7 @@ struct PointerState {
 /// Reads the pointer's position and the window under it.
 void UpdatePointer(PointerState& pointer);
 
+/// What lengths on the screen are counted in.
 enum class ScreenUnit { Pixels, Twips };
 
 /// The width and height of the primary screen.

@@ -12,6 +12,7 @@
 
 namespace quillomat {
 
+/// What of the games is searched.
 enum class SearchScope { Names, Cheats };
 
 /// The names and cheat texts of a catalogue in upper case, kept beside it for searching: a line end, then the text.
@@ -23,6 +24,7 @@ class SearchTexts {
     /// Converts characters to upper case where they stand. Their number stays the same.
     using UpperCase = std::function<void(wchar_t* characters, std::size_t length)>;
 
+    /// `catalogue` must outlive the object.
     SearchTexts(const Catalogue& catalogue, UpperCase upper_case);
 
     /// Tells `on_match`, in order, of each game below number `game_count` whose name or cheats hold `keyword`, which

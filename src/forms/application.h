@@ -15,6 +15,7 @@ class Form;
 /// and handed down.
 class Application {
   public:
+    /// `title` is that of its messages.
     explicit Application(std::wstring title);
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
@@ -24,6 +25,7 @@ class Application {
 
     /// Makes every window take `dpi` for its resolution instead of asking the system; 0 asks again. For tests.
     void force_dpi(int dpi) { forced_dpi_ = dpi; }
+    /// The resolution that was forced; 0 for none.
     int forced_dpi() const { return forced_dpi_; }
 
     /// Runs the windows until `quit` is called; the result is the program's exit code.
@@ -55,7 +57,8 @@ void pause_milliseconds(int milliseconds);
 /// While it lives, the user can reach none of the program's windows but those opened later: a dialog is up.
 class ModalScope {
   public:
-    /// `spared` stays enabled: the owner of a system dialog, which disables and enables it itself.
+    /// `spared` stays enabled: the dialog itself, or the owner of a system dialog, which the system disables and
+    /// enables by itself.
     explicit ModalScope(HWND spared = nullptr);
     ~ModalScope() { end(); }
     ModalScope(const ModalScope&) = delete;

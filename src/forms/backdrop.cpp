@@ -34,16 +34,13 @@ void Backdrop::draw(HDC canvas) const {
     BITMAP size{};
     if (!GetObjectW(bitmap_.get(), sizeof size, &size)) return;
     const RECT& area = pixels();
-    const HDC memory = CreateCompatibleDC(canvas);
-    {
-        const Selection selected(memory, bitmap_.get());
-        // Of the same size, which is the rule, this copies.
-        SetStretchBltMode(canvas, HALFTONE);
-        SetBrushOrgEx(canvas, 0, 0, nullptr);
-        StretchBlt(canvas, area.left, area.top, area.right - area.left, area.bottom - area.top, memory, 0, 0,
-                   size.bmWidth, size.bmHeight, SRCCOPY);
-    }
-    DeleteDC(memory);
+    const MemoryCanvas memory(canvas);
+    const Selection selected(memory.get(), bitmap_.get());
+    // Of the same size, which is the rule, this copies.
+    SetStretchBltMode(canvas, HALFTONE);
+    SetBrushOrgEx(canvas, 0, 0, nullptr);
+    StretchBlt(canvas, area.left, area.top, area.right - area.left, area.bottom - area.top, memory.get(), 0, 0,
+               size.bmWidth, size.bmHeight, SRCCOPY);
 }
 
 }  // namespace quillomat

@@ -12,6 +12,7 @@ class Button : public Control {
   public:
     Button(Container& container, std::wstring_view caption, Bounds bounds);
 
+    /// The text on the button; "&" stands before the access key.
     std::wstring caption() const { return window_text(); }
     void set_caption(const std::wstring& caption);
     /// Does what a press of the button does.

@@ -9,6 +9,7 @@ class CheckBox : public Control {
   public:
     CheckBox(Container& container, std::wstring_view caption, Bounds bounds);
 
+    /// Whether it is on.
     bool value() const { return value_; }
     /// Raises the click when the value changes.
     void set_value(bool value);

@@ -16,9 +16,10 @@ class ComboBox : public Control {
     /// The text has changed: typed, picked, or set by the program.
     std::function<void()> on_change;
 
-    /// Adds a text to the end of the list.
+    /// Adds a text at the end of the list. Throws `Error` with OutOfMemory when it takes no more.
     void add(std::wstring_view text);
 
+    /// What stands in the box.
     std::wstring text() const { return window_text(); }
     void set_text(std::wstring_view text);
 

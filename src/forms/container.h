@@ -22,9 +22,12 @@ class Container {
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
 
+    /// The system's window; null once it has gone.
     virtual HWND window() const = 0;
+    /// The form that it is, or that it stands on.
     virtual Form& owner_form() = 0;
 
+    /// What lies under all items.
     Colour back_colour() const { return back_colour_; }
     void set_back_colour(Colour colour);
 
@@ -44,6 +47,7 @@ class Container {
 
     /// Handles what every container handles alike; nothing when the message is none of these.
     std::optional<LRESULT> handle_container_message(UINT message, WPARAM wparam, LPARAM lparam);
+    /// Has all items take over a new resolution.
     void items_resolution_changed();
 
   private:

@@ -59,6 +59,7 @@ void Control::recreate(DWORD style) {
     // The order of the windows is kept, as screen readers go by it.
     const HWND above = GetWindow(window_, GW_HWNDPREV);
     const bool focused = has_focus();
+    const HWND former = window_;
     form().tool_tips().set(window_, {});
     destroy_window();
     create_window({}, style);
@@ -66,7 +67,7 @@ void Control::recreate(DWORD style) {
     if (!visible()) apply_visible();
     if (!enabled()) apply_enabled();
     if (!tool_tip_.empty()) form().tool_tips().set(window_, tool_tip_);
-    if (focused) set_focus();
+    focused ? set_focus() : form().move_last_focus(former, window_);
 }
 
 Control* Control::from(HWND window) {

@@ -18,22 +18,29 @@ class Control : public Item {
   public:
     ~Control() override;
 
+    /// The control has got the focus, by the user or by the program.
     std::function<void()> on_got_focus;
+    /// A key goes down while the control has the focus.
     std::function<void(KeyEvent&)> on_key_down;
     /// A key that goes down, before `on_key_down`: for the shortcuts that an object beside the form gives the control.
     std::function<void(KeyEvent&)> on_shortcut_key;
+    /// A character is about to be typed into the control.
     std::function<void(CharacterEvent&)> on_key_press;
 
+    /// The system's window. It can be another one later: see `recreate`.
     HWND window() const { return window_; }
 
+    /// Gives it the focus, at once or when the form is first shown.
     void set_focus();
     bool has_focus() const { return from(GetFocus()) == this; }
 
+    /// The colour behind the text, and that of the text, which is made legible where the two are too much alike.
     Colour back_colour() const { return back_colour_; }
     void set_back_colour(Colour colour);
     Colour fore_colour() const { return fore_colour_; }
     void set_fore_colour(Colour colour);
 
+    /// The font of the text.
     const FontSpec& font() const { return font_; }
     void set_font(FontSpec font);
     void set_underlined(bool underlined);
@@ -60,6 +67,7 @@ class Control : public Item {
     /// Raises the key event for a message that is still on its way, before the dialog keys are looked at; true when the
     /// handler kept the key.
     bool preview_key(const MSG& message);
+    /// For a previewed key that will not reach the control after all.
     void forget_previewed_key() { key_previewed_ = false; }
 
   protected:
@@ -76,6 +84,7 @@ class Control : public Item {
     LRESULT default_message(UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const;
 
+    /// The text that the system's window holds.
     std::wstring window_text() const;
     /// The text as the system's controls can hold it: they would end it at its first NUL, so a NUL becomes a blank.
     static std::wstring displayable(std::wstring_view text);

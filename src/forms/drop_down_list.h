@@ -18,9 +18,12 @@ class DropDownList : public Control {
     /// choosing.
     std::function<void()> on_change;
 
+    /// Adds a text at the end. Throws `Error` with OutOfMemory when the list takes no more.
     void add(std::wstring_view text);
+    /// The position of the selected text, or nothing.
     std::optional<int> selected_index() const;
-    /// Throws `Error` with SubscriptOutOfRange when there is no text at the position.
+    /// Selects the text at a position, and raises the change when that is another one. Throws `Error` with
+    /// SubscriptOutOfRange when there is none.
     void select_index(int index);
     /// The selected text; empty when none is selected.
     std::wstring text() const { return window_text(); }

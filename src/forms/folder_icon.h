@@ -1,12 +1,10 @@
 #pragma once
 
-#include <memory>
-#include <type_traits>
-
-#include "win/api.h"
+#include "forms/picture.h"
 
 namespace quillomat {
 
+/// What a folder looks like.
 enum class FolderState { Closed, Open };
 
 /// The system's own picture of a folder.
@@ -17,14 +15,11 @@ class FolderIcon {
     /// A picture that is drawn this large, in pixels.
     FolderIcon(FolderState state, int size);
 
+    /// Draws it with its upper left corner at a place, in pixels.
     void draw(HDC canvas, int left, int top) const;
 
   private:
-    struct Destroy {
-        void operator()(HICON icon) const { DestroyIcon(icon); }
-    };
-
-    std::unique_ptr<std::remove_pointer_t<HICON>, Destroy> icon_;
+    Icon icon_;
     int size_ = 0;
 };
 

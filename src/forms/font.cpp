@@ -23,13 +23,10 @@ HFONT FontCache::get(const FontSpec& spec, int dpi) {
 }
 
 SIZE text_extent(HFONT font, const std::wstring& text) {
-    const HDC screen = GetDC(nullptr);
+    const WindowCanvas screen(nullptr);
+    const Selection selected(screen.get(), font);
     RECT area{};
-    {
-        const Selection selected(screen, font);
-        DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX);
-    }
-    ReleaseDC(nullptr, screen);
+    DrawTextW(screen.get(), text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX);
     return {area.right, area.bottom};
 }
 

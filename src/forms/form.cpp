@@ -54,10 +54,7 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
 }  // namespace
 
 Form::Form(Application& application, const FormDesign& design)
-    : application_(application),
-      caption_(design.caption),
-      minimum_width_(design.minimum_width),
-      minimum_height_(design.minimum_height) {
+    : application_(application), caption_(design.caption), minimum_(design.minimum) {
     register_class(design.name, procedure);
     const auto [style, extended] = style_of(design.border);
     CreateWindowExW(extended, design.name, design.caption, style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
@@ -94,7 +91,7 @@ LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARA
     if (!form) return DefWindowProcW(window, message, wparam, lparam);
     if (message == WM_NCDESTROY) {
         // An owner that has closed waits for its windows.
-        PostMessageW(GetWindow(window, GW_OWNER), destroy_message, 0, 0);
+        if (const HWND owner = GetWindow(window, GW_OWNER)) PostMessageW(owner, destroy_message, 0, 0);
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         form->window_ = nullptr;
         // The handler may destroy the form, itself included, so it is moved out of it first.
@@ -110,16 +107,16 @@ LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARA
     return form->guarded([&] { return form->handle_message(message, wparam, lparam); });
 }
 
-LRESULT Form::guarded(const std::function<LRESULT()>& work) {
+LRESULT Form::run_guarded(LRESULT (*work)(void* what), void* what) {
     ++handlers_running_;
     LRESULT result = 0;
     try {
-        result = work();
+        result = work(what);
     } catch (...) {
         application_.report_current_exception(window_);
     }
     --handlers_running_;
-    if (closed_ && !modal_ && handlers_running_ == 0) PostMessageW(window_, destroy_message, 0, 0);
+    if (closed_ && !modal_ && handlers_running_ == 0 && window_) PostMessageW(window_, destroy_message, 0, 0);
     return result;
 }
 
@@ -163,30 +160,14 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_DPICHANGED:
             resolution_changed(HIWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
             return 0;
-        case WM_TIMER: {
-            if (wparam == idle_timer) {
-                KillTimer(window_, idle_timer);
-                tool_tips_.begin();
-                return 0;
-            }
-            const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(wparam));
-            if (timer != timers_.end() && !closed_) (*timer)->tick();
+        case WM_TIMER:
+            timer_has_run(wparam);
             return 0;
-        }
         case WM_COMMAND:
-            if (const auto command = commands_.find(LOWORD(wparam)); !lparam && command != commands_.end()) {
-                command->second->pick();
-                return 0;
-            }
+            if (!lparam && pick_command(LOWORD(wparam))) return 0;
             break;
         case WM_INITMENUPOPUP:
-            if (std::exchange(menu_pictures_stale_, false)) renew_menu_pictures();
-            for (const auto& [id, menu] : commands_) {
-                if (menu->handle() == reinterpret_cast<HMENU>(wparam)) {
-                    raise(menu->on_click);
-                    break;
-                }
-            }
+            menu_opens(reinterpret_cast<HMENU>(wparam));
             return 0;
         case WM_ACTIVATE:
             // A window that is being minimised has lost the focus already; where it was counts when it comes back.
@@ -215,6 +196,30 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     }
     if (const auto result = handle_container_message(message, wparam, lparam)) return *result;
     return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+void Form::timer_has_run(UINT_PTR id) {
+    if (id == idle_timer) {
+        KillTimer(window_, idle_timer);
+        tool_tips_.begin();
+        return;
+    }
+    const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(id));
+    if (timer != timers_.end() && !closed_) (*timer)->tick();
+}
+
+bool Form::pick_command(int id) {
+    const auto command = commands_.find(id);
+    if (command == commands_.end()) return false;
+    command->second->pick();
+    return true;
+}
+
+void Form::menu_opens(HMENU opening) {
+    if (std::exchange(menu_pictures_stale_, false)) renew_menu_pictures();
+    const auto opened = std::find_if(commands_.begin(), commands_.end(),
+                                     [opening](const auto& command) { return command.second->handle() == opening; });
+    if (opened != commands_.end()) raise(opened->second->on_click);
 }
 
 void Form::load() {
@@ -332,6 +337,12 @@ void Form::set_mouse_pointer(PointerShape shape) {
     SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(shape == PointerShape::Hourglass ? IDC_WAIT : IDC_ARROW)));
 }
 
+void Form::drag_by(MouseEvents& surface) {
+    surface.on_mouse_down = [this](const MouseEvent& event) {
+        if (event.button == MouseButton::Left) drag();
+    };
+}
+
 void Form::drag() {
     ReleaseCapture();
     SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
@@ -387,9 +398,8 @@ void Form::pop_up(Menu& menu, const Menu* default_item) {
 
 void Form::pop_up_at(Menu& menu, POINT screen, const Menu* default_item) {
     if (default_item) SetMenuDefaultItem(menu.handle(), static_cast<UINT>(default_item->id()), FALSE);
-    const int id =
-        TrackPopupMenu(menu.handle(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0, window_, nullptr);
-    if (const auto command = commands_.find(id); command != commands_.end()) command->second->pick();
+    pick_command(
+        TrackPopupMenu(menu.handle(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0, window_, nullptr));
 }
 
 }  // namespace quillomat

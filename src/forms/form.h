@@ -10,6 +10,7 @@
 #include "forms/geometry.h"
 #include "forms/picture.h"
 #include "forms/tool_tips.h"
+#include "text/window_size.h"
 
 namespace quillomat {
 
@@ -18,6 +19,7 @@ class Button;
 class Menu;
 class Timer;
 
+/// How a form is shown, by the numbers that the settings hold.
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 
 /// What frames a form and whether the user can change its size.
@@ -35,8 +37,7 @@ struct FormDesign {
     double height = 0;
     FormBorder border = FormBorder::Sizable;
     /// What the user can make it no smaller than by its border, in twips.
-    double minimum_width = 0;
-    double minimum_height = 0;
+    WindowSize minimum{};
 };
 
 /// A top-level window. The object is made when the window is opened and lives until it has closed.
@@ -105,12 +106,16 @@ class Form : public Container, public MouseEvents {
     /// Moves the window, and makes it smaller if need be, so that all of it is in reach of the user.
     void place_on_screen();
 
+    /// How the window is shown; before that, how it will be.
     WindowState window_state() const;
     void set_window_state(WindowState state);
 
+    /// The shape of the pointer over the form and all that stands on it, from now on.
     void set_mouse_pointer(PointerShape shape);
-    /// Lets the user drag the window by its surface, as if by its title bar.
-    void drag();
+    /// Lets the user drag the window by something on it, or by its own surface, as if by its title bar. Takes over the
+    /// mouse presses there.
+    void drag_by(MouseEvents& surface);
+    /// Makes it the window the user works in.
     void bring_to_foreground();
     /// Paints the window and all that stands on it now instead of when the program is idle.
     void refresh();
@@ -140,12 +145,18 @@ class Form : public Container, public MouseEvents {
     using Container::remove;
     /// Gives the focus to a control, at once or when the window is first shown.
     void focus(HWND control);
+    /// A control has got another window: a focus that the form keeps for its next activation goes to that one.
+    void move_last_focus(HWND former, HWND present);
     ToolTips& tool_tips() { return tool_tips_; }
     /// Gives the dialog keys and key events of a message to where they belong; true when it needs nothing further.
     bool translate(MSG& message);
     /// Runs what may raise events: no exception gets out to the system, the user sees its description instead; and the
     /// form stays alive until it is done.
-    LRESULT guarded(const std::function<LRESULT()>& work);
+    template <class Work>
+    LRESULT guarded(Work work) {
+        // Once for every message, so without the memory that a std::function would take.
+        return run_guarded([](void* what) -> LRESULT { return (*static_cast<Work*>(what))(); }, &work);
+    }
     /// Puts the windows it owns in front of it; for its controls when they have got the focus.
     void keep_owned_in_front();
     /// Draws the keyboard cues (focus frame, underlined access keys) from now on.
@@ -157,8 +168,14 @@ class Form : public Container, public MouseEvents {
   private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT run_guarded(LRESULT (*work)(void* what), void* what);
+    void timer_has_run(UINT_PTR id);
+    /// False when no command has this number.
+    bool pick_command(int id);
+    void menu_opens(HMENU opening);
     void load();
     void resized();
+    void drag();
     void set_pixel_size(LONG width, LONG height);
     void limit_sizing(WPARAM edge, RECT& area) const;
     void resolution_changed(int dpi, const RECT& suggested);
@@ -176,8 +193,7 @@ class Form : public Container, public MouseEvents {
     std::wstring caption_;
     Icon small_icon_;
     Icon large_icon_;
-    double minimum_width_;
-    double minimum_height_;
+    WindowSize minimum_;
     HWND window_ = nullptr;
     int dpi_ = 96;
     ToolTips tool_tips_{nullptr};

@@ -115,6 +115,10 @@ void Form::focus(HWND control) {
     if (shown_) SetFocus(control);
 }
 
+void Form::move_last_focus(HWND former, HWND present) {
+    if (last_focus_ == former) last_focus_ = present;
+}
+
 void Form::restore_focus() {
     // The window itself may not be visible yet.
     const auto style = last_focus_ ? GetWindowLongPtrW(last_focus_, GWL_STYLE) : 0;

@@ -113,8 +113,8 @@ void Form::place_on_screen() {
 
 void Form::limit_sizing(WPARAM edge, RECT& area) const {
     // The resize rules of a form would push the border back after the user has pulled it; here it never goes so far.
-    const LONG width = std::max<LONG>(area.right - area.left, to_pixels(minimum_width_, dpi_));
-    const LONG height = std::max<LONG>(area.bottom - area.top, to_pixels(minimum_height_, dpi_));
+    const LONG width = std::max<LONG>(area.right - area.left, to_pixels(minimum_.width, dpi_));
+    const LONG height = std::max<LONG>(area.bottom - area.top, to_pixels(minimum_.height, dpi_));
     const bool pulls_left = edge == WMSZ_LEFT || edge == WMSZ_TOPLEFT || edge == WMSZ_BOTTOMLEFT;
     const bool pulls_top = edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT;
     pulls_left ? area.left = area.right - width : area.right = area.left + width;

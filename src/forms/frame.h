@@ -5,6 +5,7 @@
 
 namespace quillomat {
 
+/// What is drawn around a frame.
 enum class FrameBorder { None, Captioned };
 
 /// A group of items that moves and hides as one, with or without a frame and a caption around it. Its window is the

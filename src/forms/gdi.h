@@ -42,6 +42,37 @@ class Selection {
     HGDIOBJ former_;
 };
 
+/// A device context in memory, for drawing on a bitmap that is selected into it.
+class MemoryCanvas {
+  public:
+    /// `like` is what it is to be compatible with, or null for the screen.
+    explicit MemoryCanvas(HDC like) : canvas_(CreateCompatibleDC(like)) {}
+    ~MemoryCanvas() { DeleteDC(canvas_); }
+    MemoryCanvas(const MemoryCanvas&) = delete;
+    MemoryCanvas& operator=(const MemoryCanvas&) = delete;
+
+    HDC get() const { return canvas_; }
+
+  private:
+    HDC canvas_;
+};
+
+/// The device context of a window, borrowed for measuring.
+class WindowCanvas {
+  public:
+    /// `window` may be null for the screen.
+    explicit WindowCanvas(HWND window) : window_(window), canvas_(GetDC(window)) {}
+    ~WindowCanvas() { ReleaseDC(window_, canvas_); }
+    WindowCanvas(const WindowCanvas&) = delete;
+    WindowCanvas& operator=(const WindowCanvas&) = delete;
+
+    HDC get() const { return canvas_; }
+
+  private:
+    HWND window_;
+    HDC canvas_;
+};
+
 /// The colour as the system wants it, with system colours looked up in the user's theme.
 inline COLORREF resolve(Colour colour) {
     return colour.follows_theme() ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;
@@ -66,27 +97,25 @@ class BufferedCanvas {
         : target_(target),
           area_(area),
           bitmap_(CreateCompatibleBitmap(target, area.right - area.left, area.bottom - area.top)),
-          memory_(CreateCompatibleDC(target)),
-          former_(SelectObject(memory_, bitmap_.get())) {
-        SetWindowOrgEx(memory_, area.left, area.top, nullptr);
+          memory_(target),
+          selected_(memory_.get(), bitmap_.get()) {
+        SetWindowOrgEx(canvas(), area.left, area.top, nullptr);
     }
     ~BufferedCanvas() {
-        BitBlt(target_, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, memory_, area_.left,
+        BitBlt(target_, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, canvas(), area_.left,
                area_.top, SRCCOPY);
-        SelectObject(memory_, former_);
-        DeleteDC(memory_);
     }
     BufferedCanvas(const BufferedCanvas&) = delete;
     BufferedCanvas& operator=(const BufferedCanvas&) = delete;
 
-    HDC canvas() const { return memory_; }
+    HDC canvas() const { return memory_.get(); }
 
   private:
     HDC target_;
     RECT area_;
     GdiObject<HBITMAP> bitmap_;
-    HDC memory_;
-    HGDIOBJ former_;
+    MemoryCanvas memory_;
+    Selection selected_;
 };
 
 }  // namespace quillomat

@@ -45,7 +45,9 @@ class Graphic : public Item {
     std::wstring tool_tip_;
 };
 
+/// Where the lines of a label stand between its edges.
 enum class Alignment { Left, Centre, Right };
+/// Whether a label covers what lies behind it.
 enum class BackStyle { Transparent, Opaque };
 
 /// A painted text. Access keys and screen readers pass it by: the caption of an input is a `StaticLabel`.
@@ -53,10 +55,12 @@ class Label : public Graphic {
   public:
     Label(Container& container, std::wstring caption, Bounds bounds);
 
+    /// The text; it breaks into lines at the width of the label.
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption);
     void set_alignment(Alignment alignment);
     void set_back_style(BackStyle style);
+    /// Shown by an opaque label only.
     Colour back_colour() const { return back_colour_; }
     void set_back_colour(Colour colour);
     Colour fore_colour() const { return fore_colour_; }
@@ -76,6 +80,7 @@ class Label : public Graphic {
     BackStyle back_style_ = BackStyle::Transparent;
 };
 
+/// What is drawn around an image.
 enum class ImageBorder { None, Single };
 
 /// A painted picture, by itself or pressed into a single-line border.
@@ -102,7 +107,6 @@ class Shape : public Graphic {
     Shape(Container& container, Bounds bounds);
 
     void set_border_colour(Colour colour);
-    Colour border_colour() const { return border_colour_; }
     /// Paints the inside too, which is transparent before.
     void set_fill_colour(Colour colour);
 

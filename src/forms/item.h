@@ -24,6 +24,7 @@ class Item : public MouseEvents {
     Container& container() const { return container_; }
     Form& form() const;
 
+    /// Where it stands in its container, and its size, in twips.
     double left() const { return rounded(bounds_.left); }
     double top() const { return rounded(bounds_.top); }
     double width() const { return rounded(bounds_.width); }
@@ -32,12 +33,15 @@ class Item : public MouseEvents {
     void set_top(double twips);
     void set_width(double twips);
     void set_height(double twips);
+    /// Puts it in another place and size: one step instead of four.
     void move(Bounds bounds);
     /// Moves the item by a distance in twips; there and back again is exactly where it was.
     void move_by(double right, double down);
 
+    /// Whether it is shown, as far as its container is.
     bool visible() const { return visible_; }
     void set_visible(bool visible);
+    /// Whether the user can use it.
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
 

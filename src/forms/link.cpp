@@ -24,13 +24,12 @@ Link::Link(Container& container, std::wstring_view caption, double left, double 
 
 void Link::fit_to_caption() {
     const std::wstring text = caption();
-    const HDC canvas = GetDC(window());
     RECT area{};
     {
-        const Selection selected(canvas, form().application().fonts().get(font(), dpi()));
-        DrawTextW(canvas, text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | text_format);
+        const WindowCanvas canvas(window());
+        const Selection selected(canvas.get(), form().application().fonts().get(font(), dpi()));
+        DrawTextW(canvas.get(), text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | text_format);
     }
-    ReleaseDC(window(), canvas);
     // Fonts whose small sizes were drawn by hand can come out a little wider than the system measures them.
     const LONG spare = area.bottom / 2;
     set_width(to_twips(static_cast<int>(area.right + spare) + 2 * margin_pixels, dpi()));

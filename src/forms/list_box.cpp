@@ -102,18 +102,17 @@ int ListBox::item_from_point(int x, int y) const {
 }
 
 void ListBox::fit_scroll_range() {
-    const HDC canvas = GetDC(window());
     LONG widest = 0;
     {
-        const Selection font(canvas, reinterpret_cast<HFONT>(send(WM_GETFONT)));
+        const WindowCanvas canvas(window());
+        const Selection font(canvas.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
         for (int index = 0; index < count(); ++index) {
             const std::wstring text = item(index);
             SIZE size{};
-            GetTextExtentPoint32W(canvas, text.c_str(), static_cast<int>(text.size()), &size);
+            GetTextExtentPoint32W(canvas.get(), text.c_str(), static_cast<int>(text.size()), &size);
             widest = std::max(widest, size.cx);
         }
     }
-    ReleaseDC(window(), canvas);
     constexpr LONG margin = 4;
     send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + margin));
 }

@@ -14,12 +14,16 @@ namespace quillomat {
 /// cursor, where each click or Space picks a text or takes it back.
 class ListBox : public Control {
   public:
+    /// How many texts the user can select at a time.
     enum class Picking { One, Several };
 
     ListBox(Container& container, Bounds bounds, Picking picking = Picking::One);
 
+    /// How many texts there are.
     int count() const;
+    /// Removes all texts.
     void clear();
+    /// Adds a text at the end. Throws `Error` with OutOfMemory when the list takes no more.
     void add(std::wstring_view text);
     /// Keeps the list from painting while many texts are added.
     class Filling {

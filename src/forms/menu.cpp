@@ -28,11 +28,7 @@ Menu::Menu(Form& form, std::wstring caption)
     : form_(form), handle_(CreatePopupMenu()), id_(form_.add_command(*this)), caption_(std::move(caption)) {}
 
 Menu::Menu(Menu& parent, std::wstring caption, Ampersands ampersands)
-    : form_(parent.form_),
-      parent_(&parent),
-      id_(form_.add_command(*this)),
-      caption_(std::move(caption)),
-      ampersands_(ampersands) {
+    : form_(parent.form_), id_(form_.add_command(*this)), caption_(std::move(caption)), ampersands_(ampersands) {
     parent.become_submenu();
     attach(parent.handle_);
 }

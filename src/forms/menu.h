@@ -50,13 +50,16 @@ class Menu {
     /// An entry was picked, or a menu is about to open.
     std::function<void()> on_click;
 
+    /// The text of the entry, in which "&" stands before the access key unless ampersands are shown.
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption);
+    /// Whether a check mark stands beside it.
     bool checked() const { return checked_; }
     void set_checked(bool checked);
+    /// Whether the user can pick it.
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
-    /// The pictures shown beside the entry, without and with its check mark.
+    /// The pictures shown beside the entry, without and with its check mark, from the next opening of a menu on.
     void set_pictures(const Picture& unchecked, const Picture& checked);
 
     // For the toolkit.
@@ -76,7 +79,6 @@ class Menu {
     void update(const MENUITEMINFOW& info) const;
 
     Form& form_;
-    Menu* parent_ = nullptr;
     HMENU container_ = nullptr;  // the menu this is an entry of
     HMENU handle_ = nullptr;     // the menu of its own entries
     int id_;

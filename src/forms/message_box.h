@@ -6,8 +6,11 @@
 
 namespace quillomat {
 
+/// The answers a message box offers.
 enum class MessageButtons { Ok, OkCancel, YesNo };
+/// The sign beside its text.
 enum class MessageIcon { None, Critical, Question, Information };
+/// The user's answer; closing the box is `Cancel`, or `Ok` where nothing else is offered.
 enum class MessageAnswer { Ok, Cancel, Yes, No };
 
 /// A message box: its text, its title and what it offers.

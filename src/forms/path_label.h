@@ -10,6 +10,7 @@ class PathLabel : public Control {
   public:
     PathLabel(Container& container, Bounds bounds);
 
+    /// The whole path.
     std::wstring caption() const { return window_text(); }
     void set_caption(const std::wstring& path);
 

@@ -30,14 +30,13 @@ GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
     void* bits = nullptr;
     GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!bitmap) return bitmap;
-    const HDC memory = CreateCompatibleDC(nullptr);
     {
-        const Selection selected(memory, bitmap.get());
+        const MemoryCanvas memory(nullptr);
+        const Selection selected(memory.get(), bitmap.get());
         const RECT area{0, 0, pixels, pixels};
-        fill(memory, area, background);
-        draw(memory, area);
+        fill(memory.get(), area, background);
+        draw(memory.get(), area);
     }
-    DeleteDC(memory);
     GdiFlush();
     // Menus that do blend find every pixel opaque, instead of taking the background's unset alpha for transparent.
     constexpr std::uint32_t opaque = 0xFF000000;

@@ -40,9 +40,8 @@ void PictureBox::take_pixels(int size) {
     pixels_background_.value = background;
     const GdiObject<HBITMAP> bitmap = picture_.bitmap(size, back_colour());
     BITMAPINFO format = pixel_format(size);
-    const HDC screen = GetDC(nullptr);
-    GetDIBits(screen, bitmap.get(), 0, static_cast<UINT>(size), pixels_.pixels.data(), &format, DIB_RGB_COLORS);
-    ReleaseDC(nullptr, screen);
+    const WindowCanvas screen(nullptr);
+    GetDIBits(screen.get(), bitmap.get(), 0, static_cast<UINT>(size), pixels_.pixels.data(), &format, DIB_RGB_COLORS);
 }
 
 void PictureBox::draw(const DRAWITEMSTRUCT& request) {

@@ -15,7 +15,6 @@ class PictureBox : public Control {
     /// Draws the picture this wide about the middle of the box, as a part of its full width from -1 to 1; a negative
     /// one mirrors it.
     void set_width_factor(double factor);
-    double width_factor() const { return width_factor_; }
 
     void draw(const DRAWITEMSTRUCT& request) override;
 

@@ -7,6 +7,7 @@
 
 namespace quillomat {
 
+/// What a text box is for.
 enum class TextBoxKind {
     SingleLine,
     /// Several lines to be edited; lines stay as long as they are.
@@ -32,9 +33,11 @@ class TextBox : public Control {
     std::function<void()> on_change;
 
     std::wstring text() const { return window_text(); }
+    /// Sets the text, in which a NUL becomes a blank, and raises the change.
     void set_text(std::wstring_view text);
     bool empty() const { return GetWindowTextLengthW(window()) == 0; }
 
+    /// What is selected; without a selection, where the caret is.
     std::size_t selection_start() const;
     std::size_t selection_length() const;
     std::wstring selected_text() const;

@@ -9,17 +9,21 @@ class Form;
 /// Raises an event again and again while it is enabled. It ends with its form.
 class Timer {
   public:
+    /// Whether a timer ticks.
     enum class State { Disabled, Enabled };
 
+    /// The form must outlive the timer.
     Timer(Form& form, int milliseconds, State state = State::Enabled);
     ~Timer();
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
 
+    /// The time has passed once more.
     std::function<void()> on_timer;
 
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
+    /// The time between two events; the present one begins anew.
     void set_interval(int milliseconds);
 
     /// Raises the event, unless its handler is still running below a dialog; for the toolkit.

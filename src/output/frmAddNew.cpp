@@ -42,8 +42,7 @@ frmAddNew::frmAddNew(Application& application, Session& session, ViewerLink& vie
                          .caption = L"Add New Game",
                          .width = 5715,
                          .height = 4320,
-                         .minimum_width = add_game_minimum_size.width,
-                         .minimum_height = add_game_minimum_size.height}),
+                         .minimum = add_game_minimum_size}),
       session_(session),
       viewer_(viewer) {
     bind();
@@ -56,9 +55,7 @@ void frmAddNew::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     on_mouse_move = [this](const MouseEvent& event) { Form_MouseMove(event); };
     Text1.on_change = [this] { UpdateAddButton(); };
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
@@ -83,11 +80,7 @@ void frmAddNew::bind_hover_help() {
     hover_help_.on_shown = [this](Control& button, const MouseEvent& event) {
         show_help_box(&button == cmdButton[add_button] ? add_button : cancel_button, event.x, event.y);
     };
-    // The help box never keeps the focus.
-    Text3.on_got_focus = [this] {
-        Text3.set_visible(false);
-        cmdButton[add_button]->set_focus();
-    };
+    hover_help_.pass_focus_to(*cmdButton[add_button]);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 

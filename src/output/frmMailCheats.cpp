@@ -45,8 +45,7 @@ frmMailCheats::frmMailCheats(Application& application, Session& session, GamesTo
                          .caption = L"Mail Cheat Codes to a friend",
                          .width = 9600,
                          .height = 6900,
-                         .minimum_width = minimum_size.width,
-                         .minimum_height = minimum_size.height}),
+                         .minimum = minimum_size}),
       session_(session),
       games_(std::move(games)) {
     List2.set_visible(false);
@@ -93,11 +92,7 @@ void frmMailCheats::bind_hover_help() {
     hover_help_.add(Command1, L"Send E-mail!");
     hover_help_.add(Command2, L"Cancel E-mail");
     hover_help_.keep_above_pointer();
-    // The help box never keeps the focus.
-    Text5.on_got_focus = [this] {
-        Text5.set_visible(false);
-        (Command1.enabled() ? Command1 : Command2).set_focus();
-    };
+    hover_help_.pass_focus_to(Command1, Command2);
     Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 

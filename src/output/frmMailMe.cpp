@@ -22,8 +22,7 @@ frmMailMe::frmMailMe(Application& application, Session& session)
                          .caption = L"Mail me!",
                          .width = settings::frmMailMeWidth.fallback,
                          .height = settings::frmMailMeHeght.fallback,
-                         .minimum_width = minimum_size.width,
-                         .minimum_height = minimum_size.height}),
+                         .minimum = minimum_size}),
       session_(session) {
     Label6.set_visible(false);
     bind();
@@ -35,9 +34,7 @@ void frmMailMe::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Combo1.on_change = [this] { UpdateSendButton(); };
     Combo1.on_key_down = [this](KeyEvent& event) { Combo1_KeyDown(event); };
     keep_line_count(lines_);
@@ -53,11 +50,7 @@ void frmMailMe::bind_hover_help() {
     hover_help_.add(Command1, L"Click here to send the message(to me!)");
     hover_help_.add(Command2, L"Click here to cancel the message (too bad)");
     hover_help_.keep_above_pointer();
-    // The help box never keeps the focus.
-    Text2.on_got_focus = [this] {
-        Text2.set_visible(false);
-        (Command1.enabled() ? Command1 : Command2).set_focus();
-    };
+    hover_help_.pass_focus_to(Command1, Command2);
     Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 

@@ -44,9 +44,7 @@ frmPrintGames::frmPrintGames(Application& application, Session& session, ListedG
 void frmPrintGames::bind() {
     on_load = [this] { Form_Load(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Option1.on_click = [this] { Option1_Click(); };
     Option2.on_click = [this] { Option2_Click(); };
     Command1.on_click = [this] { Command1_Click(); };
@@ -74,11 +72,7 @@ void frmPrintGames::bind_hover_help() {
     hover_help_.on_shown = [this](Control& button, const MouseEvent&) {
         Text4.move({button.left(), button.top() + button.height() + help_below_button, Text4.width(), Text4.height()});
     };
-    // The help box never keeps the focus.
-    Text4.on_got_focus = [this] {
-        Text4.set_visible(false);
-        Command1.set_focus();
-    };
+    hover_help_.pass_focus_to(Command1);
     Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 

@@ -18,8 +18,7 @@ namespace quillomat {
 namespace {
 
 constexpr double designed_width = 8100;
-constexpr double smallest_width = 6900;
-constexpr double smallest_height = 4200;
+constexpr WindowSize smallest_size{6900, 4200};
 
 constexpr double margin = 120;
 constexpr double label_height = 225;
@@ -33,9 +32,8 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
     : Form(application, {.name = L"frmSave",
                          .caption = L"Save",
                          .width = designed_width,
-                         .height = smallest_height,
-                         .minimum_width = smallest_width,
-                         .minimum_height = smallest_height}),
+                         .height = smallest_size.height,
+                         .minimum = smallest_size}),
       session_(session),
       viewer_(viewer) {
     bind();
@@ -49,9 +47,7 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
 void frmSave::bind() {
     on_load = [this] { Form_Load(); };
     on_resize = [this] { Form_Resize(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Drive1.on_change = [this] { Drive1_Change(); };
     Dir1.on_change = [this] { Dir1_Change(); };
     File1.on_click = [this] { File1_Click(); };
@@ -64,11 +60,7 @@ void frmSave::bind_hover_help() {
     hover_help_.add(Command1, L"Save cheat codes");
     hover_help_.add(Command2, L"Cancel save");
     hover_help_.on_shown = [this](Control& button, const MouseEvent&) { place_help_box(button); };
-    // The help box never keeps the focus.
-    Text2.on_got_focus = [this] {
-        Text2.set_visible(false);
-        Command1.set_focus();
-    };
+    hover_help_.pass_focus_to(Command1);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 

@@ -67,11 +67,7 @@ void Dialog1::bind_hover_help() {
     hover_help_.add(cmdButton[1], L"Click here to hide the links again");
     hover_help_.add(cmdButton[2], L"Click here to go back to the main screen");
     hover_help_.keep_above_pointer();
-    // The help box never keeps the focus.
-    HelpBox.on_got_focus = [this] {
-        HelpBox.set_visible(false);
-        cmdButton[2].set_focus();
-    };
+    hover_help_.pass_focus_to(cmdButton[2]);
     Timer3.on_timer = [this] { hover_help_.tick(); };
 }
 

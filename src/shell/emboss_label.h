@@ -8,6 +8,7 @@ namespace quillomat {
 
 class Label;
 
+/// From which side the light falls.
 enum class EmbossStyle { Raised = 1, PressedIn = 2 };
 
 /// Makes a text look raised or pressed in: it stands in `main`, with a grey copy of it `depth` pixels to the lower

@@ -75,11 +75,7 @@ void frmAbout::bind_hover_help() {
     hover_help_.add(cmdButton[0], L"Click here to go back to the main screen");
     hover_help_.add(cmdButton[1], L"Click here to start MS System Info");
     hover_help_.keep_above_pointer();
-    // The help box never keeps the focus.
-    Text1.on_got_focus = [this] {
-        Text1.set_visible(false);
-        cmdButton[0].set_focus();
-    };
+    hover_help_.pass_focus_to(cmdButton[0]);
     Timer3.on_timer = [this] { hover_help_.tick(); };
 }
 

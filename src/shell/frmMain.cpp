@@ -65,9 +65,7 @@ void frmMain::bind() {
     on_unload = [this] { raise(windows_.close_all); };
     for (MouseEvents* surface :
          std::initializer_list<MouseEvents*>{this, &Frame1, &Picture1, &Name, &Subtitle, &Command7, &Command9}) {
-        surface->on_mouse_down = [this](const MouseEvent& event) {
-            if (event.button == MouseButton::Left) drag();
-        };
+        drag_by(*surface);
     }
     Image1.on_double_click = [this] { raise(windows_.mail_author); };
 
@@ -123,11 +121,7 @@ void frmMain::bind_hover_help() {
         };
     }
     hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
-    // The help box never keeps the focus.
-    Text1.on_got_focus = [this] {
-        Text1.set_visible(false);
-        Command4.set_focus();
-    };
+    hover_help_.pass_focus_to(Command4);
     Timer6.on_timer = [this] { Timer6_Timer(); };
     Timer7.on_timer = [this] { Timer7_Timer(); };
 }

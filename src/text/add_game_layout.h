@@ -4,6 +4,7 @@
 
 namespace quillomat {
 
+/// What the window for adding a game is no smaller than.
 inline constexpr WindowSize add_game_minimum_size{5715, 3960};
 
 /// Where the controls of the window for adding a game stand, in twips.

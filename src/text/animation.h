@@ -37,6 +37,7 @@ struct ColourCycle {
     bool operator==(const ColourCycle&) const = default;
 };
 
+/// The cycle one tick after `step`.
 ColourCycle next_colour_cycle(int step);
 
 /// The main screen's exit confirmation while it grows out of the exit button, in twips.

@@ -6,8 +6,7 @@
 
 namespace quillomat {
 
-// The author's pages and mail address as the user's desktop opens them.
-
+/// The author's pages and mail address as the user's desktop opens them.
 std::wstring web_site_link();
 std::wstring guestbook_link();
 std::wstring downloads_link();

@@ -11,6 +11,7 @@ namespace quillomat {
 /// How often characters occur in the texts that are searched, judged by a sample of them.
 class CharacterFrequencies {
   public:
+    /// Counts a text in.
     void add(std::wstring_view text);
     /// Comparable with that of another character only. Characters far apart may share a figure.
     std::uint32_t frequency(wchar_t character) const { return counts_[class_of(character)]; }
@@ -31,6 +32,7 @@ class KeywordFinder {
     /// large enough that little is spent between blocks, small enough that a false alarm in one costs little.
     static constexpr std::size_t readable_beyond = 256 / sizeof(wchar_t);
 
+    /// The frequencies are those of the texts to be searched; wrong ones make it slow, not wrong.
     KeywordFinder(std::wstring_view keyword, const CharacterFrequencies& frequencies);
 
     /// Whether the keyword occurs in `text`; an empty one occurs everywhere. At least `readable_beyond` characters

@@ -22,6 +22,7 @@ struct MailedGame {
 /// The cheats of several games, each below its name in a frame of asterisks.
 std::wstring mailed_cheats(const std::vector<MailedGame>& games);
 
+/// The subject of a mail with cheats, by the names of the two.
 std::wstring cheats_mail_subject(std::wstring_view sender, std::wstring_view recipient);
 /// The text of a mail whose cheats are in an attachment: the message and where it all comes from.
 std::wstring cheats_mail_body(std::wstring_view message);
@@ -41,6 +42,7 @@ inline constexpr const wchar_t* canned_subjects[] = {
     L"Quillomat sucks!",         L"Is this the best you got?",
 };
 
+/// The subject under which the author gets a message.
 std::wstring author_mail_subject(std::wstring_view subject);
 
 }  // namespace quillomat

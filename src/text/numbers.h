@@ -24,6 +24,7 @@ std::wstring sign_position_text(int number);
 /// The value of the integer a text begins with, after blanks and an optional sign; 0 when it begins with none. Values
 /// beyond plus or minus `leading_value_limit` come out as that limit, so that two of them can be subtracted safely.
 std::int64_t leading_value(std::wstring_view text);
+/// The largest value that `leading_value` gives.
 inline constexpr std::int64_t leading_value_limit = 4'000'000'000'000'000'000;
 
 /// The sum as a 16-bit integer. Throws `Error` with Overflow when it does not fit.

@@ -22,6 +22,7 @@ std::vector<std::wstring> printed_lines(std::wstring_view text, const FittingLen
 class LineFlow {
   public:
     enum class Page { Same, Next };
+    /// Where a line stands: on the page of the one before or on the next page, and how far down.
     struct Place {
         Page page;
         int top;
@@ -29,6 +30,7 @@ class LineFlow {
         bool operator==(const Place&) const = default;
     };
 
+    /// Lines of one height on pages of one height.
     LineFlow(int page_height, int line_height) : page_height_(page_height), line_height_(line_height) {}
 
     /// Where the next line goes on this page, and the first one on all further pages.

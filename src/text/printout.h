@@ -12,6 +12,7 @@ namespace quillomat {
 /// What is printed of one game: its name, its cheats and where the program comes from.
 std::wstring cheats_printout(std::wstring_view name, std::wstring_view cheats);
 
+/// What stands above the list of games, and what the print queue calls it.
 inline constexpr std::wstring_view game_list_heading = L"List of Games";
 
 /// What is printed of the list of games below its heading.

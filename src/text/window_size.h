@@ -17,6 +17,7 @@ struct WindowSize {
 /// Lengths are compared in whole pixels, because a window set to its minimum may read back half a pixel smaller.
 std::optional<WindowSize> corrected_size(const WindowSize& actual, const WindowSize& minimum, double twips_per_pixel);
 
+/// What the viewer is no smaller than.
 inline constexpr WindowSize viewer_minimum_size{5970, 5340};
 
 /// The sizes of the viewer's controls that follow the size of its window, in twips.
@@ -28,6 +29,7 @@ struct ViewerLayout {
     double search_panel_height = 0;
 };
 
+/// The layout for the outer size of the window.
 ViewerLayout viewer_layout(const WindowSize& window);
 
 }  // namespace quillomat

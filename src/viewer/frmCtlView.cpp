@@ -32,8 +32,7 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
                          .caption = L"Cheat Codes!",
                          .width = 8925,
                          .height = 6660,
-                         .minimum_width = viewer_minimum_size.width,
-                         .minimum_height = viewer_minimum_size.height}),
+                         .minimum = viewer_minimum_size}),
       Image1(*this, Picture(PICTURE_COLOUR), {colour_image_left, 30, picture_button_size, picture_button_size}),
       session_(session),
       windows_(windows) {
@@ -66,9 +65,7 @@ void frmCtlView::bind() {
     on_resize = [this] { Form_Resize(); };
     on_unload = [this] { Form_Unload(); };
     on_mouse_move = [this](const MouseEvent&) { tidy_image_bar(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
     for (Control* control :
          std::initializer_list<Control*>{&Option1, &Option2, &Text3, &Command1, &Option3, &Option4}) {
@@ -96,11 +93,7 @@ void frmCtlView::bind_hover_help() {
         control->on_mouse_move = [this, control](const MouseEvent& event) { place_help_box(*control, event); };
     }
     hover_help_.on_shown = [this](Control& control, const MouseEvent& event) { place_help_box(control, event); };
-    // The help box never keeps the focus.
-    Text4.on_got_focus = [this] {
-        Text4.set_visible(false);
-        Text1.set_focus();
-    };
+    hover_help_.pass_focus_to(Text1);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 

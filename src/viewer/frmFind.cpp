@@ -29,9 +29,7 @@ frmFind::frmFind(Application& application, FindState& state, Form& searched, Tex
 void frmFind::bind() {
     on_load = [this] { Form_Load(); };
     on_unload = [this] { Form_Unload(); };
-    on_mouse_down = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Left) drag();
-    };
+    drag_by(*this);
     txtFind.on_change = [this] { txtFind_Change(); };
     txtFind.on_got_focus = [this] { txtFind.select(0, txtFind.text().size()); };
     chkCase.on_click = [this] { state_.gFindCase = chkCase.value() ? 1 : 0; };

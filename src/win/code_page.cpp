@@ -14,7 +14,7 @@ namespace {
 
 static_assert(system_code_page == CP_ACP);
 
-/// Bytes that are decoded in one call: the processor still has them at hand. More than the system counts are too many.
+/// Bytes that are decoded in one call: so few that the processor still has them at hand, and the system can count them.
 constexpr std::size_t block_size = std::size_t{1} << 18;
 /// Characters whose bytes can surely be counted in an int.
 constexpr std::size_t most_encoded = std::numeric_limits<int>::max() / 4;

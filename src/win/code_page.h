@@ -11,13 +11,15 @@ namespace quillomat {
 /// Stands for the code page that the system is set to, in which the program's text files are.
 inline constexpr unsigned system_code_page = 0;
 
-/// The characters of a text in a code page. Bytes that mean nothing there become some character.
+/// The characters of a text in a code page. Bytes that mean nothing there become some character. Throws
+/// `std::bad_alloc` when there is no room for them, and `Error` when the system does not know the code page.
 DecodedText decode(std::string_view bytes, unsigned code_page = system_code_page);
 
 /// Decodes a text that comes in pieces, such as a file that is read block by block.
 class Decoder {
   public:
-    /// A decoder for at most `most_bytes`.
+    /// A decoder for at most `most_bytes`, for which it takes the room at once. Throws as `decode` does, as do the
+    /// others.
     explicit Decoder(std::size_t most_bytes, unsigned code_page = system_code_page);
 
     /// Decodes the next bytes but for the last ones, where a character may be that has not come to its end; they must

@@ -5,14 +5,15 @@
 
 namespace quillomat {
 
+/// What a drive is.
 enum class DriveKind { Fixed, Removable, Optical, Network, Memory };
 
 /// A drive of the system.
 struct Drive {
     std::wstring root;  ///< such as "C:\"
     DriveKind kind = DriveKind::Fixed;
-    std::wstring
-        label;  ///< the name its disk was given; known of fixed disks only, because the others may have to start
+    /// The name its disk was given; known of fixed disks only, because the others may have to start.
+    std::wstring label;
 
     bool operator==(const Drive&) const = default;
 };

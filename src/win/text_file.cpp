@@ -11,7 +11,7 @@
 namespace quillomat {
 namespace {
 
-/// Bytes of the largest file that is read. No text is larger, and reading takes three times as much memory.
+/// Bytes of the largest file that is read. No text is larger, and its characters take twice as much memory.
 constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
 
 /// Bytes that are read at once.

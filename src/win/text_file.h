@@ -15,6 +15,7 @@ bool file_exists(const std::wstring& path);
 /// A load that fails in the middle keeps it for the rest of the run; every later use then throws FileAlreadyOpen.
 class TextFileSlot {
   public:
+    /// Whether a file is open, by a load that goes on or has failed.
     bool is_open() const { return static_cast<bool>(file_); }
 
     /// Throws `Error`: FileAlreadyOpen when the slot is in use, else what the system says (FileNotFound, PathNotFound,
