@@ -10,7 +10,7 @@ namespace quillomat {
 namespace {
 
 std::wstring text_of(const Drive& drive) {
-    const std::wstring letter = drive.root.substr(0, 2);
+    std::wstring letter = drive.root.substr(0, 2);
     switch (drive.kind) {
         case DriveKind::Fixed:
             return drive.label.empty() ? letter : letter + L" [" + drive.label + L"]";

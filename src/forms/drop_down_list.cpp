@@ -50,7 +50,7 @@ void DropDownList::report_change() {
 }
 
 void DropDownList::fit_field() {
-    constexpr WPARAM field = static_cast<WPARAM>(-1);
+    constexpr auto field = static_cast<WPARAM>(-1);
     send(CB_SETITEMHEIGHT, field, to_pixels(exact_bounds().height, dpi()) - frame_pixels);
 }
 

@@ -17,6 +17,7 @@ struct FontSpec {
     bool italic = false;
     bool underline = false;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): it means the zero in the comparison that the compiler makes.
     friend auto operator<=>(const FontSpec&, const FontSpec&) = default;
 };
 

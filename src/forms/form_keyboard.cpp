@@ -72,7 +72,7 @@ bool Form::handle_dialog_key(const MSG& message) {
             return true;
         case VK_RETURN: {
             if (wanted & DLGC_WANTALLKEYS) return false;
-            Button* button = dynamic_cast<Button*>(Control::from(message.hwnd));
+            auto* button = dynamic_cast<Button*>(Control::from(message.hwnd));
             if (!button) button = default_button_;
             if (!button) return false;
             // A key held down presses one button, not also those of the windows that open meanwhile.

@@ -8,14 +8,13 @@
 namespace quillomat {
 
 ListBox::ListBox(Container& container, Bounds bounds, Picking picking)
-    : ListBox(container, bounds, picking == Picking::Several ? DWORD{LBS_MULTIPLESEL | WS_HSCROLL} : 0) {
-    picking_ = picking;
-}
+    : ListBox(container, bounds, picking == Picking::Several ? DWORD{LBS_MULTIPLESEL | WS_HSCROLL} : 0) {}
 
 ListBox::ListBox(Container& container, Bounds bounds, DWORD further_style)
     : Control(container, bounds, L"LISTBOX", {},
               LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP | further_style,
-              WS_EX_CLIENTEDGE) {
+              WS_EX_CLIENTEDGE),
+      picking_(further_style & LBS_MULTIPLESEL ? Picking::Several : Picking::One) {
     set_default_back_colour(colours::window);
 }
 
@@ -114,7 +113,8 @@ void ListBox::fit_scroll_range() {
         }
     }
     constexpr LONG margin = 4;
-    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + margin));
+    widest += margin;
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest));
 }
 
 void ListBox::resolution_changed() {

@@ -76,7 +76,7 @@ class ListBox : public Control {
   private:
     std::optional<int> find(std::wstring_view text) const;
 
-    Picking picking_ = Picking::One;
+    Picking picking_;
     bool told_of_change_ = false;
 };
 

@@ -40,7 +40,7 @@ void Timer::tick() {
     if (!enabled_ || running_) return;
     struct Running {
         bool& flag;
-        explicit Running(bool& which) : flag(which) { flag = true; }
+        explicit Running(bool& running) : flag(running) { running = true; }
         ~Running() { flag = false; }
     } running(running_);
     raise(on_timer);

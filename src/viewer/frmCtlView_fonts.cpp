@@ -145,6 +145,7 @@ void frmCtlView::QuickSort(int lower, int upper) {
     const auto& entries = menus.mnuFontName;
     // Sorted apart from the menu, in which an entry must be searched for to change it.
     std::vector<std::wstring> captions;
+    captions.reserve(entries.size());
     for (const auto& entry : entries) captions.push_back(entry->caption());
     const auto at = [&captions](int index) -> std::wstring& { return captions[static_cast<std::size_t>(index)]; };
     quick_sort(

@@ -55,7 +55,7 @@ std::wstring_view first_character(std::wstring_view text) {
 
 unsigned code_point(std::wstring_view character) {
     if (character.size() == 1) return character[0];
-    return 0x10000u + ((character[0] - 0xD800u) << 10) + (character[1] - 0xDC00u);
+    return 0x10000U + ((character[0] - 0xD800U) << 10) + (character[1] - 0xDC00U);
 }
 
 [[noreturn]] void refuse(std::wstring_view character) {

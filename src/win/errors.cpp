@@ -11,7 +11,7 @@ std::wstring system_description(DWORD code) {
     DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text,
                                   static_cast<DWORD>(std::size(text)), nullptr);
     while (length > 0 && text[length - 1] <= L' ') --length;
-    return std::wstring(text, length);
+    return {text, length};
 }
 
 }  // namespace
