@@ -282,11 +282,7 @@ TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItClosesEvenInAMenu
 TEST_F(FormsTest, ATextKeepsItsColourWhereItCanBeRead) {
     constexpr Colour link{0xFF0000};
     constexpr Colour pointed_at{0xFF8080};
-    const struct {
-        Colour text;
-        Colour background;
-        Colour expected;
-    } cases[] = {
+    const std::tuple<Colour, Colour, Colour> cases[] = {
         {link, rgb(244, 244, 244), link},
         {colours::black, pointed_at, colours::black},
         {{0x800080}, {0xFFC0FF}, {0x800080}},

@@ -105,11 +105,7 @@ TEST_F(MailCheatsTest, ANameFindsTheFirstGameThatHasIt) {
 
 TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {
     const Calls all{"MAPILogon dialog", "MAPISendMailW to one file", "MAPILogoff"};
-    const struct {
-        const wchar_t* call;
-        const wchar_t* why;
-        Calls expected_calls;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, Calls> cases[] = {
         {L"MAPILogon=1", L": you cancelled it.", {"MAPILogon dialog"}},
         {L"MAPISendMailW=1", L": you cancelled it.", all},
         {L"MAPISendMailW=14", L": your mail program does not accept the e-mail address. Check how it is written.", all},
