@@ -4,8 +4,6 @@
 #include <objbase.h>
 #include <shlobj.h>
 
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <stdexcept>
 
@@ -24,14 +22,8 @@ constexpr char added_game[] = "my own cheat\r\n$$$$$$$$$$$$$$$$$$$$ My own game\
 /// Holds what is handed out in app/, and the packages of it and of a later release in now/ and newer/.
 fs::path packages;
 
-std::string bytes_of(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 void append(const fs::path& path, std::string_view bytes) {
-    std::ofstream(path, std::ios::binary | std::ios::app)
-        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    write_bytes(path, bytes, std::ios::app);
 }
 
 std::set<std::wstring> names_in(const fs::path& folder) {

@@ -1,6 +1,6 @@
 // The about box and the dialog about the author as a user meets them.
 
-#include "registry_override.h"
+#include "registry_support.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
 #include "support.h"

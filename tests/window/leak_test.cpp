@@ -8,13 +8,13 @@
 #include "metafile_printer.h"
 #include "object_counts.h"
 #include "open_forms.h"
+#include "registry_support.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmWait.h"
 #include "shell/windows.h"
 #include "support.h"
-#include "temporary.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {

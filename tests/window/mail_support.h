@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "registry_override.h"
+#include "registry_support.h"
 #include "session_support.h"
 
 namespace quillomat {

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "registry_override.h"
+#include "registry_support.h"
 #include "text/error.h"
 #include "win/system_information.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "common/session.h"
+#include "registry_support.h"
 #include "support.h"
-#include "temporary.h"
 
 namespace quillomat {
 

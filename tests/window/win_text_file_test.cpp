@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "temporary.h"
+#include "registry_support.h"
 #include "text/error.h"
 #include "win/handle.h"
 
