@@ -8,8 +8,7 @@
 namespace quillomat {
 namespace {
 
-class AboutTest : public WindowTest {
-  protected:
+struct AboutTest : WindowTest {
     void open() {
         open_in(about, pointer, std::int16_t{1});
         ASSERT_SOON(IsWindowVisible(about->window()) && GetFocus());

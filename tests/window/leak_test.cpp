@@ -2,19 +2,15 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
 
-#include "common/session.h"
 #include "metafile_printer.h"
 #include "object_counts.h"
-#include "open_forms.h"
-#include "registry_support.h"
+#include "session_support.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmWait.h"
 #include "shell/windows.h"
-#include "support.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {
@@ -26,14 +22,13 @@ int soak_factor() {
     return factor ? std::max(1, std::atoi(factor)) : 1;
 }
 
-class LeakTest : public WindowTest {
-  protected:
+struct LeakTest : SessionTest {
     LeakTest() {
-        session.program_folder = folder.path().wstring();
-        session.settings = registry.settings();
         session.open_printer = [this] { return std::make_unique<MetafilePrinter>(printed); };
-        std::ofstream database(folder.path() / "Cheats.dat", std::ios::binary);
-        for (int i = 0; i < 500; ++i) database << "Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Game " << i << "\r\n";
+        std::string database;
+        for (int i = 0; i < 500; ++i)
+            database += "Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Game " + std::to_string(i) + "\r\n";
+        write("Cheats.dat", database);
     }
 
     /// Does it again and again and expects that the process holds no more than before then.
@@ -50,9 +45,6 @@ class LeakTest : public WindowTest {
         EXPECT_LT(allocated_bytes(), bytes + noise) << what;
     }
 
-    TemporaryFolder folder;
-    TemporarySettings registry;
-    Session session;
     Printed printed;
     ViewerWindows no_windows;
     PointerState pointer;

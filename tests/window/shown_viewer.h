@@ -10,8 +10,7 @@
 namespace quillomat {
 
 /// A database in a folder of its own, opened in a real viewer, for the windows that work on what the viewer shows.
-class ShownViewerTest : public SessionTest {
-  protected:
+struct ShownViewerTest : SessionTest {
     void open_viewer(std::string_view database) {
         write("Cheats.dat", database);
         open_viewer();

@@ -14,8 +14,7 @@ constexpr char database[] =
     "\xC9t\xE9 code\r\n$$$$$$$$$$$$$$$$$$$$ Super MARIO\r\n"
     "last\r\n$$$$$$$$$$$$$$$$$$$$ beta\r\n";
 
-class ViewerTest : public ShownViewerTest {
-  protected:
+struct ViewerTest : ShownViewerTest {
     ViewerTest() { write("Cheats.dat", database); }
 };
 

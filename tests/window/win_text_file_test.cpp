@@ -28,8 +28,7 @@ std::optional<ErrorCode> error_of(const std::function<void()>& something) {
 }
 
 /// A folder of its own for every test, where files are looked at byte by byte.
-class TextFile : public testing::Test {
-  protected:
+struct TextFile : testing::Test {
     ~TextFile() override {
         slot_.close();
         for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
