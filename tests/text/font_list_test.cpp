@@ -36,7 +36,7 @@ TEST(FontList, ReadsWhatCanNameAFontAndWritesOneToALine) {
     EXPECT_EQ(font_list_text({L"", L"Arial", L"Tahoma"}), L"Arial\r\nTahoma\r\n");
 }
 
-TEST(FontCollection, FillsTheBarWithoutPassingItsEnd) {
+TEST(FontCollection, FillsItsBarBelowTheViewerWhereThereIsRoom) {
     const std::tuple<int, int, CollectionProgress> cases[] = {
         {0, 0, {0, 0}},
         {2, 3, {5850, 66}},
@@ -47,9 +47,7 @@ TEST(FontCollection, FillsTheBarWithoutPassingItsEnd) {
     for (const auto& [collected, count, progress] : cases) {
         EXPECT_EQ(collection_progress(collected, count), progress) << collected << " of " << count;
     }
-}
 
-TEST(FontCollection, StandsBelowTheViewerWhereThereIsRoom) {
     EXPECT_EQ(progress_window_top(10520, 900, 11520), 10620);
     EXPECT_EQ(progress_window_top(10521, 900, 11520), 10520);
 }

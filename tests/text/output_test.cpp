@@ -34,9 +34,7 @@ TEST(PrintedLines, NothingOfATextIsLost) {
         {"the halves of a character stay together", L"123456789" PAIR L"0", {L"123456789", PAIR L"0"}},
     };
     for (const auto& [what, text, lines] : cases) EXPECT_EQ(printed_lines(text, ten_characters), lines) << what;
-}
 
-TEST(PrintedLines, APageTooNarrowForAnyCharacterGetsOneInEachLine) {
     const auto nothing_fits = [](std::wstring_view text) { return text.empty() ? 0 : std::size_t{0}; };
     EXPECT_EQ(printed_lines(L"ab" PAIR, nothing_fits), (Lines{L"a", L"b", PAIR}));
 }
@@ -71,15 +69,13 @@ TEST(SavedFile, ATypedNameGetsItsExtensionUnlessItHasExactlyThat) {
     EXPECT_EQ(file_name_of(L"dots..."), L"dots....txt") << "what no name may end with is no longer the end";
 }
 
-TEST(SavedFile, NamesThatFilesCanHave) {
+TEST(SavedFile, NamesThatNoFileCanHaveSayWhy) {
     for (const wchar_t* const name : {L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt", L".txt", L"dots....txt",
                                       L"Console.txt", L"COM0.txt", L"COM10.txt", L"my con.txt"}) {
         EXPECT_EQ(file_name_fault(name), std::nullopt) << testing::PrintToString(name);
     }
     EXPECT_EQ(file_name_fault(std::wstring(255, L'x')), std::nullopt);
-}
 
-TEST(SavedFile, NamesThatNoFileCanHaveSayWhy) {
     for (const wchar_t character : std::wstring_view(L"\\/:?*\"|<>")) {
         const auto fault = file_name_fault(std::wstring(L"a") + character + L"b.txt");
         EXPECT_NE(fault.value_or(L"").find(std::wstring(L"the character ") + character), std::wstring::npos);

@@ -15,15 +15,13 @@
 namespace quillomat {
 namespace {
 
-struct Game {
-    std::wstring name;
-    std::wstring cheats;
-};
+/// Name and cheats.
+using Game = std::pair<std::wstring, std::wstring>;
 
 struct Library {
     explicit Library(const std::vector<Game>& games) {
         std::wstring text;
-        for (const Game& game : games) text += record_text(game.name, game.cheats);
+        for (const auto& [name, cheats] : games) text += record_text(name, cheats);
         catalogue.load(decoded(text), [](std::wstring_view) {});
         count = static_cast<int>(games.size());
     }
@@ -86,14 +84,14 @@ TEST(Search, AgreesWithPlainSubstringSearch) {
         const unsigned alphabet = 1 + random() % 4;
         std::vector<Game> games;
         for (int count = 1 + static_cast<int>(random() % 6); count > 0; --count) {
-            games.push_back({L"name", letters(random() % 300, alphabet)});
+            games.emplace_back(L"name", letters(random() % 300, alphabet));
         }
         Library library(games);
         for (int search = 0; search < 20; ++search) {
             const std::wstring keyword = letters(1 + random() % 12, alphabet);
             Numbers expected;
             for (std::size_t number = 0; number < games.size(); ++number) {
-                const bool found = (L"\r\n" + games[number].cheats).find(keyword) != std::wstring::npos;
+                const bool found = (L"\r\n" + games[number].second).find(keyword) != std::wstring::npos;
                 if (found) expected.push_back(static_cast<int>(number));
             }
             ASSERT_EQ(library.find(SearchScope::Cheats, keyword), expected) << testing::PrintToString(keyword);

@@ -1,8 +1,5 @@
 // What is opened and closed again, and what goes on for hours, leaves nothing behind.
 
-#include <algorithm>
-#include <cstdlib>
-
 #include "metafile_printer.h"
 #include "object_counts.h"
 #include "session_support.h"
@@ -16,12 +13,6 @@
 namespace quillomat {
 namespace {
 
-/// How many times as often as usual everything is repeated: QUILLOMAT_SOAK=10 makes a long run.
-int soak_factor() {
-    const char* factor = std::getenv("QUILLOMAT_SOAK");
-    return factor ? std::max(1, std::atoi(factor)) : 1;
-}
-
 struct LeakTest : SessionTest {
     LeakTest() {
         session.open_printer = [this] { return std::make_unique<MetafilePrinter>(printed); };
@@ -34,7 +25,6 @@ struct LeakTest : SessionTest {
     /// Does it again and again and expects that the process holds no more than before then.
     void repeat(const char* what, int times, const std::function<void()>& action) {
         constexpr int warm_up = 20;
-        times *= soak_factor();
         // Of every message box Wine keeps 24 bytes for good.
         const std::size_t noise = 100'000 + 24 * static_cast<std::size_t>(times);
         for (int i = 0; i < warm_up; ++i) action();

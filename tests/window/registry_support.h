@@ -44,11 +44,9 @@ class RegistryOverride {
     RegistryOverride(const RegistryOverride&) = delete;
     RegistryOverride& operator=(const RegistryOverride&) = delete;
 
-    void set(const std::wstring& key, const wchar_t* name, DWORD type, const void* bytes, std::size_t size) const {
-        RegSetKeyValueW(key_, key.c_str(), name, type, bytes, static_cast<DWORD>(size));
-    }
-    void set(const std::wstring& key, const wchar_t* name, const std::wstring& text, DWORD type = REG_SZ) const {
-        set(key, name, type, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    void set(const std::wstring& key, const wchar_t* name, const std::wstring& text) const {
+        const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+        RegSetKeyValueW(key_, key.c_str(), name, REG_SZ, text.c_str(), size);
     }
     void remove(const std::wstring& key) const { RegDeleteTreeW(key_, key.c_str()); }
 

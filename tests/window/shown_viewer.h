@@ -5,7 +5,6 @@
 #include "session_support.h"
 #include "shell/viewer_link.h"
 #include "viewer/frmCtlView.h"
-#include "win/code_page.h"
 
 namespace quillomat {
 
@@ -23,12 +22,6 @@ struct ShownViewerTest : SessionTest {
     void close_viewer() {
         viewer->close();
         ASSERT_SOON(!viewer);
-    }
-
-    /// Opens the file as the next run of the program does.
-    void read_again() {
-        viewer.reset();
-        session.catalogue.load(decode(bytes("Cheats.dat")), [](std::wstring_view) {});
     }
 
     ViewerWindows viewer_windows;

@@ -14,10 +14,10 @@ bool is_message_box(HWND window) {
     return std::wstring_view(name) == message_box_class;
 }
 
-void send_mouse(DWORD flags) {
+void send_mouse(DWORD flags, POINT place = {}) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi = {place.x, place.y, 0, flags, 0, 0};
     SendInput(1, &input, sizeof input);
 }
 
@@ -80,12 +80,8 @@ void WindowTest::move_pointer(HWND window, int x, int y) {
     POINT point{x, y};
     ClientToScreen(window, &point);
     // Real input: just setting the position does not tell the window under it.
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
-    input.mi.dy = MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-    SendInput(1, &input, sizeof input);
+    send_mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, {MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1,
+                                                         MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1});
 }
 
 bool WindowTest::point_until(HWND window, int x, int y, const std::function<bool()>& condition) {
