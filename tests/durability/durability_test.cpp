@@ -6,17 +6,15 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
-#include <string>
 
 #include "database/catalogue.h"
 #include "database/record.h"
+#include "support/files.h"
 #include "text/error.h"
 #include "win/code_page.h"
 #include "win/errors.h"
+#include "win/handle.h"
 #include "win/program_folder.h"
 #include "win/text_file.h"
 
@@ -42,11 +40,6 @@ std::wstring first_content() {
     return text;
 }
 
-std::string bytes_of(const std::wstring& path) {
-    std::ifstream stream(std::filesystem::path(path), std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 enum class Way { Append, Replace };
 
 /// What the file is once `count` writings have succeeded since it was `start`.
@@ -64,72 +57,42 @@ int games_in(const std::string& bytes) {
     return games;
 }
 
-/// Writes until it is ended, and says so after each time by one byte on its standard output.
-int write_for_ever(Way way, const std::wstring& path) {
-    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
-    TextFileSlot slot;
-    for (int number = 1;; ++number) {
-        const std::wstring text = record(number);
-        way == Way::Append ? slot.append(path, text) : slot.replace(path, text);
-        DWORD written = 0;
-        if (!WriteFile(output, "+", 1, &written, nullptr)) return 1;
-    }
+/// How many writings to a file are finished, in memory that a writer and the one who ends it share.
+volatile LONG& shared_count(const std::filesystem::path& file) {
+    const std::wstring name = file.parent_path().filename();
+    const HANDLE memory =
+        CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG), name.c_str());
+    void* const view = memory ? MapViewOfFile(memory, FILE_MAP_WRITE, 0, 0, 0) : nullptr;
+    if (!view) throw_last_error();
+    return *static_cast<volatile LONG*>(view);
 }
 
-/// A copy of this program that writes for ever.
-class Writer {
-  public:
-    Writer(const wchar_t* way, const std::wstring& path) {
-        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-        // Room for every byte it can write before it is ended: it must never wait.
-        HANDLE read = nullptr;
-        HANDLE write = nullptr;
-        if (!CreatePipe(&read, &write, &inherited, 1 << 20)) throw_last_error();
-        reading_ = FileHandle(read);
-        FileHandle writing(write);
-        SetHandleInformation(read, HANDLE_FLAG_INHERIT, 0);
-        STARTUPINFOW start{};
-        start.cb = sizeof start;
-        start.dwFlags = STARTF_USESTDHANDLES;
-        start.hStdOutput = write;
-        std::wstring command =
-            L"\"" + program_folder() + L"\\durability_tests.exe\" write " + way + L" \"" + path + L"\"";
-        if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, DETACHED_PROCESS, nullptr, nullptr, &start,
-                            &process_)) {
-            throw_last_error();
-        }
+/// Writes far longer than it takes to be ended, and yet not for ever when nobody is left to do it.
+int write_on_and_on(Way way, const std::wstring& path) {
+    volatile LONG& finished = shared_count(path);
+    TextFileSlot slot;
+    for (int number = 1; number <= 1000; ++number) {
+        const std::wstring text = record(number);
+        way == Way::Append ? slot.append(path, text) : slot.replace(path, text);
+        finished = number;
     }
-    ~Writer() {
-        CloseHandle(process_.hThread);
-        CloseHandle(process_.hProcess);
-    }
-    Writer(const Writer&) = delete;
-    Writer& operator=(const Writer&) = delete;
+    return 0;
+}
 
-    void wait_for_first_writing() {
-        char byte = 0;
-        DWORD read = 0;
-        if (ReadFile(reading_.get(), &byte, 1, &read, nullptr) && read == 1) ++finished_;
+/// A copy of this program that writes until it is ended.
+FileHandle start_writer(Way way, const std::wstring& path) {
+    std::wstring command = L"\"" + program_folder() + L"\\durability_tests.exe\" write " +
+                           (way == Way::Append ? L"append" : L"replace") + L" \"" + path + L"\"";
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr, &start,
+                        &process)) {
+        throw_last_error();
     }
-    void end() {
-        TerminateProcess(process_.hProcess, 0);
-        WaitForSingleObject(process_.hProcess, INFINITE);
-    }
-    /// How many writings it has finished, once it has ended.
-    int finished() {
-        char bytes[4096];
-        DWORD read = 0;
-        while (ReadFile(reading_.get(), bytes, sizeof bytes, &read, nullptr) && read > 0) {
-            finished_ += static_cast<int>(read);
-        }
-        return finished_;
-    }
-
-  private:
-    FileHandle reading_;
-    PROCESS_INFORMATION process_{};
-    int finished_ = 0;
-};
+    CloseHandle(process.hThread);
+    return FileHandle(process.hProcess);
+}
 
 /// Waits without giving up the processor: the system's own waiting is coarser than one writing is long.
 void wait(std::chrono::microseconds time) {
@@ -138,13 +101,19 @@ void wait(std::chrono::microseconds time) {
 }
 
 /// Ends a writer in the middle of its work: whether the file is as after its last writing, or as after one more.
-bool survives_kill(Way way, const std::wstring& path, std::mt19937& random) {
+bool survives_kill(Way way, const std::wstring& path, volatile LONG& count, std::mt19937& random) {
     const std::string start = bytes_of(path);
-    Writer writer(way == Way::Append ? L"append" : L"replace", path);
-    writer.wait_for_first_writing();
+    count = 0;
+    const FileHandle writer = start_writer(way, path);
+    while (count == 0 && WaitForSingleObject(writer.get(), 1) == WAIT_TIMEOUT) continue;
     wait(std::chrono::microseconds(std::uniform_int_distribution(0, 30'000)(random)));
-    writer.end();
-    const int finished = writer.finished();
+    const bool was_running = TerminateProcess(writer.get(), 0);
+    WaitForSingleObject(writer.get(), INFINITE);
+    const int finished = count;
+    if (!was_running || finished == 0) {
+        std::printf("the writer ended by itself\n");
+        return false;
+    }
     const std::string left = bytes_of(path);
     if (left != expected_content(way, start, finished) && left != expected_content(way, start, finished + 1)) {
         std::printf("torn: %zu bytes after %d writings on %zu bytes\n", left.size(), finished, start.size());
@@ -154,10 +123,11 @@ bool survives_kill(Way way, const std::wstring& path, std::mt19937& random) {
     return true;
 }
 
-int kill_often(Way way, int kills, const std::filesystem::path& folder) {
-    std::filesystem::create_directories(folder);
-    const std::wstring path = (folder / L"Cheats.dat").wstring();
-    const std::filesystem::path remains = folder / L"~quillomat.tmp";
+int kill_often(Way way, int kills) {
+    const TemporaryFolder folder;
+    const std::wstring path = (folder.path() / L"Cheats.dat").wstring();
+    const std::filesystem::path remains = folder.path() / L"~quillomat.tmp";
+    volatile LONG& count = shared_count(path);
     TextFileSlot slot;
     slot.replace(path, first_content());
     const unsigned seed = std::random_device{}();
@@ -165,7 +135,7 @@ int kill_often(Way way, int kills, const std::filesystem::path& folder) {
     bool intact = true;
     int remaining = 0;  // kills that left an unfinished file beside the whole one
     for (int kill = 0; kill < kills && intact; ++kill) {
-        intact = survives_kill(way, path, random);
+        intact = survives_kill(way, path, count, random);
         remaining += std::filesystem::exists(remains) ? 1 : 0;
         if (std::filesystem::file_size(path) > largest_file) slot.replace(path, first_content());
     }
@@ -176,8 +146,6 @@ int kill_often(Way way, int kills, const std::filesystem::path& folder) {
         std::printf("an unfinished file stays\n");
         intact = false;
     }
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
     return intact ? 0 : 1;
 }
 
@@ -209,12 +177,9 @@ int run(const std::vector<std::wstring>& arguments) {
         return index < arguments.size() && arguments[index] == word;
     };
     const Way way = is(1, L"replace") ? Way::Replace : Way::Append;
-    if (is(0, L"write") && arguments.size() == 3) return write_for_ever(way, arguments[2]);
+    if (is(0, L"write") && arguments.size() == 3) return write_on_and_on(way, arguments[2]);
     if (is(0, L"full") && arguments.size() == 2) return fill_disk(arguments[1]);
-    if (is(0, L"kill") && arguments.size() == 3) {
-        const std::wstring own = L"quillomat-durability-" + std::to_wstring(GetCurrentProcessId());
-        return kill_often(way, std::stoi(arguments[2]), std::filesystem::temp_directory_path() / own);
-    }
+    if (is(0, L"kill") && arguments.size() == 3) return kill_often(way, std::stoi(arguments[2]));
     std::printf("usage: durability_tests kill append|replace KILLS\n       durability_tests full FOLDER\n");
     return 2;
 }

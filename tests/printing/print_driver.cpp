@@ -5,56 +5,27 @@
 // was told.
 
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
-#include <string_view>
+#include <stdexcept>
 
 #include "program/program.h"
 
 namespace quillomat {
 namespace {
 
-struct Failure {
-    const char* description;
-};
-
 void wait_until(const char* what, const std::function<bool()>& condition) {
-    if (!Program::wait_until(condition)) throw Failure{what};
-}
-
-void press(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-}
-
-void type(char key) {
-    press(static_cast<WORD>(key), 0);
-    press(static_cast<WORD>(key), KEYEVENTF_KEYUP);
-}
-
-bool is_in_menu(HWND window) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) && (info.flags & GUI_INMENUMODE);
+    if (!Program::wait_until(condition)) throw std::runtime_error(what);
 }
 
 /// Gives the command of an entry of the menu "Options", "Print" by its access key.
 void choose_print_command(HWND viewer, char access_key) {
     wait_until("the viewer is not in front", [viewer] { return GetForegroundWindow() == viewer; });
-    press(VK_MENU, 0);
-    type('O');
-    press(VK_MENU, KEYEVENTF_KEYUP);
-    wait_until("the menu does not open", [viewer] { return is_in_menu(viewer); });
-    type('P');
-    type(access_key);
+    const DWORD thread = GetWindowThreadProcessId(viewer, nullptr);
+    press_key('O', {VK_MENU});
+    wait_until("the menu does not open", [thread] { return in_menu(thread); });
+    press_key('P');
+    press_key(static_cast<WORD>(access_key));
     // Now the command is on its way, in front of all that is posted later.
-    wait_until("the menu does not close", [viewer] { return !is_in_menu(viewer); });
+    wait_until("the menu does not close", [thread] { return !in_menu(thread); });
 }
 
 void print_list(const Program& program) {
@@ -72,10 +43,9 @@ void print_list(const Program& program) {
 
 void run(const std::filesystem::path& database, bool cheats) {
     Program program;
-    std::ifstream file(database, std::ios::binary);
-    program.write_database(std::string(std::istreambuf_iterator<char>(file), {}));
+    program.write_database(bytes_of(database));
     program.start();
-    if (!program.reach_viewer() || !program.message().empty()) throw Failure{"the viewer does not come"};
+    if (!program.reach_viewer() || !program.message().empty()) throw std::runtime_error("the viewer does not come");
     const HWND viewer = program.viewer();
     if (cheats) {
         cheats_of(viewer, 0);
@@ -100,8 +70,8 @@ int wmain(int count, wchar_t** arguments) {
         quillomat::Program::executable = arguments[1];
         quillomat::run(arguments[2], what == L"cheats");
         return 0;
-    } catch (const quillomat::Failure& failure) {
-        std::printf("print_driver: %s\n", failure.description);
+    } catch (const std::exception& failure) {
+        std::printf("print_driver: %s\n", failure.what());
         return 1;
     }
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <filesystem>
 #include <functional>
-#include <string>
-#include <string_view>
+#include <optional>
 #include <vector>
 
-#include "win/api.h"
+#include "support/desktop.h"
+#include "support/files.h"
 
 namespace quillomat {
 
@@ -14,20 +13,19 @@ namespace quillomat {
 /// running is ended.
 class Program {
   public:
-    /// The executable that is copied into the folder before each start.
+    /// The executable that is copied into the program's own folder.
     static std::filesystem::path executable;
 
     Program();
     /// The program as it lies in a folder, which stays as it is.
-    explicit Program(std::filesystem::path folder);
-    ~Program();
+    explicit Program(std::filesystem::path folder) : folder_(std::move(folder)) {}
+    ~Program() { end(); }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    const std::filesystem::path& folder() const { return folder_; }
     std::filesystem::path database() const { return folder_ / L"Cheats.dat"; }
-    void write_database(std::string_view bytes) const;
-    std::string read_database() const;
+    void write_database(std::string_view bytes) const { write_bytes(database(), bytes); }
+    std::string read_database() const { return bytes_of(database()); }
 
     /// Starts the program from another folder than its own; again, when it has ended.
     void start();
@@ -44,7 +42,7 @@ class Program {
     /// neither comes.
     bool reach_viewer();
     /// Closes the main screen by its title bar, and with it everything.
-    void close() const;
+    void close() const { PostMessageW(find(L"frmMain"), WM_CLOSE, 0, 0); }
     HWND viewer() const { return find(L"frmCtlView"); }
 
     /// The text of the open message box, behind its title and a colon; empty when there is none.
@@ -55,13 +53,11 @@ class Program {
     static bool wait_until(const std::function<bool()>& condition);
 
   private:
+    std::optional<TemporaryFolder> own_folder_;
     std::filesystem::path folder_;
-    bool owns_folder_;
     PROCESS_INFORMATION process_{};
 };
 
-/// What another program sees of a window.
-std::wstring text_of(HWND window);
 /// The games in the list of a viewer.
 std::vector<std::wstring> games_of(HWND viewer);
 /// Selects a game as a click does and returns the cheats that are shown then.

@@ -41,12 +41,7 @@ void expect_start(Program& program, const std::wstring& message, const Games& ga
 }
 
 TEST(Start, ShowsWhatItCanReadAndChangesNothing) {
-    const struct {
-        std::string bytes;
-        std::wstring message;
-        Games games;
-        std::wstring cheats_of_first;  ///< not looked at when empty
-    } databases[] = {
+    const std::tuple<std::string, std::wstring, Games, std::wstring> databases[] = {
         {any_bytes(), L"", {}, L""},
         {record(std::string("Gru\xDF\0\x80", 6), "\xC9t\xE9"), L"", {L"\u00C9t\u00E9"}, L"Gru\u00DF \u20AC"},
         {record(std::string(50 << 20, 'x'), "Long"), L"", {L"Long"}, L""},

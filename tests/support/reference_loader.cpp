@@ -1,73 +1,62 @@
 #include "support/reference_loader.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "support/decoded_text.h"
+#include "text/error.h"
 
 namespace quillomat {
 namespace {
 
-std::vector<std::wstring_view> split_into_lines(std::wstring_view text) {
-    std::vector<std::wstring_view> lines;
-    while (!text.empty()) {
-        const std::size_t carriage_return = text.find(L'\r');
-        lines.push_back(text.substr(0, carriage_return));
-        if (carriage_return == std::wstring_view::npos) break;
-        text.remove_prefix(carriage_return + 1);
-        if (text.starts_with(L'\n')) text.remove_prefix(1);
-    }
-    return lines;
-}
+struct Loaded {
+    std::vector<std::wstring> names;
+    /// One more than names: the text that trails the last name line.
+    std::vector<std::wstring> cheats{1};
+    std::optional<ErrorCode> error;
+};
 
-std::optional<ErrorCode> load(Catalogue& catalogue, std::wstring_view text, std::vector<std::wstring>& listed) {
-    try {
-        catalogue.load(decoded(text), [&](std::wstring_view name) { listed.emplace_back(name); });
-    } catch (const Error& error) {
-        return error.code();
+Loaded load_by_lines(std::wstring_view text) {
+    Loaded loaded;
+    while (!text.empty() && !loaded.error) {
+        const std::wstring_view line = text.substr(0, text.find(L'\r'));
+        text.remove_prefix(line.size());
+        if (!text.empty()) text.remove_prefix(text.starts_with(L"\r\n") ? 2 : 1);
+        std::wstring& cheats = loaded.cheats.back();
+        if (loaded.names.size() == 2501) {
+            loaded.error = ErrorCode::SubscriptOutOfRange;
+        } else if (line == L"$$$$$$$$$$$$$$$$$$$$") {
+            loaded.error = ErrorCode::InvalidArgument;
+        } else if (line.starts_with(L"$$$$$$$$$$$$$$$$$$$$")) {
+            loaded.names.emplace_back(line.substr(21));
+            loaded.cheats.emplace_back();
+        } else {
+            cheats.append(cheats.empty() ? L"" : L"\r\n").append(line);
+        }
     }
-    return std::nullopt;
+    return loaded;
 }
 
 }  // namespace
 
-ReferenceCatalogue load_by_lines(std::wstring_view text) {
-    ReferenceCatalogue reference;
-    reference.cheats.emplace_back();
-    for (const std::wstring_view line : split_into_lines(text)) {
-        if (reference.names.size() == 2501) {
-            reference.error = ErrorCode::SubscriptOutOfRange;
-            break;
-        }
-        if (line.starts_with(L"$$$$$$$$$$$$$$$$$$$$")) {
-            if (line.size() == 20) {
-                reference.error = ErrorCode::InvalidArgument;
-                break;
-            }
-            reference.names.emplace_back(line.substr(21));
-            reference.cheats.emplace_back();
-        } else if (reference.cheats.back().empty()) {
-            reference.cheats.back() = line;
-        } else {
-            reference.cheats.back().append(L"\r\n").append(line);
-        }
-    }
-    if (reference.names.size() == 2501) reference.cheats.pop_back();
-    return reference;
-}
-
 std::optional<std::string> difference_from_reference(std::wstring_view text, Catalogue& catalogue) {
-    const ReferenceCatalogue reference = load_by_lines(text);
-    std::vector<std::wstring> listed;
-    if (load(catalogue, text, listed) != reference.error) return "another error";
-    if (listed != reference.names) return "other names listed";
-    // Two slots more than the reference has, which must be empty.
-    const std::size_t slots = std::min<std::size_t>(reference.cheats.size() + 2, Catalogue::slot_count);
+    Loaded expected = load_by_lines(text);
+    Loaded actual;
+    try {
+        catalogue.load(decoded(text), [&](std::wstring_view name) { actual.names.emplace_back(name); });
+    } catch (const Error& error) {
+        actual.error = error.code();
+    }
+    if (actual.error != expected.error) return "another error";
+    if (actual.names != expected.names) return "other names listed";
+    // Two slots more than there are texts, which must be empty.
+    const std::size_t slots = std::min<std::size_t>(expected.cheats.size() + 2, Catalogue::slot_count);
+    expected.names.resize(slots);
+    expected.cheats.resize(slots);
     for (std::size_t slot = 0; slot < slots; ++slot) {
         const int number = static_cast<int>(slot);
-        const std::wstring_view name = slot < reference.names.size() ? reference.names[slot] : std::wstring_view();
-        const std::wstring_view cheats = slot < reference.cheats.size() ? reference.cheats[slot] : std::wstring_view();
-        if (catalogue.name(number) != name) return "another name in slot " + std::to_string(number);
-        if (catalogue.cheats(number) != cheats) return "other cheats in slot " + std::to_string(number);
+        if (catalogue.name(number) != expected.names[slot]) return "another name in slot " + std::to_string(number);
+        if (catalogue.cheats(number) != expected.cheats[slot]) return "other cheats in slot " + std::to_string(number);
     }
     return std::nullopt;
 }

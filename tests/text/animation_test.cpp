@@ -48,7 +48,7 @@ TEST(Turn, StaysWithinATurnForEver) {
 
 constexpr std::uint32_t white = 0xFFFFFF;
 
-TEST(Squeeze, AveragesWhatFallsOnAPixel) {
+TEST(Squeeze, AveragesWhatFallsOnAPixelRowByRow) {
     const std::pair<double, std::vector<std::uint32_t>> cases[] = {
         {1, {0x000000, 0x400000, 0x008000, 0x0000C0}},
         {0.5, {white, 0x200000, 0x004060, white}},
@@ -59,9 +59,6 @@ TEST(Squeeze, AveragesWhatFallsOnAPixel) {
     for (const auto& [factor, row] : cases) {
         EXPECT_EQ(squeezed({4, 1, {0x000000, 0x400000, 0x008000, 0x0000C0}}, factor, white).pixels, row) << factor;
     }
-}
-
-TEST(Squeeze, RowsStayApart) {
     EXPECT_EQ(squeezed({3, 2, {1, 2, 3, 4, 5, 6}}, -1, white).pixels, (std::vector<std::uint32_t>{3, 2, 1, 6, 5, 4}));
     EXPECT_TRUE(squeezed({}, 0.3, white).pixels.empty());
 }

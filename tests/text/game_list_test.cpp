@@ -19,11 +19,7 @@ ItemText text_in(const Items& items) {
 TEST(GameList, WalksFromGroupToGroup) {
     const Items items = {L"1a", L"1b", L"A", L"a", L"a2", L"", L"", L"B"};
     const int count = static_cast<int>(items.size());
-    const struct {
-        int selected;
-        std::optional<int> up;
-        std::optional<int> down;
-    } cases[] = {
+    const std::tuple<int, std::optional<int>, std::optional<int>> cases[] = {
         {-1, std::nullopt, std::nullopt},
         {0, std::nullopt, 2},
         {2, 1, 3},  // letter case counts
@@ -47,12 +43,7 @@ TEST(GameList, JumpsToTheFirstItemWithAnInitial) {
 }
 
 TEST(GameRange, IsWhatWasTypedWhenTheListHasIt) {
-    const struct {
-        const wchar_t* first;
-        const wchar_t* last;
-        const wchar_t* total;
-        std::optional<GameRange> range;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, std::optional<GameRange>> cases[] = {
         {L"1", L"2000", L"2000", GameRange{1, 2000}},
         {L"0012", L"20", L"9", GameRange{12, 20}},
         {L"1", L"2001", L"2001", std::nullopt},
@@ -71,12 +62,7 @@ TEST(GameRange, IsWhatWasTypedWhenTheListHasIt) {
 
 TEST(PickedGames, TheCursorGoesRoundFromOneToTheNext) {
     using Picked = std::vector<int>;
-    const struct {
-        int current;
-        Picked picked;
-        std::optional<int> previous;
-        std::optional<int> next;
-    } cases[] = {
+    const std::tuple<int, Picked, std::optional<int>, std::optional<int>> cases[] = {
         {5, {}, {}, {}},          // nothing to go to
         {5, {5}, 5, 5},           // only where it is
         {5, {2}, 2, 2},           // round

@@ -13,11 +13,7 @@ namespace {
 constexpr std::nullopt_t none = std::nullopt;
 
 TEST(Numbers, ConvertsAWholeTextOrNothing) {
-    const struct {
-        const wchar_t* text;
-        std::optional<std::int32_t> as_32;
-        std::optional<std::int32_t> as_16;
-    } cases[] = {
+    const std::tuple<const wchar_t*, std::optional<std::int32_t>, std::optional<std::int32_t>> cases[] = {
         {L" 42 ", 42, 42},
         {L"0000000000000000000000012", 12, 12},
         {L"32768", 32768, none},

@@ -11,11 +11,7 @@ namespace quillomat {
 namespace {
 
 TEST(PointerArithmetic, MapsPixelsOntoTheAbsoluteRange) {
-    const struct {
-        int pixels;
-        int screen_size;
-        int absolute;
-    } cases[] = {
+    const std::tuple<int, int, int> cases[] = {
         {512, 1024, 32768},   // 32767.5 goes to the even neighbour
         {1024, 1024, 65535},  // the scale is over the whole size, not over the last pixel
         {476, 1366, 22836},   // 22836.5007, which single precision puts below the half
@@ -29,10 +25,7 @@ TEST(PointerArithmetic, MapsPixelsOntoTheAbsoluteRange) {
 }
 
 TEST(PointerArithmetic, FindsTheCentreWhereItIsOnTheScreen) {
-    const struct {
-        PixelRectangle rectangle;
-        std::optional<PixelPoint> centre;
-    } cases[] = {
+    const std::pair<PixelRectangle, std::optional<PixelPoint>> cases[] = {
         {{0, 0, 3, 5}, PixelPoint{2, 2}},           // 1.5 and 2.5
         {{900, 0, 1148, 10}, PixelPoint{1024, 5}},  // centre just on the far edge
         {{902, 0, 1148, 10}, std::nullopt},

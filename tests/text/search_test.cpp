@@ -10,19 +10,18 @@
 #include "support/decoded_text.h"
 #include "support/upper_case.h"
 #include "text/error.h"
+#include "text/find_in_text.h"
 
 namespace quillomat {
 namespace {
 
-struct Game {
-    std::wstring name;
-    std::wstring cheats;
-};
+/// Name and cheats.
+using Game = std::pair<std::wstring, std::wstring>;
 
 struct Library {
     explicit Library(const std::vector<Game>& games) {
         std::wstring text;
-        for (const Game& game : games) text += record_text(game.name, game.cheats);
+        for (const auto& [name, cheats] : games) text += record_text(name, cheats);
         catalogue.load(decoded(text), [](std::wstring_view) {});
         count = static_cast<int>(games.size());
     }
@@ -46,11 +45,7 @@ TEST(Search, FindsNamesAndCheatsInCatalogueOrder) {
                      {L"mario", L""},
                      {L"\u00fcber Game", L""},
                      {L"mario", L"x"}});
-    const struct {
-        SearchScope scope;
-        const wchar_t* keyword;
-        Numbers found;
-    } cases[] = {
+    const std::tuple<SearchScope, const wchar_t*, Numbers> cases[] = {
         {SearchScope::Names, L"MARIO", {0, 2, 4}},
         {SearchScope::Names, L"MARIO ", {}},
         {SearchScope::Names, L"\u00dcBER", {3}},
@@ -89,17 +84,68 @@ TEST(Search, AgreesWithPlainSubstringSearch) {
         const unsigned alphabet = 1 + random() % 4;
         std::vector<Game> games;
         for (int count = 1 + static_cast<int>(random() % 6); count > 0; --count) {
-            games.push_back({L"name", letters(random() % 300, alphabet)});
+            games.emplace_back(L"name", letters(random() % 300, alphabet));
         }
         Library library(games);
         for (int search = 0; search < 20; ++search) {
             const std::wstring keyword = letters(1 + random() % 12, alphabet);
             Numbers expected;
             for (std::size_t number = 0; number < games.size(); ++number) {
-                const bool found = (L"\r\n" + games[number].cheats).find(keyword) != std::wstring::npos;
+                const bool found = (L"\r\n" + games[number].second).find(keyword) != std::wstring::npos;
                 if (found) expected.push_back(static_cast<int>(number));
             }
             ASSERT_EQ(library.find(SearchScope::Cheats, keyword), expected) << testing::PrintToString(keyword);
+        }
+    }
+}
+
+constexpr std::size_t none = std::wstring::npos;
+
+enum class Way { Forwards, Backwards };
+
+/// A step in `text` from `caret`, when the step before left it at `last`; `none` makes it a first step.
+std::size_t found(const std::wstring& text, const std::wstring& wanted, Way way, std::size_t caret, std::size_t last,
+                  std::int16_t match_case) {
+    const FindState state{.gFindString = wanted,
+                          .gFindCase = match_case,
+                          .gFindDirection = way == Way::Forwards,
+                          .gCurPos = last == none ? caret : last,
+                          .gFirstTime = last == none};
+    return find_in_text(state, text, caret, upper_case).value_or(none);
+}
+
+TEST(FindInText, StartsFromTheCaretAndMatchesTheCaseOnlyWhenAsked) {
+    EXPECT_EQ(found(L"abab", L"ab", Way::Forwards, 0, 2, 1), 0U) << "the caret has moved";
+    EXPECT_EQ(found(L"ab", L"b", Way::Backwards, 9, none, 1), 1U) << "the text has become shorter";
+    EXPECT_EQ(found(L"ab", L"b", Way::Forwards, 9, none, 1), none);
+    EXPECT_EQ(found(L"x\u00c9", L"\u00e9", Way::Forwards, 0, none, 0), 1U);
+    EXPECT_EQ(found(L"AB..", L"ab", Way::Backwards, 4, none, 0), 0U);
+    EXPECT_EQ(found(L"ABAB", L"ab", Way::Forwards, 0, none, 1), none);
+}
+
+/// The rule in its plainest form, place by place, against the routine for every text of few letters.
+TEST(FindInText, AgreesWithTheRuleEverywhere) {
+    const auto rule = [](const std::wstring& text, const std::wstring& wanted, Way way, long start) {
+        const long step = way == Way::Forwards ? 1 : -1;
+        for (long place = way == Way::Forwards ? start : start - 2; place >= 0 && place < 7; place += step) {
+            const auto index = static_cast<std::size_t>(place);
+            if (index < text.size() && text.compare(index, wanted.size(), wanted) == 0) return index;
+        }
+        return none;
+    };
+    for (unsigned bits = 0; bits < 64; ++bits) {
+        std::wstring text;
+        for (int i = 0; i < 6; ++i) text += bits >> i & 1 ? L'A' : L'B';
+        for (const wchar_t* wanted : {L"A", L"AB", L"AAB", L"BABA"}) {
+            for (std::size_t caret = 0; caret <= text.size(); ++caret) {
+                for (const std::size_t last : {none, caret}) {
+                    for (const Way way : {Way::Forwards, Way::Backwards}) {
+                        const long start = static_cast<long>(caret) + (last == caret ? 1 : 0);
+                        EXPECT_EQ(found(text, wanted, way, caret, last, 1), rule(text, wanted, way, start))
+                            << testing::PrintToString(text) << " " << caret;
+                    }
+                }
+            }
         }
     }
 }

@@ -1,23 +1,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "database/catalogue.h"
 #include "support/decoded_text.h"
+#include "support/files.h"
 #include "support/upper_case.h"
 #include "text/error.h"
 
 namespace quillomat {
 namespace {
-
-std::string starter_database() {
-    std::ifstream file(QUILLOMAT_STARTER_DATABASE, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::size_t count_of(const std::string& text, const std::string& part) {
     std::size_t count = 0;
@@ -27,7 +21,7 @@ std::size_t count_of(const std::string& text, const std::string& part) {
 
 /// The database a new user starts with, checked for what the program relies on and for slips of whoever edits it.
 TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
-    const std::string bytes = starter_database();
+    const std::string bytes = bytes_of(QUILLOMAT_STARTER_DATABASE);
     std::vector<std::wstring> names;
     Catalogue catalogue;
     catalogue.load(widened(bytes), [&](std::wstring_view name) { names.emplace_back(name); });

@@ -1,6 +1,6 @@
 // The about box and the dialog about the author as a user meets them.
 
-#include "registry_override.h"
+#include "registry_support.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
 #include "support.h"
@@ -8,8 +8,7 @@
 namespace quillomat {
 namespace {
 
-class AboutTest : public WindowTest {
-  protected:
+struct AboutTest : WindowTest {
     void open() {
         open_in(about, pointer, std::int16_t{1});
         ASSERT_SOON(IsWindowVisible(about->window()) && GetFocus());

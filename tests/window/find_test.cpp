@@ -1,6 +1,5 @@
 // The find dialog over a text box, by mouse and by keyboard.
 
-#include "open_forms.h"
 #include "session_support.h"
 #include "shell/windows.h"
 #include "viewer/frmCtlView.h"
@@ -20,8 +19,7 @@ struct Page : Form {
     TextBox Text1{*this, {120, 120, 6000, 3500}, TextBoxKind::Reading};
 };
 
-class FindTest : public SessionTest {
-  protected:
+struct FindTest : SessionTest {
     FindTest() {
         open_in(page);
         page->Text1.set_text(L"a key, A KEY and\r\na key\r\n");

@@ -11,8 +11,7 @@ namespace {
 
 using Names = std::vector<std::wstring>;
 
-class FontsTest : public ShownViewerTest {
-  protected:
+struct FontsTest : ShownViewerTest {
     FontsTest() {
         write("Cheats.dat", "text\r\n$$$$$$$$$$$$$$$$$$$$ Game\r\n");
         session.screen_fonts = [this] {

@@ -1,45 +1,30 @@
 // What is opened and closed again, and what goes on for hours, leaves nothing behind.
 
-#include <algorithm>
-#include <cstdlib>
-#include <fstream>
-
-#include "common/session.h"
 #include "metafile_printer.h"
 #include "object_counts.h"
-#include "open_forms.h"
+#include "session_support.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmWait.h"
 #include "shell/windows.h"
-#include "support.h"
-#include "temporary.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {
 namespace {
 
-/// How many times as often as usual everything is repeated: QUILLOMAT_SOAK=10 makes a long run.
-int soak_factor() {
-    const char* factor = std::getenv("QUILLOMAT_SOAK");
-    return factor ? std::max(1, std::atoi(factor)) : 1;
-}
-
-class LeakTest : public WindowTest {
-  protected:
+struct LeakTest : SessionTest {
     LeakTest() {
-        session.program_folder = folder.path().wstring();
-        session.settings = registry.settings();
         session.open_printer = [this] { return std::make_unique<MetafilePrinter>(printed); };
-        std::ofstream database(folder.path() / "Cheats.dat", std::ios::binary);
-        for (int i = 0; i < 500; ++i) database << "Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Game " << i << "\r\n";
+        std::string database;
+        for (int i = 0; i < 500; ++i)
+            database += "Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Game " + std::to_string(i) + "\r\n";
+        write("Cheats.dat", database);
     }
 
     /// Does it again and again and expects that the process holds no more than before then.
     void repeat(const char* what, int times, const std::function<void()>& action) {
         constexpr int warm_up = 20;
-        times *= soak_factor();
         // Of every message box Wine keeps 24 bytes for good.
         const std::size_t noise = 100'000 + 24 * static_cast<std::size_t>(times);
         for (int i = 0; i < warm_up; ++i) action();
@@ -50,9 +35,6 @@ class LeakTest : public WindowTest {
         EXPECT_LT(allocated_bytes(), bytes + noise) << what;
     }
 
-    TemporaryFolder folder;
-    TemporarySettings registry;
-    Session session;
     Printed printed;
     ViewerWindows no_windows;
     PointerState pointer;

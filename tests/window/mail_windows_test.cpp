@@ -1,8 +1,8 @@
 // Mails to a friend and to the author, through the system to a real mail program.
 
-#include "mail_support.h"
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
+#include "session_support.h"
 #include "text/mail.h"
 #include "win/code_page.h"
 
@@ -18,8 +18,53 @@ std::string utf8(const std::wstring& text) {
     return {bytes.begin(), bytes.end()};
 }
 
-class MailCheatsTest : public MailTest {
-  protected:
+/// A window that sends mails, on a computer whose default mail program is the tests' own.
+struct MailTest : SessionTest {
+    MailTest() {
+        std::filesystem::create_directories(record());
+        SetEnvironmentVariableW(L"QUILLOMAT_MAIL_FOLDER", record().c_str());
+        refuse(L"");
+        machine.set(L"Software\\Clients\\Mail", nullptr, L"Recorder");
+        machine.set(L"Software\\Clients\\Mail\\Recorder", L"DLLPath", recorder_path());
+    }
+
+    /// Has the mail program refuse a call, as in "MAPILogon=3"; an empty text has it refuse none.
+    static void refuse(const wchar_t* call) { SetEnvironmentVariableW(L"QUILLOMAT_MAIL_REFUSE", call); }
+
+    /// The calls the mail program has received since this was last asked.
+    std::vector<std::string> calls() const {
+        std::ifstream file(record() / "calls.txt");
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(file, line);) lines.push_back(line);
+        file.close();
+        std::filesystem::remove(record() / "calls.txt");
+        return lines;
+    }
+    /// A part of the last mail, or a file that went with it.
+    std::string sent(const char* part) const { return bytes(record() / part); }
+    bool sent_a_file() const { return !std::filesystem::is_empty(record() / "files"); }
+
+    void expect_requirements() {
+        expect_message(
+            L"Message",
+            L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, "
+            L"Netscape, Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You "
+            L"cannot send e-mail from Quillomat if you use Hotmail or any other web based e-mail.");
+    }
+
+    RegistryOverride machine{HKEY_LOCAL_MACHINE};
+
+  private:
+    std::filesystem::path record() const { return folder.path() / "record"; }
+
+    static std::wstring recorder_path() {
+        wchar_t path[MAX_PATH];
+        GetModuleFileNameW(nullptr, path, MAX_PATH);
+        return std::filesystem::path(path).replace_filename(L"mapi_recorder.dll").wstring();
+    }
+};
+
+struct MailCheatsTest : MailTest {
     /// Sixty games, one of them with letters beyond ASCII.
     MailCheatsTest() {
         std::string database;
@@ -105,11 +150,7 @@ TEST_F(MailCheatsTest, ANameFindsTheFirstGameThatHasIt) {
 
 TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {
     const Calls all{"MAPILogon dialog", "MAPISendMailW to one file", "MAPILogoff"};
-    const struct {
-        const wchar_t* call;
-        const wchar_t* why;
-        Calls expected_calls;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, Calls> cases[] = {
         {L"MAPILogon=1", L": you cancelled it.", {"MAPILogon dialog"}},
         {L"MAPISendMailW=1", L": you cancelled it.", all},
         {L"MAPISendMailW=14", L": your mail program does not accept the e-mail address. Check how it is written.", all},
@@ -132,7 +173,7 @@ TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {
     expect_sent();  // however the session ends
 }
 
-TEST_F(MailCheatsTest, AFileThatCannotBeWrittenIsNamedAndTheSessionEnds) {
+TEST_F(MailCheatsTest, AFileThatCannotBeWrittenAndAMissingMailProgramAreExplained) {
     const std::filesystem::path path = folder.path() / "Cheats.txt";
     write("Cheats.txt", "mine");
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
@@ -143,11 +184,7 @@ TEST_F(MailCheatsTest, AFileThatCannotBeWrittenIsNamedAndTheSessionEnds) {
                     {"MAPILogon dialog", "MAPILogoff"});
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(bytes("Cheats.txt"), "mine");
-}
-
-TEST_F(MailCheatsTest, WithoutAMailProgramTheUserIsToldWhatToDo) {
     machine.remove(L"Software\\Clients");
-    open({0});
     expect_not_sent(
         L": no mail program is set up on this computer. Install one, such as Thunderbird or Outlook, make it the "
         L"default mail program in the settings of Windows, and try again. A mail account that you use in a web "
@@ -176,7 +213,7 @@ TEST_F(MailCheatsTest, PicksAreCountedAndNamedAndTheCursorWalksThroughThem) {
     EXPECT_SOON(form->List1.selected_index() == 6) << "other keys are the list's own";
 }
 
-TEST_F(MailCheatsTest, SendingNeedsAPickAndEveryText) {
+TEST_F(MailCheatsTest, SendingNeedsAPickAndEveryTextWhichIsRemembered) {
     open();
     EXPECT_FALSE(form->Command1.enabled()) << "nothing is picked";
     form->List1.set_picked(0, true);
@@ -191,22 +228,13 @@ TEST_F(MailCheatsTest, SendingNeedsAPickAndEveryText) {
         if (box != &form->Text3) press_key(VK_RETURN);
     }
     press_key(VK_ESCAPE);
-    EXPECT_SOON(!form) << "Escape cancels, also from the message";
-}
-
-TEST_F(MailCheatsTest, EveryFieldIsRemembered) {
-    open();
-    form->Option2.set_value(true);
-    form->close();
-    ASSERT_SOON(!form);
+    ASSERT_SOON(!form) << "Escape cancels, also from the message";
     expect_requirements();
     open_in(form, session, games);
     expect_filled_in();
-    EXPECT_TRUE(form->Option2.value());
 }
 
-class MailMeTest : public MailTest {
-  protected:
+struct MailMeTest : MailTest {
     void open() {
         expect_requirements();
         open_in(form, session);
@@ -247,15 +275,6 @@ TEST_F(MailMeTest, APickedSubjectAndATypedMessageReachTheAuthor) {
     EXPECT_FALSE(sent_a_file());
 }
 
-TEST_F(MailMeTest, AProposedMessageNeverReplacesAWrittenOne) {
-    open();
-    for (const wchar_t* const written : {L"", L"mine"}) {
-        form->Text1.set_text(written);
-        form->propose_message(L"[Type your question here]");
-        EXPECT_EQ(form->Text1.text(), *written ? written : L"[Type your question here]");
-    }
-}
-
 TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
     open();
     const auto is_dropped = [this] { return SendMessageW(form->Combo1.window(), CB_GETDROPPEDSTATE, 0, 0) != 0; };
@@ -267,6 +286,9 @@ TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
     ASSERT_SOON(!is_dropped());
     for (const wchar_t* const written : {L"written", L""}) {
         ASSERT_FALSE(form->closed());
+        form->Text1.set_text(written);
+        form->propose_message(L"[Question]");
+        EXPECT_EQ(form->Text1.text(), *written ? written : L"[Question]") << "what is written is never replaced";
         form->Text1.set_text(written);
         press_key(VK_ESCAPE);
         pump();

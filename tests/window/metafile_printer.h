@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "text/error.h"
@@ -26,12 +27,31 @@ class MetafilePrinter final : public PrintDevice {
     explicit MetafilePrinter(Printed& printed) : printed_(printed) {}
 
     void start_document(const std::wstring& name) override { printed_.document = name; }
-    HDC start_page() override;
-    void end_page() override;
+    HDC start_page() override { return canvas_ = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr); }
+    void end_page() override {
+        const HENHMETAFILE metafile = CloseEnhMetaFile(std::exchange(canvas_, nullptr));
+        std::vector<std::wstring> page;
+        EnumEnhMetaFile(nullptr, metafile, read_record, &page, nullptr);
+        DeleteEnhMetaFile(metafile);
+        if (printed_.pages.size() + 1 == printed_.fails_at_page) throw Error(printed_.failure);
+        printed_.pages.push_back(std::move(page));
+    }
     void end_document() override { ++printed_.documents_ended; }
-    void abort_document() noexcept override;
+    void abort_document() noexcept override {
+        if (canvas_) DeleteEnhMetaFile(CloseEnhMetaFile(std::exchange(canvas_, nullptr)));
+        ++printed_.documents_aborted;
+    }
 
   private:
+    static int CALLBACK read_record(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM page) {
+        if (record->iType != EMR_EXTTEXTOUTW) return 1;
+        const EMRTEXT& text = reinterpret_cast<const EMREXTTEXTOUTW*>(record)->emrtext;
+        const auto* characters =
+            reinterpret_cast<const wchar_t*>(reinterpret_cast<const char*>(record) + text.offString);
+        reinterpret_cast<std::vector<std::wstring>*>(page)->emplace_back(characters, text.nChars);
+        return 1;
+    }
+
     Printed& printed_;
     HDC canvas_ = nullptr;
 };

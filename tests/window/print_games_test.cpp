@@ -9,8 +9,7 @@ namespace {
 
 using Lines = std::vector<std::wstring>;
 
-class PrintGamesTest : public SessionTest {
-  protected:
+struct PrintGamesTest : SessionTest {
     void open(int games) {
         names.clear();
         for (int number = 1; number <= games; ++number) names.push_back(L"Game " + std::to_wstring(number));

@@ -6,15 +6,14 @@
 
 #include <string>
 
-#include "registry_override.h"
+#include "registry_support.h"
 #include "text/error.h"
 #include "win/system_information.h"
 
 namespace quillomat {
 namespace {
 
-class SettingsStore : public testing::Test {
-  protected:
+struct SettingsStore : testing::Test {
     /// Stores bytes as any other program could.
     void store(const wchar_t* key, DWORD type, const void* bytes, std::size_t size) const {
         ASSERT_EQ(
@@ -49,7 +48,7 @@ TEST_F(SettingsStore, ValuesComeBackAsTheyWereUnderTheAgreedNames) {
     EXPECT_TRUE(settings_.read(settings::Text1) == long_text);
 }
 
-TEST_F(SettingsStore, WhatAnotherProgramStoredIsSafe) {
+TEST_F(SettingsStore, WhatAnotherProgramStoredAndWhatCannotBeStoredIsSafe) {
     SaveSetting(registry_.application(), L"Settings", L"Value", L"32768");
     EXPECT_EQ(settings_.read(SettingKey<std::int16_t>{L"Value"}, 77), 77);
     EXPECT_EQ(settings_.read(SettingKey<std::int32_t>{L"Value"}, 88), 32768);
@@ -69,9 +68,7 @@ TEST_F(SettingsStore, WhatAnotherProgramStoredIsSafe) {
         store(L"Font", type, text.data(), size);
         EXPECT_EQ(settings_.read(settings::Font), read) << size;
     }
-}
 
-TEST_F(SettingsStore, AStoreThatCannotBeWrittenSaysSoAndStillAnswers) {
     const Settings impossible(std::wstring(300, L'x'));
     EXPECT_THROW(impossible.write(settings::Counter, 1), Error);
     EXPECT_EQ(impossible.read(settings::Counter), 0);

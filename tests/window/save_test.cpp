@@ -10,8 +10,7 @@ namespace {
 constexpr char database[] =
     "one\r\n\r\nthree\r\n$$$$$$$$$$$$$$$$$$$$ Quake: The Return\r\n$$$$$$$$$$$$$$$$$$$$ Empty\r\n";
 
-class SaveTest : public ShownViewerTest {
-  protected:
+struct SaveTest : ShownViewerTest {
     SaveTest() { std::filesystem::create_directories(place / "inner"); }
 
     void open(int game = 0) {

@@ -1,14 +1,29 @@
 #pragma once
 
 #include "common/session.h"
+#include "forms/form.h"
+#include "registry_support.h"
 #include "support.h"
-#include "temporary.h"
 
 namespace quillomat {
 
+/// The form of a kind that is open; null when there is none.
+template <class Window>
+Window* find_form() {
+    Window* found = nullptr;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM result) -> BOOL {
+            auto& place = *reinterpret_cast<Window**>(result);
+            place = dynamic_cast<Window*>(Form::from(window));
+            return !place;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
 /// Windows of the program with files and settings of the test's own.
-class SessionTest : public WindowTest {
-  protected:
+struct SessionTest : WindowTest {
     SessionTest() {
         session.program_folder = folder.path().wstring();
         session.settings = registry.settings();

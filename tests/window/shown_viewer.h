@@ -5,13 +5,11 @@
 #include "session_support.h"
 #include "shell/viewer_link.h"
 #include "viewer/frmCtlView.h"
-#include "win/code_page.h"
 
 namespace quillomat {
 
 /// A database in a folder of its own, opened in a real viewer, for the windows that work on what the viewer shows.
-class ShownViewerTest : public SessionTest {
-  protected:
+struct ShownViewerTest : SessionTest {
     void open_viewer(std::string_view database) {
         write("Cheats.dat", database);
         open_viewer();
@@ -24,12 +22,6 @@ class ShownViewerTest : public SessionTest {
     void close_viewer() {
         viewer->close();
         ASSERT_SOON(!viewer);
-    }
-
-    /// Opens the file as the next run of the program does.
-    void read_again() {
-        viewer.reset();
-        session.catalogue.load(decode(bytes("Cheats.dat")), [](std::wstring_view) {});
     }
 
     ViewerWindows viewer_windows;

@@ -3,12 +3,6 @@
 namespace quillomat {
 namespace {
 
-std::wstring text_of(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
 std::wstring without_returns(std::wstring text) {
     std::erase(text, L'\r');
     return text;
@@ -17,22 +11,13 @@ std::wstring without_returns(std::wstring text) {
 bool is_message_box(HWND window) {
     wchar_t name[16]{};
     GetClassNameW(window, name, 16);
-    return std::wstring_view(name) == L"#32770";
+    return std::wstring_view(name) == message_box_class;
 }
 
-void send_key(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-}
-
-void send_mouse(DWORD flags) {
+void send_mouse(DWORD flags, POINT place = {}) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi = {place.x, place.y, 0, flags, 0, 0};
     SendInput(1, &input, sizeof input);
 }
 
@@ -66,9 +51,8 @@ void WindowTest::expect_message(std::wstring title, std::wstring text, int butto
 }
 
 void WindowTest::answer(HWND box) {
-    constexpr int text_control = 0xFFFF;
     const std::wstring title = text_of(box);
-    const std::wstring text = text_of(GetDlgItem(box, text_control));
+    const std::wstring text = message_of(box);
     int button = IDCANCEL;
     if (announced_.empty()) {
         ADD_FAILURE() << "a message nobody announced: " << std::string(text.begin(), text.end());
@@ -92,23 +76,12 @@ bool WindowTest::pump_until(const std::function<bool()>& condition) {
     return true;
 }
 
-void WindowTest::press_key(WORD key, std::initializer_list<WORD> held) {
-    for (const WORD modifier : held) send_key(modifier, 0);
-    send_key(key, 0);
-    send_key(key, KEYEVENTF_KEYUP);
-    for (const WORD modifier : held) send_key(modifier, KEYEVENTF_KEYUP);
-}
-
 void WindowTest::move_pointer(HWND window, int x, int y) {
     POINT point{x, y};
     ClientToScreen(window, &point);
     // Real input: just setting the position does not tell the window under it.
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
-    input.mi.dy = MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-    SendInput(1, &input, sizeof input);
+    send_mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, {MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1,
+                                                         MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1});
 }
 
 bool WindowTest::point_until(HWND window, int x, int y, const std::function<bool()>& condition) {
@@ -139,12 +112,6 @@ std::wstring WindowTest::clipboard_text() {
     }
     CloseClipboard();
     return text;
-}
-
-bool WindowTest::in_menu() {
-    GUITHREADINFO thread{};
-    thread.cbSize = sizeof thread;
-    return GetGUIThreadInfo(GetCurrentThreadId(), &thread) && thread.flags & GUI_INMENUMODE;
 }
 
 }  // namespace quillomat

@@ -11,7 +11,7 @@
 #include "forms/application.h"
 #include "forms/control.h"
 #include "forms/message_box.h"
-#include "win/api.h"
+#include "support/desktop.h"
 
 /// Handles messages until the condition holds; fails when it does not within ten seconds.
 #define EXPECT_SOON(condition) EXPECT_TRUE(pump_until([&] { return static_cast<bool>(condition); })) << #condition
@@ -46,8 +46,6 @@ class WindowTest : public ::testing::Test {
     /// As the user does, so that what goes wrong is shown to the user.
     static void press(const Control& button) { SendMessageW(button.window(), BM_CLICK, 0, 0); }
 
-    /// Real input: presses and releases a key on whatever has the focus.
-    static void press_key(WORD key, std::initializer_list<WORD> held = {});
     /// Moves the pointer to a place of a window, in pixels from its inner left and top.
     static void move_pointer(HWND window, int x, int y);
     /// Moves the pointer there until the condition holds; false when it does not within ten seconds. The movement is
@@ -58,8 +56,6 @@ class WindowTest : public ::testing::Test {
 
     /// The text on the clipboard; nothing when there is none.
     static std::wstring clipboard_text();
-    /// Whether a menu is open.
-    static bool in_menu();
 
     Application application{L"Quillomat"};
 

@@ -13,8 +13,7 @@ constexpr char database[] =
     "code\r\n$$$$$$$$$$$$$$$$$$$$ aleph\r\n"
     "last\r\n$$$$$$$$$$$$$$$$$$$$ Zeta\r\n";
 
-class ViewerCommandsTest : public ShownViewerTest {
-  protected:
+struct ViewerCommandsTest : ShownViewerTest {
     ViewerCommandsTest() {
         session.open_printer = [this] { return std::make_unique<MetafilePrinter>(printed); };
         viewer_windows.save = [this] { opened += L"save "; };

@@ -53,11 +53,7 @@ TEST(CodePage, BytesThatMeanNothingStillDecode) {
 }
 
 TEST(CodePage, TheFirstCharacterThatIsMissingIsNamed) {
-    const struct {
-        unsigned code_page;
-        std::wstring_view text;
-        const wchar_t* number;
-    } cases[] = {
+    const std::tuple<unsigned, std::wstring_view, const wchar_t*> cases[] = {
         {western, L"\u2026\u65E5\u672C", L"(U+65E5)"},
         {western, L"a\U0001F600", L"(U+1F600)"},
         // These have a look-alike that the system would write instead.

@@ -1,13 +1,32 @@
 #pragma once
 
-#include <filesystem>
 #include <fstream>
 #include <string>
 
-#include "temporary.h"
+#include "common/settings.h"
+#include "support/files.h"
 #include "win/api.h"
 
 namespace quillomat {
+
+/// Settings of a test's own, empty at its beginning and gone at its end.
+class TemporarySettings {
+  public:
+    TemporarySettings() { remove(); }
+    ~TemporarySettings() { remove(); }
+    TemporarySettings(const TemporarySettings&) = delete;
+    TemporarySettings& operator=(const TemporarySettings&) = delete;
+
+    Settings settings() const { return Settings(application_); }
+    const std::wstring& application() const { return application_; }
+    /// Where they are, below the user's part of the registry.
+    std::wstring key() const { return L"Software\\" + application_ + L"\\Settings"; }
+
+  private:
+    void remove() const { RegDeleteTreeW(HKEY_CURRENT_USER, (L"Software\\" + application_).c_str()); }
+
+    std::wstring application_ = L"QuillomatTest" + std::to_wstring(GetCurrentProcessId());
+};
 
 /// While it lives, this process finds a test's own, at first empty key in the place of a root of the registry.
 class RegistryOverride {
@@ -25,11 +44,9 @@ class RegistryOverride {
     RegistryOverride(const RegistryOverride&) = delete;
     RegistryOverride& operator=(const RegistryOverride&) = delete;
 
-    void set(const std::wstring& key, const wchar_t* name, DWORD type, const void* bytes, std::size_t size) const {
-        RegSetKeyValueW(key_, key.c_str(), name, type, bytes, static_cast<DWORD>(size));
-    }
-    void set(const std::wstring& key, const wchar_t* name, const std::wstring& text, DWORD type = REG_SZ) const {
-        set(key, name, type, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    void set(const std::wstring& key, const wchar_t* name, const std::wstring& text) const {
+        const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+        RegSetKeyValueW(key_, key.c_str(), name, REG_SZ, text.c_str(), size);
     }
     void remove(const std::wstring& key) const { RegDeleteTreeW(key_, key.c_str()); }
 

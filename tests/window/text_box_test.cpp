@@ -1,16 +1,20 @@
-// The lines of a text box, and the two shortcuts it gets by them, in a real box.
+// The lines of a real text box with the two shortcuts it gets by them, and the clipboard as another program meets it.
 
 #include "common/clsTextBox.h"
+
+#include <future>
+#include <thread>
 
 #include "forms/form.h"
 #include "forms/text_box.h"
 #include "support.h"
+#include "text/error.h"
+#include "win/clipboard.h"
 
 namespace quillomat {
 namespace {
 
-class ClsTextBoxTest : public WindowTest {
-  protected:
+struct ClsTextBoxTest : WindowTest {
     ClsTextBoxTest() { page.show(); }
 
     Form page{application, {.name = L"frmPage", .caption = L"Page", .width = 6000, .height = 6000}};
@@ -51,6 +55,40 @@ TEST_F(ClsTextBoxTest, ShortcutsSelectAllAndCutTheLineOfTheCaret) {
     press_key('Y', {VK_CONTROL, VK_SHIFT});
     press_key('A', {VK_CONTROL, VK_MENU});
     EXPECT_SOON(passed_on == 2) << "with another key held they are no shortcuts";
+}
+
+struct ClipboardTest : WindowTest {
+    ~ClipboardTest() override { DestroyWindow(owner); }
+
+    HWND owner = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+};
+
+TEST_F(ClipboardTest, HoldsWhatWasCopiedToTheEnd) {
+    const std::wstring text = std::wstring(L"a\0b\u65E5\r\n", 6) + std::wstring(100'000, L'x') + L"end";
+    put_on_clipboard(owner, text);
+    EXPECT_EQ(clipboard_text(), L"a b" + text.substr(3)) << "nothing behind a NUL is lost";
+}
+
+TEST_F(ClipboardTest, AProgramThatKeepsItOpenIsReportedAndNothingChanges) {
+    put_on_clipboard(owner, L"before");
+    std::promise<void> opened;
+    std::promise<void> enough;
+    std::thread other_program([&] {
+        EXPECT_TRUE(OpenClipboard(nullptr));
+        opened.set_value();
+        enough.get_future().wait();
+        CloseClipboard();
+    });
+    opened.get_future().wait();
+    try {
+        put_on_clipboard(owner, L"after");
+        ADD_FAILURE() << "copied to a clipboard that cannot be opened";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.code(), ErrorCode::ClipboardError);
+    }
+    enough.set_value();
+    other_program.join();
+    EXPECT_EQ(clipboard_text(), L"before");
 }
 
 }  // namespace

@@ -1,0 +1,123 @@
+// What leaves the program: printed pages, files and their names, and mails.
+
+#include <gtest/gtest.h>
+
+#include "text/mail_result.h"
+#include "text/paths.h"
+#include "text/print_page.h"
+#include "text/printout.h"
+#include "text/saved_file.h"
+
+namespace quillomat {
+namespace {
+
+using Lines = std::vector<std::wstring>;
+
+// One character in the two halves that Windows has it in, also where wide characters are wider.
+#define PAIR L"\xD83C\xDFAE"
+
+std::size_t ten_characters(std::wstring_view text) {
+    return std::min<std::size_t>(text.size(), 10);
+}
+
+TEST(PrintedLines, NothingOfATextIsLost) {
+    const std::tuple<const char*, std::wstring, Lines> cases[] = {
+        {"nothing is one empty line", L"", {L""}},
+        {"every kind of line end", L"a\r\nb\rc\nd", {L"a", L"b", L"c", L"d"}},
+        {"empty lines stay, the last one too", L"\r\n\r\na\r\n", {L"", L"", L"a", L""}},
+        {"a line breaks between words", L"one two three four", {L"one two", L"three four"}},
+        {"a blank may stand beyond the edge", L"1234567890 b", {L"1234567890", L"b"}},
+        {"a word wider than the page is cut", L"12345678901234567890123", {L"1234567890", L"1234567890", L"123"}},
+        {"an indented one as well", L"  123456789012", {L"  12345678", L"9012"}},
+        {"a tab goes to the next eighth character", L"a\tb", {L"a       b"}},
+        {"blanks alone are an empty line", L"             ", {L""}},
+        {"the halves of a character stay together", L"123456789" PAIR L"0", {L"123456789", PAIR L"0"}},
+    };
+    for (const auto& [what, text, lines] : cases) EXPECT_EQ(printed_lines(text, ten_characters), lines) << what;
+
+    const auto nothing_fits = [](std::wstring_view text) { return text.empty() ? 0 : std::size_t{0}; };
+    EXPECT_EQ(printed_lines(L"ab" PAIR, nothing_fits), (Lines{L"a", L"b", PAIR}));
+}
+
+TEST(PrintedLines, ALineAsLongAsABookIsMeasuredInPieces) {
+    std::size_t longest_measured = 0;
+    const Lines lines = printed_lines(std::wstring(100'000, L'x'), [&](std::wstring_view text) {
+        longest_measured = std::max(longest_measured, text.size());
+        return std::min<std::size_t>(text.size(), 100);
+    });
+    EXPECT_EQ(lines, Lines(1000, std::wstring(100, L'x')));
+    EXPECT_LE(longest_measured, 1000u);
+}
+
+TEST(LineFlow, LinesGoOnOnFurtherPagesAndNoneIsCut) {
+    using Place = LineFlow::Place;
+    constexpr auto same = LineFlow::Page::Same;
+    constexpr auto next = LineFlow::Page::Next;
+    LineFlow flow(50, 15);
+    flow.set_top(5);
+    for (const Place& expected : {Place{same, 5}, {same, 20}, {same, 35}, {next, 5}, {same, 20}, {same, 35}, {next, 5}})
+        EXPECT_EQ(flow.next(), expected);
+
+    LineFlow too_small(10, 15);
+    EXPECT_EQ(too_small.next(), (Place{same, 0})) << "a page that holds no line gets one all the same";
+    EXPECT_EQ(too_small.next(), (Place{next, 0}));
+}
+
+TEST(SavedFile, ATypedNameGetsItsExtensionUnlessItHasExactlyThat) {
+    EXPECT_EQ(file_name_of(L"Doom.txt"), L"Doom.txt");
+    EXPECT_EQ(file_name_of(L"Doom.TXT"), L"Doom.TXT.txt");
+    EXPECT_EQ(file_name_of(L"dots..."), L"dots....txt") << "what no name may end with is no longer the end";
+}
+
+TEST(SavedFile, NamesThatNoFileCanHaveSayWhy) {
+    for (const wchar_t* const name : {L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt", L".txt", L"dots....txt",
+                                      L"Console.txt", L"COM0.txt", L"COM10.txt", L"my con.txt"}) {
+        EXPECT_EQ(file_name_fault(name), std::nullopt) << testing::PrintToString(name);
+    }
+    EXPECT_EQ(file_name_fault(std::wstring(255, L'x')), std::nullopt);
+
+    for (const wchar_t character : std::wstring_view(L"\\/:?*\"|<>")) {
+        const auto fault = file_name_fault(std::wstring(L"a") + character + L"b.txt");
+        EXPECT_NE(fault.value_or(L"").find(std::wstring(L"the character ") + character), std::wstring::npos);
+    }
+    const std::pair<std::wstring, const wchar_t*> cases[] = {
+        {std::wstring(L"a\0b.txt", 7), L"control character"},
+        {L"name.", L"full stop"},
+        {L"name ", L"blank"},
+        {L"con.txt", L"device"},
+        {L"Aux .txt", L"device"},
+        {L"LPT9.txt", L"device"},
+        {L"com\u00B9.txt", L"device"},
+        {L"CONOUT$.txt", L"device"},
+        {std::wstring(252, L'x') + L".txt", L"256 characters"},
+    };
+    for (const auto& [name, mentioned] : cases) {
+        const auto fault = file_name_fault(name);
+        ASSERT_TRUE(fault) << testing::PrintToString(name);
+        EXPECT_NE(fault->find(mentioned), std::wstring::npos) << testing::PrintToString(*fault);
+    }
+}
+
+TEST(Paths, StepsLeadFromTheRootDown) {
+    const std::pair<const wchar_t*, std::vector<FolderStep>> cases[] = {
+        {L"C:", {{L"C:\\", L"C:\\"}}},
+        {L"C:\\a b\\c\\", {{L"C:\\", L"C:\\"}, {L"C:\\a b", L"a b"}, {L"C:\\a b\\c", L"c"}}},
+        {L"\\\\host\\share\\x", {{L"\\\\host\\share\\", L"\\\\host\\share\\"}, {L"\\\\host\\share\\x", L"x"}}},
+        {L"\\\\host", {{L"\\\\host\\", L"\\\\host\\"}}},
+    };
+    for (const auto& [path, steps] : cases) EXPECT_EQ(folder_steps(path), steps) << testing::PrintToString(path);
+}
+
+TEST(Mail, EveryNumberOfAMailProgramBecomesASentenceForAUser) {
+    for (unsigned number = 1; number < 40; ++number) {
+        const std::wstring text = mail_failure_description(MailResult{number});
+        EXPECT_TRUE(text.starts_with(L"The message was not sent: ")) << number;
+        EXPECT_TRUE(text.ends_with(L".")) << number;
+        EXPECT_EQ(text.find(L".."), std::wstring::npos) << number;
+    }
+    EXPECT_NE(mail_failure_description(MailResult{0x80004005}).find(L"2147500037"), std::wstring::npos)
+        << "a number nobody knows is told, so that somebody can look it up";
+}
+
+}  // namespace
+}  // namespace quillomat
