@@ -1,5 +1,8 @@
 // What is opened and closed again, and what goes on for hours, leaves nothing behind.
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "metafile_printer.h"
 #include "object_counts.h"
 #include "session_support.h"
@@ -13,6 +16,12 @@
 namespace quillomat {
 namespace {
 
+/// How many times as often as usual everything is repeated: QUILLOMAT_REPEATS=250 makes a long run.
+int repeats() {
+    const char* factor = std::getenv("QUILLOMAT_REPEATS");
+    return factor ? std::max(1, std::atoi(factor)) : 1;
+}
+
 struct LeakTest : SessionTest {
     LeakTest() {
         session.open_printer = [this] { return std::make_unique<MetafilePrinter>(printed); };
@@ -25,6 +34,7 @@ struct LeakTest : SessionTest {
     /// Does it again and again and expects that the process holds no more than before then.
     void repeat(const char* what, int times, const std::function<void()>& action) {
         constexpr int warm_up = 20;
+        times *= repeats();
         // Of every message box Wine keeps 24 bytes for good.
         const std::size_t noise = 100'000 + 24 * static_cast<std::size_t>(times);
         for (int i = 0; i < warm_up; ++i) action();
