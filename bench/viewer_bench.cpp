@@ -10,13 +10,14 @@
 #include "common/session.h"
 #include "forms/application.h"
 #include "measure.h"
+#include "support/files.h"
 #include "text/find_in_text.h"
 #include "text/font_list.h"
 #include "viewer/frmCtlView.h"
 #include "viewer/frmFind.h"
 #include "viewer/frmStatus.h"
 #include "win/upper_case.h"
-#include "window/temporary.h"
+#include "window/registry_support.h"
 
 namespace quillomat::bench {
 namespace {
