@@ -4,9 +4,13 @@
 
 namespace quillomat {
 
-OptionButton::OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group)
+OptionButton::OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group, Choice choice)
     : Control(container, bounds, L"BUTTON", caption,
-              BS_AUTORADIOBUTTON | WS_TABSTOP | (group == Group::Starts ? WS_GROUP : 0)) {}
+              BS_AUTORADIOBUTTON | WS_TABSTOP | (group == Group::Starts ? WS_GROUP : 0)),
+      value_(choice == Choice::Set) {
+    // Now and not later: the system looks through all that stands on the container for the others of the group.
+    if (value_) send(BM_SETCHECK, BST_CHECKED);
+}
 
 void OptionButton::take_back_others() {
     for (Control* control : container().controls()) {

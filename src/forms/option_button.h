@@ -9,9 +9,12 @@ class OptionButton : public Control {
   public:
     /// Whether an option is the first of its container.
     enum class Group { Starts, Continues };
+    /// Whether an option is the choice that is set at first.
+    enum class Choice { Unset, Set };
 
     /// The first option of a container starts the group that the arrow keys walk through.
-    OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group);
+    OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group,
+                 Choice choice = Choice::Unset);
 
     /// Whether it is the choice that is set.
     bool value() const { return value_; }
@@ -23,7 +26,7 @@ class OptionButton : public Control {
   private:
     void take_back_others();
 
-    bool value_ = false;
+    bool value_;
 };
 
 }  // namespace quillomat

@@ -46,14 +46,11 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
     Shape1.bring_to_front();
     Shape1.set_border_colour(colours::highlight);
     Label1.emplace_back(*this, L"#", Bounds{120, 525, 195, 225});
-    Option1.set_value(true);
-    Option3.set_value(true);
     Frame2.set_visible(false);
     bind();
     bind_search();
     bind_commands();
     bind_image_bar();
-    bind_list(List1);
     bind_list(List2);
     bind_hover_help();
 }
@@ -67,8 +64,7 @@ void frmCtlView::bind() {
     on_mouse_move = [this](const MouseEvent&) { tidy_image_bar(); };
     drag_by(*this);
     Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
-    for (Control* control :
-         std::initializer_list<Control*>{&Option1, &Option2, &Text3, &Command1, &Option3, &Option4}) {
+    for (Control* control : {&Option1, &Option2}) {
         control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
     }
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
@@ -84,17 +80,16 @@ void frmCtlView::bind_list(ListBox& list) {
 }
 
 void frmCtlView::bind_hover_help() {
-    hover_help_.add(Command1, L"Click here to start the search!");
-    hover_help_.add(Option1, L"Click here to show the list of games");
-    hover_help_.add(Option2, L"Click here to search for a specific game");
-    hover_help_.add(Text3, L"Type what you want to search for here");
-    for (Control* control : {static_cast<Control*>(&Command1), static_cast<Control*>(&Option1),
-                             static_cast<Control*>(&Option2), static_cast<Control*>(&Text3)}) {
-        control->on_mouse_move = [this, control](const MouseEvent& event) { place_help_box(*control, event); };
-    }
+    add_hover_help(Option1, L"Click here to show the list of games");
+    add_hover_help(Option2, L"Click here to search for a specific game");
     hover_help_.on_shown = [this](Control& control, const MouseEvent& event) { place_help_box(control, event); };
     hover_help_.pass_focus_to(Text1);
     Timer1.on_timer = [this] { Timer1_Timer(); };
+}
+
+void frmCtlView::add_hover_help(Control& control, const wchar_t* text) {
+    hover_help_.add(control, text);
+    control.on_mouse_move = [this, &control](const MouseEvent& event) { place_help_box(control, event); };
 }
 
 void frmCtlView::place_help_box(const Control& control, const MouseEvent& event) {
@@ -119,7 +114,7 @@ void frmCtlView::show_game(int number) {
 void frmCtlView::Form_Resize() {
     if (window_state() == WindowState::Minimised) {
         session_.viewer.current_title = caption();
-        set_caption(minimised_caption(List1.text()));
+        set_caption(minimised_caption(search_panel_ ? search_panel_->List1.text() : std::wstring()));
         return;
     }
     set_caption(session_.viewer.current_title);
@@ -129,7 +124,7 @@ void frmCtlView::Form_Resize() {
     Text1.set_width(layout.text_width);
     Text1.set_height(layout.text_height);
     List2.set_height(layout.game_list_height);
-    List1.set_height(layout.result_list_height);
+    if (search_panel_) search_panel_->List1.set_height(layout.result_list_height);
     Frame2.set_height(layout.search_panel_height);
 }
 

@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <deque>
 #include <memory>
+#include <optional>
 
 #include "common/hover_help.h"
 #include "common/session.h"
-#include "forms/button.h"
 #include "forms/form.h"
 #include "forms/frame.h"
 #include "forms/graphics.h"
@@ -15,6 +15,7 @@
 #include "forms/static_label.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
+#include "viewer/search_panel.h"
 #include "viewer/viewer_menus.h"
 #include "viewer/viewer_windows.h"
 
@@ -35,19 +36,12 @@ class frmCtlView final : public Form {
     std::deque<Image> Image2;
     Image Image1;
     std::deque<Label> Label1;
-    OptionButton Option1{*this, L"&List", {120, 825, 1140, 255}, OptionButton::Group::Starts};
+    OptionButton Option1{
+        *this, L"&List", {120, 825, 1140, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set};
     OptionButton Option2{*this, L"&Search", {1320, 825, 1200, 255}, OptionButton::Group::Continues};
     StaticLabel GamesLabel{*this, L"Games", {}};
     ListBox List2{*this, {120, 1140, 2490, 4545}};
     Frame Frame2{*this, L"Search", {2655, 1140, 2490, 4545}, FrameBorder::None};
-    StaticLabel KeywordLabel{Frame2, L"Keyword:", {0, 15, 1700, 225}};
-    TextBox Text3{Frame2, {0, 255, 1725, 315}};
-    Button Command1{Frame2, L"&Go!", {1800, 240, 690, 345}};
-    Frame Frame1{Frame2, L"Look in", {0, 645, 2490, 600}, FrameBorder::Captioned};
-    OptionButton Option3{Frame1, L"G&ame", {120, 255, 1050, 255}, OptionButton::Group::Starts};
-    OptionButton Option4{Frame1, L"&Cheats", {1230, 255, 1050, 255}, OptionButton::Group::Continues};
-    StaticLabel ResultsLabel{Frame2, L"Search results", {}};
-    ListBox List1{Frame2, {0, 1315, 2490, 3230}};
     StaticLabel CheatsLabel{*this, L"Cheat codes", {}};
     TextBox Text1{*this, {2680, 780, 5945, 4905}, TextBoxKind::Reading};
     TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
@@ -58,6 +52,9 @@ class frmCtlView final : public Form {
     /// Shows game `number`: its cheats, and its name as the caption. Throws `Error` with SubscriptOutOfRange for a
     /// number no slot has.
     void show_game(int number);
+    /// The controls on `Frame2`. They are made when they are first asked for: most players look a game up in the list,
+    /// which they see the sooner the fewer windows are made before.
+    SearchPanel& search_panel();
     /// Slides the full list in over the search panel.
     void ShowList();
     /// Slides the search panel in over the full list.
@@ -76,6 +73,7 @@ class frmCtlView final : public Form {
   private:
     void bind();
     void bind_search();
+    void bind_search_panel(SearchPanel& panel);
     void bind_commands();
     void bind_image_bar();
     void bind_alphabet_bar();
@@ -135,10 +133,14 @@ class frmCtlView final : public Form {
     void hide_image_help();
     void tidy_image_bar();
     std::wstring hover_text(const ListBox& list, int index) const;
+    void add_hover_help(Control& control, const wchar_t* text);
     void place_help_box(const Control& control, const MouseEvent& event);
+
+    void colour_list(ListBox& list) const;
 
     Session& session_;
     const ViewerWindows& windows_;
+    std::optional<SearchPanel> search_panel_;
     HoverHelp hover_help_{session_.pointer, Text4, Timer1};
     const Graphic* hovered_ = nullptr;  // the image or the letter that shows that the pointer is over it
     std::unique_ptr<frmStatus> status_;

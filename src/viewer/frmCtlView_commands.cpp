@@ -127,10 +127,14 @@ void frmCtlView::apply_colours() {
     Image1.set_border(coloured ? ImageBorder::Single : ImageBorder::None);
     Text1.set_back_colour(coloured ? rgb(255, 192, 255) : colours::white);
     Text1.set_fore_colour(coloured ? rgb(128, 0, 128) : colours::black);
-    for (ListBox* list : {&List1, &List2}) {
-        list->set_back_colour(coloured ? rgb(192, 192, 255) : colours::white);
-        list->set_fore_colour(coloured ? rgb(0, 0, 255) : colours::black);
-    }
+    colour_list(List2);
+    if (search_panel_) colour_list(search_panel_->List1);
+}
+
+void frmCtlView::colour_list(ListBox& list) const {
+    const bool coloured = menus.mnuColour.checked();
+    list.set_back_colour(coloured ? rgb(192, 192, 255) : colours::white);
+    list.set_fore_colour(coloured ? rgb(0, 0, 255) : colours::black);
 }
 
 void frmCtlView::Image2_Click(std::size_t index) {

@@ -12,48 +12,73 @@
 namespace quillomat {
 
 void frmCtlView::bind_search() {
-    Command1.on_click = [this] { Command1_Click(); };
-    Text3.on_change = [this] { Command1.set_enabled(!Text3.empty()); };
     Option1.on_click = [this] { Option1_Click(); };
     Option2.on_click = [this] { Option2_Click(); };
-    Option3.on_click = [this] { Text3.set_focus(); };
-    Option4.on_click = [this] { Text3.set_focus(); };
-    Option3.set_tool_tip(L"Searches list of games for required keywords.");
-    Option4.set_tool_tip(L"Searches all cheat codes for required keywords.");
-    List1.on_click = [this] { List1_Click(); };
     Text1.on_double_click = [this] { Text1_DblClick(); };
     menus.mnuTextBoxInGames.on_click = [this] { SearchFor(SearchScope::Names); };
     menus.mnuTextBoxInCheats.on_click = [this] { SearchFor(SearchScope::Cheats); };
     menus.mnuSelectedSearch.on_click = [this] {
         Option2.set_value(true);
-        CenterMouseOn(Command1.window());
+        CenterMouseOn(search_panel().Command1.window());
     };
 }
 
+SearchPanel& frmCtlView::search_panel() {
+    if (!search_panel_) {
+        SearchPanel& panel = search_panel_.emplace(Frame2);
+        panel.List1.set_height(viewer_layout({width(), height()}).result_list_height);
+        panel.Text3.set_text(session_.settings.read(settings::SearchText));
+        panel.Command1.set_enabled(!panel.Text3.empty());
+        colour_list(panel.List1);
+        bind_search_panel(panel);
+    }
+    return *search_panel_;
+}
+
+void frmCtlView::bind_search_panel(SearchPanel& panel) {
+    for (Control* control :
+         std::initializer_list<Control*>{&panel.Text3, &panel.Command1, &panel.Option3, &panel.Option4}) {
+        control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    }
+    panel.Command1.on_click = [this] { Command1_Click(); };
+    panel.Text3.on_change = [&panel] { panel.Command1.set_enabled(!panel.Text3.empty()); };
+    for (OptionButton* option : {&panel.Option3, &panel.Option4}) {
+        option->on_click = [&panel] { panel.Text3.set_focus(); };
+    }
+    panel.Option3.set_tool_tip(L"Searches list of games for required keywords.");
+    panel.Option4.set_tool_tip(L"Searches all cheat codes for required keywords.");
+    panel.List1.on_click = [this] { List1_Click(); };
+    bind_list(panel.List1);
+    add_hover_help(panel.Command1, L"Click here to start the search!");
+    add_hover_help(panel.Text3, L"Type what you want to search for here");
+}
+
 void frmCtlView::Command1_Click() {
+    SearchPanel& panel = search_panel();
     {
         const Hourglass hourglass(*this);
-        session_.viewer.search_keyword = upper_cased(Text3.text());
-        const ListBox::Filling filling(List1);
-        List1.clear();
-        session_.search_texts.find(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
+        session_.viewer.search_keyword = upper_cased(panel.Text3.text());
+        const ListBox::Filling filling(panel.List1);
+        panel.List1.clear();
+        session_.search_texts.find(panel.Option3.value() ? SearchScope::Names : SearchScope::Cheats,
                                    session_.viewer.search_keyword, session_.viewer.game_count,
-                                   [this](int number) { List1.add(session_.catalogue.name(number)); });
+                                   [this, &panel](int number) { panel.List1.add(session_.catalogue.name(number)); });
         // For all hits at once: nothing is painted between two of them, and telling the system of each took longer than
         // the search.
-        if (List1.count() > 0) Line1.invalidate();
+        if (panel.List1.count() > 0) Line1.invalidate();
     }
-    if (List1.count() == 0) {
+    if (panel.List1.count() == 0) {
         show_message(window(),
                      {.text = L"Nothing was found! Try searching for something else.", .title = L"Nothing there."});
-        List1.set_tool_tip({});
+        panel.List1.set_tool_tip({});
     }
-    SelectAllText(Text3);
+    SelectAllText(panel.Text3);
 }
 
 void frmCtlView::List1_Click() {
-    List2.select_text(List1.text());
-    if (!Option4.value()) return;
+    const SearchPanel& panel = search_panel();
+    List2.select_text(panel.List1.text());
+    if (!panel.Option4.value()) return;
     const std::wstring& keyword = session_.viewer.search_keyword;
     const std::size_t position = upper_cased(Text1.text()).find(keyword);
     Text1.set_focus();
@@ -71,10 +96,11 @@ bool frmCtlView::offer_search_for_selection() {
 }
 
 void frmCtlView::SearchFor(SearchScope scope) {
-    (scope == SearchScope::Names ? Option3 : Option4).set_value(true);
+    SearchPanel& panel = search_panel();
+    (scope == SearchScope::Names ? panel.Option3 : panel.Option4).set_value(true);
     Option2.set_value(true);
-    Text3.set_text(keyword_of(Text1.selected_text()));
-    CenterMouseOn(Command1.window());
+    panel.Text3.set_text(keyword_of(Text1.selected_text()));
+    CenterMouseOn(panel.Command1.window());
 }
 
 void frmCtlView::Option1_Click() {
@@ -83,9 +109,10 @@ void frmCtlView::Option1_Click() {
 }
 
 void frmCtlView::Option2_Click() {
+    SearchPanel& panel = search_panel();
     ShowFrame();
-    Text3.set_focus();
-    set_default_button(&Command1);
+    panel.Text3.set_focus();
+    set_default_button(&panel.Command1);
 }
 
 void frmCtlView::ShowFrame() {

@@ -29,7 +29,6 @@ void frmCtlView::start_up() {
     apply_colours();
     if (const auto selected = List2.selected_index()) List2.set_top_index(*selected);
     if (List2.text().empty()) menus.mnuSave.set_enabled(false);
-    if (Text3.empty()) Command1.set_enabled(false);
     session_.viewer.game_count = static_cast<std::int16_t>(List2.count());
     Shape1.set_visible(false);
     session_.viewer.next_letter = L'A';
@@ -59,7 +58,6 @@ void frmCtlView::restore_settings() {
     menus.mnuAutoSelect.set_checked(stored.read(settings::AutoSelect));
     set_window_state(window_state_of(stored.read(settings::FrmCtlViewWindowState)));
     Text1.set_text(stored.read(settings::Text1));
-    Text3.set_text(stored.read(settings::SearchText));
     if (const std::wstring game = stored.read(settings::DefaultGame); !game.empty()) List2.select_text(game);
     if (const std::wstring title = stored.read(settings::FrmCtlViewCaption); !title.empty()) set_caption(title);
 }
@@ -99,7 +97,7 @@ void frmCtlView::save_settings() {
     store.write(settings::AutoSelect, menus.mnuAutoSelect.checked());
     store.write(settings::FrmCtlViewWindowState, static_cast<std::int32_t>(window_state()));
     store.write(settings::Text1, Text1.text());
-    store.write(settings::SearchText, Text3.text());
+    if (search_panel_) store.write(settings::SearchText, search_panel_->Text3.text());
     store.write(settings::DefaultGame, List2.text());
     store.write(settings::FrmCtlViewCaption, caption());
     if (window_state() != WindowState::Normal) return;

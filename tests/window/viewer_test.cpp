@@ -38,7 +38,7 @@ TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
 TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     open_viewer();
     viewer->List2.select_index(2);
-    viewer->Text3.set_text(L"keyword");
+    viewer->search_panel().Text3.set_text(L"keyword");
     viewer->menus.mnuColour.on_click();
     viewer->menus.mnuAutoSelect.on_click();
     viewer->set_height(7200);
@@ -49,8 +49,8 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     open_viewer();
     EXPECT_EQ(viewer->caption(), L"Beta");
     EXPECT_EQ(viewer->Text1.text(), L"mario once");
-    EXPECT_EQ(viewer->Text3.text(), L"keyword");
-    EXPECT_TRUE(viewer->Command1.enabled());
+    EXPECT_EQ(viewer->search_panel().Text3.text(), L"keyword");
+    EXPECT_TRUE(viewer->search_panel().Command1.enabled());
     EXPECT_EQ(viewer->Text1.back_colour(), colours::white);
     EXPECT_TRUE(viewer->menus.mnuAutoSelect.checked());
     EXPECT_NEAR(viewer->height(), 7200, 15);
@@ -138,20 +138,22 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     EXPECT_TRUE(viewer->Frame2.visible() && !viewer->List2.visible());
     EXPECT_EQ(GetWindow(viewer->Text1.window(), GW_HWNDPREV), viewer->CheatsLabel.window()) << "its name";
     const auto search = [this](const wchar_t* keyword) {
-        viewer->Text3.set_text(keyword);
-        viewer->Command1.click();
+        viewer->search_panel().Text3.set_text(keyword);
+        viewer->search_panel().Command1.click();
         std::wstring names;
-        for (int i = 0; i < viewer->List1.count(); ++i) names += viewer->List1.item(i) + L"|";
+        for (int i = 0; i < viewer->search_panel().List1.count(); ++i)
+            names += viewer->search_panel().List1.item(i) + L"|";
         return names;
     };
     EXPECT_EQ(search(L"bETA"), L"Beta|beta|");
-    viewer->Option4.set_value(true);
+    viewer->search_panel().Option4.set_value(true);
     EXPECT_EQ(search(L"\u00e9T\u00c9"), L"Super MARIO|");
-    EXPECT_EQ(viewer->Text3.selected_text(), L"\u00e9T\u00c9") << "a new keyword is typed over the old one";
+    EXPECT_EQ(viewer->search_panel().Text3.selected_text(), L"\u00e9T\u00c9")
+        << "a new keyword is typed over the old one";
     expect_message(L"Nothing there.", L"Nothing was found! Try searching for something else.");
     EXPECT_EQ(search(L"mario  "), L"");
     search(L"CODE");
-    viewer->List1.select_index(0);
+    viewer->search_panel().List1.select_index(0);
     EXPECT_EQ(viewer->caption(), L"Super MARIO");
     EXPECT_EQ(viewer->Text1.selected_text(), L"code");
     viewer->Option1.set_value(true);
@@ -161,11 +163,11 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     viewer->Text1.set_text(L" warps mario ");
     viewer->Text1.select(0, 7);
     viewer->SearchFor(SearchScope::Cheats);
-    EXPECT_TRUE(viewer->Option2.value() && viewer->Option4.value());
-    EXPECT_EQ(viewer->Text3.text(), L"warps") << "a word of the text";
-    EXPECT_EQ(viewer->default_button(), &viewer->Command1);
+    EXPECT_TRUE(viewer->Option2.value() && viewer->search_panel().Option4.value());
+    EXPECT_EQ(viewer->search_panel().Text3.text(), L"warps") << "a word of the text";
+    EXPECT_EQ(viewer->default_button(), &viewer->search_panel().Command1);
     POINT pointer{};
-    EXPECT_SOON(GetCursorPos(&pointer) && WindowFromPoint(pointer) == viewer->Command1.window())
+    EXPECT_SOON(GetCursorPos(&pointer) && WindowFromPoint(pointer) == viewer->search_panel().Command1.window())
         << "the pointer is on the button that starts the search";
 }
 
@@ -175,8 +177,8 @@ TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised
     EXPECT_NEAR(viewer->height(), 5340, 8);
     EXPECT_NEAR(viewer->width(), 5970, 8);
     viewer->List2.select_index(0);
-    viewer->List1.add(L"Result");
-    SendMessageW(viewer->List1.window(), LB_SETCURSEL, 0, 0);
+    viewer->search_panel().List1.add(L"Result");
+    SendMessageW(viewer->search_panel().List1.window(), LB_SETCURSEL, 0, 0);
     viewer->set_window_state(WindowState::Minimised);
     EXPECT_SOON(viewer->caption() == L"Quillomat - Result");
     // A change of resolution meanwhile keeps the game's name.
@@ -196,7 +198,8 @@ TEST_F(ViewerTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
     for (const Control* beside : std::initializer_list<const Control*>{&viewer->Text1, &viewer->Frame2}) {
         EXPECT_NEAR(beside->top() + beside->height(), viewer->List2.top() + viewer->List2.height(), 15);
     }
-    EXPECT_NEAR(viewer->List1.top() + viewer->List1.height(), viewer->Frame2.height(), 15);
+    EXPECT_NEAR(viewer->search_panel().List1.top() + viewer->search_panel().List1.height(), viewer->Frame2.height(),
+                15);
     std::unique_ptr<frmAddNew> window;
     open_in(window, session, *link);
     EXPECT_NEAR(window->Text1.width(), window->width() - 360, 15);
