@@ -128,6 +128,9 @@ LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             raise(on_got_focus);
             return result;
         }
+        case WM_GETOBJECT:
+            put_name_before();
+            break;
     }
     return default_message(message, wparam, lparam);
 }
@@ -188,6 +191,19 @@ void Control::set_tool_tip(std::wstring text) {
     if (text == tool_tip_) return;
     tool_tip_ = std::move(text);
     form().tool_tips().set(window_, tool_tip_);
+}
+
+void Control::put_name_before() {
+    if (spoken_name_.empty()) return;
+    // They take a control's name from the text right before it, wherever the control is in the order by now. The text
+    // is there, but takes no room.
+    if (!name_window_) {
+        name_window_ = CreateWindowExW(0, L"STATIC", spoken_name_.c_str(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0,
+                                       container().window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+    }
+    const HWND before = GetWindow(window_, GW_HWNDPREV);
+    if (before == name_window_) return;
+    SetWindowPos(name_window_, before ? before : HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void Control::bring_to_front() {

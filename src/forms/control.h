@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "forms/colour.h"
 #include "forms/font.h"
@@ -48,6 +49,9 @@ class Control : public Item {
     /// The one-line text shown while the pointer rests on the control; an empty one shows none.
     const std::wstring& tool_tip() const { return tool_tip_; }
     void set_tool_tip(std::wstring text);
+
+    /// What screen readers call it, for a control that has no caption standing before it.
+    void set_spoken_name(std::wstring name) { spoken_name_ = std::move(name); }
 
     void bring_to_front() override;
     void refresh() override;
@@ -100,6 +104,7 @@ class Control : public Item {
     void destroy_window();
     bool raise_key_down(int key);
     void apply_font();
+    void put_name_before();
 
     const wchar_t* system_class_;
     DWORD extended_style_;
@@ -109,6 +114,8 @@ class Control : public Item {
     Colour fore_colour_ = colours::window_text;
     FontSpec font_;
     std::wstring tool_tip_;
+    std::wstring spoken_name_;
+    HWND name_window_ = nullptr;  // goes with the container's window
     bool key_previewed_ = false;
     bool silent_ = false;
 };

@@ -46,6 +46,10 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     description.lpfnWndProc = procedure;
     description.hInstance = program;
     description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(application_icon));
+    // The one drawn for this size; else the system makes one out of the large one, and takes its time.
+    description.hIconSm =
+        static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(application_icon), IMAGE_ICON,
+                                      GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
     description.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
     description.lpszClassName = name;
     if (!RegisterClassExW(&description)) throw_last_error();

@@ -50,6 +50,7 @@ void frmSave::bind() {
     drag_by(*this);
     Drive1.on_change = [this] { Drive1_Change(); };
     Dir1.on_change = [this] { Dir1_Change(); };
+    File1.set_spoken_name(L"Files");
     File1.on_click = [this] { File1_Click(); };
     File1.on_double_click = [this] { Command1.click(); };
     Command1.on_click = [this] { Command1_Click(); };

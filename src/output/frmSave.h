@@ -28,7 +28,6 @@ class frmSave final : public Form {
     // screen reader names a list by the text right before it.
     StaticLabel Label1{*this, L"File name:", {}};
     TextBox Text1{*this, {}};
-    StaticLabel FilesLabel{*this, L"Files", {}};
     FileListBox File1{*this, {}, L".txt"};
     StaticLabel Label4{*this, L"List files of type:", {}};
     DropDownList Combo1{*this, {0, 0, 2000, 315}};

@@ -47,6 +47,8 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
     Shape1.set_border_colour(colours::highlight);
     Label1.emplace_back(*this, L"#", Bounds{120, 525, 195, 225});
     Frame2.set_visible(false);
+    List2.set_spoken_name(L"Games");
+    Text1.set_spoken_name(L"Cheat codes");
     bind();
     bind_search();
     bind_commands();

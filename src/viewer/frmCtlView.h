@@ -12,7 +12,6 @@
 #include "forms/graphics.h"
 #include "forms/list_box.h"
 #include "forms/option_button.h"
-#include "forms/static_label.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
 #include "viewer/search_panel.h"
@@ -39,10 +38,8 @@ class frmCtlView final : public Form {
     OptionButton Option1{
         *this, L"&List", {120, 825, 1140, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set};
     OptionButton Option2{*this, L"&Search", {1320, 825, 1200, 255}, OptionButton::Group::Continues};
-    StaticLabel GamesLabel{*this, L"Games", {}};
     ListBox List2{*this, {120, 1140, 2490, 4545}};
     Frame Frame2{*this, L"Search", {2655, 1140, 2490, 4545}, FrameBorder::None};
-    StaticLabel CheatsLabel{*this, L"Cheat codes", {}};
     TextBox Text1{*this, {2680, 780, 5945, 4905}, TextBoxKind::Reading};
     TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Shape Shape1{*this, {0, 0, 420, 420}};

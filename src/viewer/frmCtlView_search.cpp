@@ -119,9 +119,7 @@ void frmCtlView::ShowFrame() {
     Frame2.set_left(search_panel_start_left);
     Frame2.set_visible(true);
     Frame2.bring_to_front();
-    // A caption stays right before what it names, or screen readers do not find it.
     Text1.bring_to_front();
-    CheatsLabel.bring_to_front();
     Text4.bring_to_front();
     while (const auto next = next_search_panel_left(Frame2.left())) {
         Frame2.set_left(*next);
@@ -136,7 +134,6 @@ void frmCtlView::ShowList() {
     List2.set_left(game_panel_start_left);
     List2.set_visible(true);
     List2.bring_to_front();
-    GamesLabel.bring_to_front();
     Text4.bring_to_front();
     while (const auto next = next_game_panel_left(List2.left())) {
         List2.set_left(*next);

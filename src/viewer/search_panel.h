@@ -20,8 +20,9 @@ struct SearchPanel {
           Frame1(frame, L"Look in", {0, 645, 2490, 600}, FrameBorder::Captioned),
           Option3(Frame1, L"G&ame", {120, 255, 1050, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set),
           Option4(Frame1, L"&Cheats", {1230, 255, 1050, 255}, OptionButton::Group::Continues),
-          ResultsLabel(frame, L"Search results", {}),
-          List1(frame, {0, 1315, 2490, 3230}) {}
+          List1(frame, {0, 1315, 2490, 3230}) {
+        List1.set_spoken_name(L"Search results");
+    }
 
     StaticLabel KeywordLabel;
     TextBox Text3;
@@ -29,7 +30,6 @@ struct SearchPanel {
     Frame Frame1;
     OptionButton Option3;
     OptionButton Option4;
-    StaticLabel ResultsLabel;
     ListBox List1;
 };
 

@@ -136,7 +136,14 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     open_viewer();
     viewer->Option2.set_value(true);
     EXPECT_TRUE(viewer->Frame2.visible() && !viewer->List2.visible());
-    EXPECT_EQ(GetWindow(viewer->Text1.window(), GW_HWNDPREV), viewer->CheatsLabel.window()) << "its name";
+    for (const auto& [control, name] : std::initializer_list<std::pair<Control*, const wchar_t*>>{
+             {&viewer->Text1, L"Cheat codes"}, {&viewer->search_panel().List1, L"Search results"}}) {
+        // A screen reader asks for the control, and looks for the name when it has the answer.
+        SendMessageW(control->window(), WM_GETOBJECT, 0, OBJID_CLIENT);
+        wchar_t text[32]{};
+        GetWindowTextW(GetWindow(control->window(), GW_HWNDPREV), text, 32);
+        EXPECT_STREQ(text, name);
+    }
     const auto search = [this](const wchar_t* keyword) {
         viewer->search_panel().Text3.set_text(keyword);
         viewer->search_panel().Command1.click();
