@@ -1,5 +1,7 @@
 #include "shell/frmAbout.h"
 
+#include <cmath>
+
 #include "common/desktop.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
@@ -98,7 +100,9 @@ void frmAbout::Label4_Click() {
 }
 
 void frmAbout::show_title_size() {
-    lblTitle.set_font({.points = title_points_, .bold = true});
+    // In steps of two points, which is finer than what the size changes by from frame to frame: the system keeps only a
+    // few fonts ready, and to load one again costs more than to draw with it.
+    lblTitle.set_font({.points = 2 * std::floor(title_points_ / 2), .bold = true});
 }
 
 void frmAbout::Timer2_Timer() {
