@@ -184,7 +184,10 @@ void Control::set_underlined(bool underlined) {
 }
 
 void Control::apply_font() {
-    send(WM_SETFONT, reinterpret_cast<WPARAM>(form().application().fonts().get(font_, dpi())), TRUE);
+    Font font = form().application().fonts().get(font_, dpi());
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    // The former one is in use until here.
+    system_font_ = std::move(font);
 }
 
 void Control::set_tool_tip(std::wstring text) {

@@ -113,6 +113,7 @@ class Control : public Item {
     Colour back_colour_ = colours::button_face;
     Colour fore_colour_ = colours::window_text;
     FontSpec font_;
+    Font system_font_;  ///< what the window draws with
     std::wstring tool_tip_;
     std::wstring spoken_name_;
     HWND name_window_ = nullptr;  // goes with the container's window

@@ -4,22 +4,38 @@
 #include <cmath>
 
 namespace quillomat {
+namespace {
 
-HFONT FontCache::get(const FontSpec& spec, int dpi) {
-    auto& font = fonts_[{spec, dpi}];
-    if (!font) {
-        LOGFONTW description{};
-        description.lfHeight = -static_cast<LONG>(std::lrint(spec.points * dpi / 72));
-        description.lfWeight = spec.bold ? FW_BOLD : FW_NORMAL;
-        description.lfItalic = spec.italic;
-        description.lfUnderline = spec.underline;
-        description.lfCharSet = DEFAULT_CHARSET;
-        description.lfQuality = CLEARTYPE_QUALITY;
-        const auto length = std::min(spec.name.size(), std::size(description.lfFaceName) - 1);
-        std::copy_n(spec.name.begin(), length, description.lfFaceName);
-        font = GdiObject<HFONT>(CreateFontIndirectW(&description));
-    }
-    return font.get();
+Font make_font(const FontSpec& spec, int dpi) {
+    LOGFONTW description{};
+    description.lfHeight = -static_cast<LONG>(std::lrint(spec.points * dpi / 72));
+    description.lfWeight = spec.bold ? FW_BOLD : FW_NORMAL;
+    description.lfItalic = spec.italic;
+    description.lfUnderline = spec.underline;
+    description.lfCharSet = DEFAULT_CHARSET;
+    description.lfQuality = CLEARTYPE_QUALITY;
+    const auto length = std::min(spec.name.size(), std::size(description.lfFaceName) - 1);
+    std::copy_n(spec.name.begin(), length, description.lfFaceName);
+    return {CreateFontIndirectW(&description), [](HFONT font) {
+                if (font) DeleteObject(font);
+            }};
+}
+
+}  // namespace
+
+Font FontCache::get(const FontSpec& spec, int dpi) {
+    Font& kept = fonts_[{spec, dpi}];
+    if (kept) return kept;
+    const Font made = kept = make_font(spec, dpi);
+    drop_unused();
+    return made;
+}
+
+void FontCache::drop_unused() {
+    // More than all windows and their animations need together.
+    constexpr std::size_t plenty = 64;
+    if (fonts_.size() <= plenty) return;
+    std::erase_if(fonts_, [](const auto& entry) { return entry.second.use_count() == 1; });
 }
 
 SIZE text_extent(HFONT font, const std::wstring& text) {

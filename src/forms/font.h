@@ -1,8 +1,10 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
-#include <tuple>
+#include <type_traits>
+#include <utility>
 
 #include "forms/gdi.h"
 
@@ -21,16 +23,21 @@ struct FontSpec {
     friend auto operator<=>(const FontSpec&, const FontSpec&) = default;
 };
 
+/// A font of the system, which goes with the last who holds it.
+using Font = std::shared_ptr<std::remove_pointer_t<HFONT>>;
+
 /// Makes each font once for each resolution and keeps it, so that changing a control's underline at every movement of
-/// the pointer costs nothing.
+/// the pointer costs nothing. Of those that nobody holds it keeps some dozens, however many fonts the user tries.
 class FontCache {
   public:
-    /// The font for `dpi` dots per inch; it lives as long as the cache. A name that no font has gives the system's
-    /// nearest one.
-    HFONT get(const FontSpec& spec, int dpi);
+    /// The font for `dpi` dots per inch, to be held for as long as it is used. A name that no font has gives the
+    /// system's nearest one.
+    Font get(const FontSpec& spec, int dpi);
 
   private:
-    std::map<std::pair<FontSpec, int>, GdiObject<HFONT>> fonts_;
+    void drop_unused();
+
+    std::map<std::pair<FontSpec, int>, Font> fonts_;
 };
 
 /// The size of a text in pixels, its line breaks obeyed.

@@ -95,7 +95,7 @@ void Label::set_font(FontSpec font) {
 }
 
 void Label::fit_to_caption() {
-    const SIZE size = text_extent(form().application().fonts().get(font_, dpi()), caption_);
+    const SIZE size = text_extent(form().application().fonts().get(font_, dpi()).get(), caption_);
     set_width(to_twips(size.cx, dpi()));
     set_height(to_twips(size.cy, dpi()));
 }
@@ -103,7 +103,8 @@ void Label::fit_to_caption() {
 void Label::draw(HDC canvas) const {
     RECT area = pixels();
     if (back_style_ == BackStyle::Opaque) fill(canvas, area, back_colour_);
-    const Selection font(canvas, form().application().fonts().get(font_, dpi()));
+    const Font font = form().application().fonts().get(font_, dpi());
+    const Selection selected(canvas, font.get());
     SetBkMode(canvas, TRANSPARENT);
     SetTextColor(canvas, resolve(enabled() ? fore_colour_ : colours::grey_text));
     constexpr UINT alignments[] = {DT_LEFT, DT_CENTER, DT_RIGHT};

@@ -27,7 +27,8 @@ void Link::fit_to_caption() {
     RECT area{};
     {
         const WindowCanvas canvas(window());
-        const Selection selected(canvas.get(), form().application().fonts().get(font(), dpi()));
+        const Font used = form().application().fonts().get(font(), dpi());
+        const Selection selected(canvas.get(), used.get());
         DrawTextW(canvas.get(), text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | text_format);
     }
     // Fonts whose small sizes were drawn by hand can come out a little wider than the system measures them.
@@ -52,7 +53,8 @@ void Link::draw(const DRAWITEMSTRUCT& request) {
     // Without the colour of a link, the line is what tells it from a mere text.
     FontSpec spec = font();
     spec.underline = hot() || shown != resolve(own);
-    const Selection selected(canvas, form().application().fonts().get(spec, dpi()));
+    const Font used = form().application().fonts().get(spec, dpi());
+    const Selection selected(canvas, used.get());
     SetBkMode(canvas, TRANSPARENT);
     SetTextColor(canvas, shown);
     RECT area = request.rcItem;

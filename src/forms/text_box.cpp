@@ -129,7 +129,7 @@ void TextBox::fit_font_to_width() {
 
 int TextBox::text_width() const {
     // One more pixel than the text, or the box scrolls to make room for the caret.
-    return text_extent(form().application().fonts().get(font(), dpi()), text()).cx + 1;
+    return text_extent(form().application().fonts().get(font(), dpi()).get(), text()).cx + 1;
 }
 
 int TextBox::room() const {

@@ -97,6 +97,27 @@ TEST_F(LeakTest, HoverHelp) {
     EXPECT_GT(shown, 40);
 }
 
+TEST_F(LeakTest, FontsThatWereTried) {
+    frmCtlView viewer(application, session, no_windows);
+    viewer.show();
+    const auto is_font = [](LRESULT handle) { return GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) == OBJ_FONT; };
+    const ObjectCounts before = count_objects();
+    for (int i = 1; i <= 400; ++i) {
+        viewer.menus.add_font(L"Font " + std::to_wstring(i));
+        viewer.menus.mnuFontName.back()->pick();
+        ASSERT_EQ(viewer.Text1.font().name, L"Font " + std::to_wstring(i));
+    }
+    constexpr int kept = 100;  // some of those that are tried again soon, and what the system draws with
+    EXPECT_LT(count_objects().gdi, before.gdi + kept);
+    // What is on the screen keeps its font, be it new or old.
+    for (HWND control = GetWindow(viewer.window(), GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+        const LRESULT font = SendMessageW(control, WM_GETFONT, 0, 0);
+        EXPECT_TRUE(!font || is_font(font));
+    }
+    EXPECT_TRUE(is_font(SendMessageW(viewer.Text1.window(), WM_GETFONT, 0, 0)));
+    EXPECT_TRUE(is_font(SendMessageW(viewer.List2.window(), WM_GETFONT, 0, 0)));
+}
+
 TEST_F(LeakTest, Animations) {
     frmAbout about(application, pointer, 1);
     Dialog1 author(application, pointer);
