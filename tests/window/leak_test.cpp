@@ -50,14 +50,21 @@ struct LeakTest : SessionTest {
     PointerState pointer;
 };
 
+int brushes_in(const std::string& kinds) {
+    const std::size_t end = kinds.find(" brushes");
+    return end == std::string::npos ? -1 : std::stoi(kinds.substr(kinds.rfind(' ', end - 1)));
+}
+
 TEST_F(LeakTest, CountsWhatIsLeftOpen) {
     const ObjectCounts before = count_objects();
     const std::size_t bytes_before = allocated_bytes();
+    const std::string kinds_before = list_gdi_objects(GetCurrentProcess());
     const HBRUSH brush = CreateSolidBrush(0x123456);
     const HMENU menu = CreatePopupMenu();
     const auto memory = std::make_unique<char[]>(100'000);
     const ObjectCounts after = count_objects();
     EXPECT_GT(after.gdi, before.gdi);
+    EXPECT_EQ(brushes_in(list_gdi_objects(GetCurrentProcess())), brushes_in(kinds_before) + 1);
     EXPECT_GT(after.user, before.user);
     EXPECT_GE(allocated_bytes(), bytes_before + 100'000);
     DestroyMenu(menu);

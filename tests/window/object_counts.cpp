@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
+#include <sstream>
 #include <vector>
 
 #include "win/api.h"
@@ -39,6 +41,16 @@ std::vector<GdiEntry> gdi_table(HANDLE process) {
     return table;
 }
 
+std::vector<GdiEntry> gdi_objects(HANDLE process) {
+    const auto own = static_cast<std::uint16_t>(GetProcessId(process));
+    std::vector<GdiEntry> objects = gdi_table(process);
+    // Wine has a table for each process and leaves the number of the process out.
+    std::erase_if(objects, [own](const GdiEntry& entry) {
+        return entry.type == 0 || (entry.process != 0 && entry.process != own);
+    });
+    return objects;
+}
+
 bool is_own_object(std::uintptr_t handle) {
     if (IsMenu(reinterpret_cast<HMENU>(handle))) return true;
     const auto window = reinterpret_cast<HWND>(handle);
@@ -63,13 +75,26 @@ int count_user_objects() {
 
 }  // namespace
 
-// Wine has a table for each process and leaves the number of the process out.
 int count_gdi_objects(void* process) {
-    const auto own = static_cast<std::uint16_t>(GetProcessId(process));
-    const std::vector<GdiEntry> table = gdi_table(process);
-    return static_cast<int>(std::ranges::count_if(table, [own](const GdiEntry& entry) {
-        return entry.type != 0 && (entry.process == 0 || entry.process == own);
-    }));
+    return static_cast<int>(gdi_objects(process).size());
+}
+
+std::string list_gdi_objects(void* process) {
+    // The lowest bits of a handle's upper half; windows have contexts whose drawing goes to a surface.
+    constexpr unsigned kind_bits = 0x7F;
+    const std::map<unsigned, const char*> names = {
+        {0x01, "contexts"}, {0x41, "contexts in memory"}, {0x04, "regions"}, {0x05, "surfaces"},
+        {0x09, "bitmaps"},  {0x08, "palettes"},           {0x0A, "fonts"},   {0x10, "brushes"},
+        {0x30, "pens"}};
+    std::map<unsigned, int> counts;
+    for (const GdiEntry& entry : gdi_objects(process)) ++counts[entry.unique & kind_bits];
+    std::ostringstream text;
+    for (const auto& [kind, count] : counts) {
+        text << ' ' << count << ' ';
+        const auto name = names.find(kind);
+        name == names.end() ? text << "of kind " << kind : text << name->second;
+    }
+    return text.str();
 }
 
 ObjectCounts count_objects() {
