@@ -1,10 +1,14 @@
 // Mails to a friend and to the author, through the system to a real mail program.
 
+#include <map>
+
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
 #include "session_support.h"
 #include "text/mail.h"
 #include "win/code_page.h"
+// Needs what they include.
+#include <mapi.h>
 
 namespace quillomat {
 namespace {
@@ -13,69 +17,57 @@ using Calls = std::vector<std::string>;
 
 constexpr wchar_t message[] = L"Hi \u03A9mega!\r\n\r\n\U0001F600 Bye";
 
-std::string utf8(const std::wstring& text) {
-    const std::u8string bytes = std::filesystem::path(text).u8string();
-    return {bytes.begin(), bytes.end()};
-}
+/// What the mail program is asked for. It is this program itself, by the functions at the end of this file.
+struct MailProgram {
+    /// Records a call and answers the number it is to be refused with, or 0.
+    ULONG call(const std::string& function, const std::string& arguments) {
+        calls.push_back(function + arguments);
+        return function == refused ? refusal : SUCCESS_SUCCESS;
+    }
+    /// The calls since this was last asked, which tell when their arguments are others than they should be.
+    Calls take_calls() { return std::exchange(calls, {}); }
+
+    Calls calls;
+    bool in_session = false;
+    /// The last mail: address, name and subject, a line each, and the text.
+    std::wstring mail;
+    /// The files that went with it, by the names the recipient sees.
+    std::map<std::wstring, std::string> files;
+    std::string refused;
+    ULONG refusal = 0;
+};
+
+MailProgram mail_program;
 
 /// A window that sends mails, on a computer whose default mail program is the tests' own.
 struct MailTest : SessionTest {
     MailTest() {
-        std::filesystem::create_directories(record());
-        SetEnvironmentVariableW(L"QUILLOMAT_MAIL_FOLDER", record().c_str());
-        refuse(L"");
-        machine.set(L"Software\\Clients\\Mail", nullptr, L"Recorder");
-        machine.set(L"Software\\Clients\\Mail\\Recorder", L"DLLPath", recorder_path());
-    }
-
-    /// Has the mail program refuse a call, as in "MAPILogon=3"; an empty text has it refuse none.
-    static void refuse(const wchar_t* call) { SetEnvironmentVariableW(L"QUILLOMAT_MAIL_REFUSE", call); }
-
-    /// The calls the mail program has received since this was last asked.
-    std::vector<std::string> calls() const {
-        std::ifstream file(record() / "calls.txt");
-        std::vector<std::string> lines;
-        for (std::string line; std::getline(file, line);) lines.push_back(line);
-        file.close();
-        std::filesystem::remove(record() / "calls.txt");
-        return lines;
-    }
-    /// A part of the last mail, or a file that went with it.
-    std::string sent(const char* part) const { return bytes(record() / part); }
-    bool sent_a_file() const { return !std::filesystem::is_empty(record() / "files"); }
-
-    void expect_requirements() {
-        expect_message(
-            L"Message",
-            L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, "
-            L"Netscape, Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You "
-            L"cannot send e-mail from Quillomat if you use Hotmail or any other web based e-mail.");
-    }
-
-    RegistryOverride machine{HKEY_LOCAL_MACHINE};
-
-  private:
-    std::filesystem::path record() const { return folder.path() / "record"; }
-
-    static std::wstring recorder_path() {
+        mail_program = {};
         wchar_t path[MAX_PATH];
         GetModuleFileNameW(nullptr, path, MAX_PATH);
-        return std::filesystem::path(path).replace_filename(L"mapi_recorder.dll").wstring();
+        machine.set(L"Software\\Clients\\Mail", nullptr, L"Recorder");
+        machine.set(L"Software\\Clients\\Mail\\Recorder", L"DLLPath", path);
     }
+
+    static void refuse(const char* function, ULONG answer) {
+        mail_program.refused = function;
+        mail_program.refusal = answer;
+    }
+    void expect_requirements() { expect_message(L"Message", mail_requirements); }
+
+    RegistryOverride machine{HKEY_LOCAL_MACHINE};
 };
 
 struct MailCheatsTest : MailTest {
-    /// Sixty games, one of them with letters beyond ASCII.
+    /// Twelve games, one of them with letters beyond ASCII.
     MailCheatsTest() {
         std::string database;
-        for (int number = 0; number < 60; ++number) {
-            database += cheats(number) + "\r\n$$$$$$$$$$$$$$$$$$$$ ";
+        for (int number = 0; number < 12; ++number) {
+            database += "Press " + std::to_string(number) + " times\r\n\r\n\tand \xBD & \"quotes\"\r\n";
+            database += "$$$$$$$$$$$$$$$$$$$$ ";
             database += (number == 7 ? "\xC9t\xE9 " : "Game ") + std::to_string(number) + "\r\n";
         }
         session.catalogue.load(decode(database), [this](std::wstring_view name) { games.names.emplace_back(name); });
-    }
-    static std::string cheats(int number) {
-        return "Press " + std::to_string(number) + " times\r\n\r\n\tand \xBD & \"quotes\"";
     }
 
     void open(std::initializer_list<int> picked = {}) {
@@ -104,64 +96,52 @@ struct MailCheatsTest : MailTest {
         press(form->Command1);
         pump();
         ASSERT_TRUE(form) << "the window stays open";
-        EXPECT_EQ(calls(), expected_calls);
+        EXPECT_EQ(mail_program.take_calls(), expected_calls);
     }
 
     GamesToPick games;
     std::unique_ptr<frmMailCheats> form;
 };
 
-TEST_F(MailCheatsTest, FiftyGamesArriveToTheByteInTheMailAndInAFile) {
+TEST_F(MailCheatsTest, GamesArriveToTheByteInTheMailAndInAFile) {
+    // A name finds the first game that has it.
+    session.catalogue.store(10, L"Game 3", L"a second one");
+    session.catalogue.store(11, L"Renamed", L"under another name");
+    const std::wstring frame = L"********************\r\n";
+    const std::wstring separator = L"\r\n\r\n-----------------------------------\r\n\r\n";
+    const std::wstring text = frame + L"Game 3\r\n" + frame +
+                              L"\r\nPress 3 times\r\n\r\n\tand \u00BD & \"quotes\"\r\n\r\n" + frame +
+                              L"\u00C9t\u00E9 7\r\n" + frame + L"\r\nPress 7 times\r\n\r\n\tand \u00BD & \"quotes\"";
     for (const bool in_file : {false, true}) {
-        open();
+        open({3, 7, 11});
         (in_file ? form->Option2 : form->Option1).set_value(true);
-        std::vector<MailedGame> picked;
-        for (int number = 0; number < 50; ++number) {
-            form->List1.set_picked(number, true);
-            picked.push_back({session.catalogue.name(number), session.catalogue.cheats(number)});
-        }
         expect_sent();
-        const std::string send = in_file ? "MAPISendMailW to one file" : "MAPISendMailW to one";
-        EXPECT_EQ(calls(), (Calls{"MAPILogon dialog", send, "MAPILogoff"}));
-        EXPECT_EQ(sent("mail/address"), "friend@home.example");
-        EXPECT_EQ(sent("mail/name"), "\xCE\xA9mega");
-        EXPECT_EQ(sent("mail/subject"), "Cheat codes sent from M\xC3\xBCller \xE6\x97\xA5\xE6\x9C\xAC to \xCE\xA9mega");
-        EXPECT_EQ(sent_a_file(), in_file);
-        const std::wstring text = mailed_cheats(picked);
-        EXPECT_EQ(sent("mail/text"), utf8(in_file ? cheats_mail_body(message) : cheats_mail_body(message, text)));
-        if (in_file) {
-            EXPECT_EQ(sent("files/Cheats.txt"), encode(text) + "\r\n") << "the bytes of the database";
-        }
+        const char* const send = in_file ? "MAPISendMailW with file" : "MAPISendMailW";
+        EXPECT_EQ(mail_program.take_calls(), (Calls{"MAPILogon", send, "MAPILogoff"}));
+        EXPECT_EQ(mail_program.mail,
+                  L"friend@home.example\n\u03A9mega\nCheat codes sent from M\u00FCller \u65E5\u672C to \u03A9mega\n" +
+                      (message + separator) + (in_file ? L"" : text + separator) +
+                      L"Cheat codes taken from Quillomat.\r\nwww.tobferrand.example");
+        std::map<std::wstring, std::string> files;
+        if (in_file) files[L"Cheats.txt"] = encode(text) + "\r\n";
+        EXPECT_EQ(mail_program.files, files) << "the bytes of the database";
     }
 }
 
-TEST_F(MailCheatsTest, ANameFindsTheFirstGameThatHasIt) {
-    session.catalogue.store(20, L"Game 3", L"a second one");
-    session.catalogue.store(21, L"Renamed", L"under another name");
-    open({3, 21});
-    form->Option1.set_value(true);
-    expect_sent();
-    const std::string separator = "\r\n\r\n-----------------------------------\r\n\r\n";
-    EXPECT_EQ(sent("mail/text"), utf8(message) + separator +
-                                     "********************\r\nGame 3\r\n********************\r\n\r\n" +
-                                     "Press 3 times\r\n\r\n\tand \xC2\xBD & \"quotes\"" + separator +
-                                     "Cheat codes taken from Quillomat.\r\nwww.tobferrand.example");
-}
-
 TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {
-    const Calls all{"MAPILogon dialog", "MAPISendMailW to one file", "MAPILogoff"};
-    const std::tuple<const wchar_t*, const wchar_t*, Calls> cases[] = {
-        {L"MAPILogon=1", L": you cancelled it.", {"MAPILogon dialog"}},
-        {L"MAPISendMailW=1", L": you cancelled it.", all},
-        {L"MAPISendMailW=14", L": your mail program does not accept the e-mail address. Check how it is written.", all},
+    const Calls all{"MAPILogon", "MAPISendMailW with file", "MAPILogoff"};
+    const std::tuple<const char*, ULONG, const wchar_t*, Calls> cases[] = {
+        {"MAPILogon", 1, L": you cancelled it.", {"MAPILogon"}},
+        {"MAPISendMailW", 1, L": you cancelled it.", all},
+        {"MAPISendMailW", 14, L": your mail program does not accept the e-mail address. Check how it is written.", all},
         // An older mail program gets every character or nothing.
-        {L"MAPISendMailW=27", L": your mail program cannot send some of the characters in it.", all},
+        {"MAPISendMailW", 27, L": your mail program cannot send some of the characters in it.", all},
     };
     open({3, 7, 11});
     form->Option2.set_value(true);
     form->Command1.set_focus();
-    for (const auto& [call, why, expected_calls] : cases) {
-        refuse(call);
+    for (const auto& [function, answer, why, expected_calls] : cases) {
+        refuse(function, answer);
         expect_not_sent(why, expected_calls);
         EXPECT_FALSE(exists("Cheats.txt"));
         expect_filled_in();
@@ -169,7 +149,7 @@ TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {
         EXPECT_FALSE(form->Label6.visible()) << "nothing waits any more";
         EXPECT_TRUE(IsWindowEnabled(form->window()) && form->Command1.has_focus());
     }
-    refuse(L"MAPILogoff=2");
+    refuse("MAPILogoff", 2);
     expect_sent();  // however the session ends
 }
 
@@ -181,7 +161,7 @@ TEST_F(MailCheatsTest, AFileThatCannotBeWrittenAndAMissingMailProgramAreExplaine
     form->Option2.set_value(true);
     expect_not_sent(L", because this file, which goes with it, cannot be written:\n" + path.wstring() +
                         L"\n\nPermission denied\n\nYou can include the cheats in the e-mail instead.",
-                    {"MAPILogon dialog", "MAPILogoff"});
+                    {"MAPILogon", "MAPILogoff"});
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(bytes("Cheats.txt"), "mine");
     machine.remove(L"Software\\Clients");
@@ -255,24 +235,20 @@ TEST_F(MailMeTest, APickedSubjectAndATypedMessageReachTheAuthor) {
     ASSERT_SOON(form->Text1.text() == L"no\r\n");
     EXPECT_EQ(form->Text1.tool_tip(), L"Total - 2 lines.");
 
-    refuse(L"MAPISendMailW=1");
+    refuse("MAPISendMailW", 1);
     expect_message(L"Quillomat", L"The message was not sent: you cancelled it.");
     press(form->Command1);
     ASSERT_TRUE(form);
-    EXPECT_EQ(calls().back(), "MAPILogoff");
-    refuse(L"");
+    EXPECT_EQ(mail_program.take_calls().back(), "MAPILogoff");
+    refuse("", 0);
     form->Text1.set_focus();
     press_key(VK_TAB);
     press_key(VK_SPACE);
     expect_message(L"Quillomat", L"The message was sent!");
     ASSERT_SOON(!form);
-    EXPECT_EQ(calls(), (Calls{"MAPILogon dialog", "MAPISendMailW to one", "MAPILogoff"}));
-    const std::pair<const char*, const char*> parts[] = {{"mail/address", "tob@tobferrand.example"},
-                                                         {"mail/name", "Tobin Ferrand"},
-                                                         {"mail/subject", "Quillomat sucks! (sent from QLM)"},
-                                                         {"mail/text", "no\r\n"}};
-    for (const auto& [part, expected] : parts) EXPECT_EQ(sent(part), expected);
-    EXPECT_FALSE(sent_a_file());
+    EXPECT_EQ(mail_program.take_calls(), (Calls{"MAPILogon", "MAPISendMailW", "MAPILogoff"}));
+    EXPECT_EQ(mail_program.mail, L"tob@tobferrand.example\nTobin Ferrand\nQuillomat sucks! (sent from QLM)\nno\r\n");
+    EXPECT_TRUE(mail_program.files.empty());
 }
 
 TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
@@ -296,5 +272,55 @@ TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
     EXPECT_SOON(!form);
 }
 
+constexpr LHANDLE only_session = 4711;
+
+/// A text of the wide functions' structures, which only newer headers have: they differ in their characters alone.
+const wchar_t* wide(const char* text) {
+    return reinterpret_cast<const wchar_t*>(text);
+}
+
 }  // namespace
+
+extern "C" {
+
+__declspec(dllexport) ULONG WINAPI MAPILogon(ULONG_PTR, LPSTR profile, LPSTR, FLAGS flags, ULONG, LPLHANDLE session) {
+    const ULONG refusal = mail_program.call("MAPILogon", flags == MAPI_LOGON_UI && !profile ? "" : " wrongly");
+    if (refusal != 0) return refusal;
+    mail_program.in_session = true;
+    *session = only_session;
+    return SUCCESS_SUCCESS;
+}
+
+__declspec(dllexport) ULONG WINAPI MAPILogoff(LHANDLE session, ULONG_PTR, FLAGS, ULONG) {
+    const bool rightly = session == only_session && std::exchange(mail_program.in_session, false);
+    return mail_program.call("MAPILogoff", rightly ? "" : " wrongly");
+}
+
+__declspec(dllexport) ULONG WINAPI
+    MAPISendMailW(LHANDLE session, ULONG_PTR owner, lpMapiMessage mail, FLAGS flags, ULONG) {
+    const MapiRecipDesc& recipient = mail->lpRecips[0];
+    const bool with_file = mail->nFileCount == 1;
+    const bool rightly = session == only_session && mail_program.in_session && mail->nRecipCount == 1 &&
+                         recipient.ulRecipClass == MAPI_TO && !(flags & MAPI_DIALOG) &&
+                         IsWindow(reinterpret_cast<HWND>(owner)) &&
+                         (!with_file || mail->lpFiles[0].nPosition == 0xFFFFFFFF);
+    const ULONG refusal =
+        mail_program.call("MAPISendMailW", std::string(with_file ? " with file" : "") + (rightly ? "" : " wrongly"));
+    if (refusal != 0) return refusal;
+    mail_program.mail.clear();
+    for (const char* part : {recipient.lpszAddress, recipient.lpszName, mail->lpszSubject}) {
+        mail_program.mail.append(wide(part)).append(L"\n");
+    }
+    mail_program.mail += wide(mail->lpszNoteText);
+    mail_program.files.clear();
+    for (ULONG index = 0; index < mail->nFileCount; ++index) {
+        const MapiFileDesc& file = mail->lpFiles[index];
+        const std::filesystem::path path = wide(file.lpszPathName);
+        const std::wstring name = file.lpszFileName ? wide(file.lpszFileName) : path.filename().wstring();
+        mail_program.files[name] = bytes_of(path);
+    }
+    return SUCCESS_SUCCESS;
+}
+
+}  // extern "C"
 }  // namespace quillomat
