@@ -3,6 +3,8 @@
 //   durability_tests kill append|replace KILLS            ends a writing copy of itself that often
 //   durability_tests full FOLDER                         fills the disk of a folder, which must be a small one
 
+#include <process.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -81,17 +83,10 @@ int write_on_and_on(Way way, const std::wstring& path) {
 
 /// A copy of this program that writes until it is ended.
 FileHandle start_writer(Way way, const std::wstring& path) {
-    std::wstring command = L"\"" + program_folder() + L"\\durability_tests.exe\" write " +
-                           (way == Way::Append ? L"append" : L"replace") + L" \"" + path + L"\"";
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
-    PROCESS_INFORMATION process{};
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr, &start,
-                        &process)) {
-        throw_last_error();
-    }
-    CloseHandle(process.hThread);
-    return FileHandle(process.hProcess);
+    const std::wstring program = program_folder() + L"\\durability_tests.exe";
+    return FileHandle(reinterpret_cast<HANDLE>(_wspawnl(_P_NOWAIT, program.c_str(), L"durability_tests", L"write",
+                                                        way == Way::Append ? L"append" : L"replace",
+                                                        (L"\"" + path + L"\"").c_str(), nullptr)));
 }
 
 /// Waits without giving up the processor: the system's own waiting is coarser than one writing is long.
