@@ -2,7 +2,6 @@
 
 #include "output/frmAddNew.h"
 #include "shown_viewer.h"
-#include "text/error.h"
 #include "win/code_page.h"
 
 namespace quillomat {
@@ -92,11 +91,9 @@ TEST_F(AddGameTest, AFailureLeavesTheFileAsItWasAndWhatWasTyped) {
     open();
     // What the code page lacks is refused before the game is anywhere.
     type(L"Half", L"a pair \xD83D");
-    try {
-        encode(L"\xD83D");
-    } catch (const Error& error) {
-        expect_message(L"Error!", error.description());
-    }
+    expect_message(L"Error!",
+                   L"The character \"\xD83D\" (U+D83D) cannot be written to a text file in this system's "
+                   L"character set. Please replace it and try again.");
     add();
     EXPECT_EQ(window->Text2.text(), L"a pair \xD83D");
     expect_unchanged(2);

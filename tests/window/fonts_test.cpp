@@ -1,6 +1,5 @@
 // Collecting fonts into the viewer's menu and its file, and choosing one.
 
-#include <deque>
 #include <set>
 
 #include "shown_viewer.h"
@@ -46,11 +45,7 @@ struct FontsTest : ShownViewerTest {
         expect_message(
             L"Success!",
             L"All fonts have been collected!\r\nYou may now choose any font which you would like from the FONT Menu!");
-        menu_keys_ = std::move(keys_in_menu);
-        const UINT_PTR timer = SetTimer(nullptr, 0, 20, press_key_in_menu);
-        collect();
-        KillTimer(nullptr, timer);
-        EXPECT_TRUE(menu_keys_.empty()) << "the menu has popped up";
+        press_in_menus(std::move(keys_in_menu), [this] { collect(); });
     }
     /// As a message, like the user's: while it is handled, the viewer is not destroyed.
     void collect() {
@@ -60,15 +55,6 @@ struct FontsTest : ShownViewerTest {
 
     Names fonts;
     std::function<void(int position)> on_asked;
-
-  private:
-    static void CALLBACK press_key_in_menu(HWND, UINT, UINT_PTR, DWORD) {
-        if (!in_menu() || menu_keys_.empty()) return;
-        press_key(menu_keys_.front());
-        menu_keys_.pop_front();
-    }
-
-    static inline std::deque<WORD> menu_keys_;
 };
 
 TEST_F(FontsTest, CollectsAllButTheFirstSortedIntoMenuAndFile) {

@@ -103,6 +103,18 @@ void WindowTest::click(DWORD down, DWORD up) {
     send_mouse(up);
 }
 
+void WindowTest::press_in_menus(std::deque<WORD> keys, const std::function<void()>& open) {
+    menu_keys_ = std::move(keys);
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
+        if (!in_menu() || menu_keys_.empty()) return;
+        press_key(menu_keys_.front());
+        menu_keys_.pop_front();
+    });
+    open();
+    EXPECT_SOON(menu_keys_.empty()) << "no menu has opened";
+    KillTimer(nullptr, timer);
+}
+
 std::wstring WindowTest::clipboard_text() {
     std::wstring text;
     if (!OpenClipboard(nullptr)) return text;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
@@ -57,6 +58,9 @@ class WindowTest : public ::testing::Test {
     /// The text on the clipboard; nothing when there is none.
     static std::wstring clipboard_text();
 
+    /// Presses keys, one after the other, in the menus that open while something is done. Every one must be used.
+    void press_in_menus(std::deque<WORD> keys, const std::function<void()>& open);
+
     Application application{L"Quillomat"};
 
   private:
@@ -70,6 +74,7 @@ class WindowTest : public ::testing::Test {
     void answer(HWND box);
 
     static WindowTest* running_;
+    static inline std::deque<WORD> menu_keys_;
     HHOOK hook_;
     std::vector<Announced> announced_;
 };

@@ -96,17 +96,7 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
         EXPECT_SOON(viewer->List2.selected_index() == selected);
         EXPECT_FALSE(in_menu()) << "the release of Alt has nothing to do with the menu bar";
     }
-    static bool menu_opened;
-    menu_opened = false;
-    const UINT_PTR watch = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        menu_opened = in_menu();
-        if (!menu_opened) return;
-        KillTimer(nullptr, timer);
-        press_key(VK_ESCAPE);
-    });
-    press_key(VK_MENU);
-    EXPECT_SOON(menu_opened) << "Alt alone";
-    KillTimer(nullptr, watch);
+    press_in_menus({VK_ESCAPE}, [] { press_key(VK_MENU); });  // Alt alone
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
 
     int finds = 0;
