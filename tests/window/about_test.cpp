@@ -21,11 +21,8 @@ struct AboutTest : WindowTest {
     std::vector<Link*> links() const {
         return {&author->Label3, &author->Label4, &author->Label5, &author->Label6, &author->Label8};
     }
-    void expect_opened(const char* address) {
-        std::string opened;
-        EXPECT_SOON(!(opened = links_.take()).empty());
-        EXPECT_EQ(opened, address);
-    }
+    /// An address is opened that is another one than the last.
+    void expect_opened(const std::string& address) { EXPECT_SOON(links_.last() == address + "\r\n") << address; }
 
     PointerState pointer;
     std::unique_ptr<frmAbout> about;

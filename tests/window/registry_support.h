@@ -1,6 +1,5 @@
 #pragma once
 
-#include <fstream>
 #include <string>
 
 #include "common/settings.h"
@@ -63,23 +62,15 @@ class CaughtLinks {
         for (const wchar_t* protocol : {L"http", L"mailto"}) {
             classes_.set(protocol, L"URL Protocol", L"");
             classes_.set(std::wstring(protocol) + L"\\shell\\open\\command", nullptr,
-                         L"cmd.exe /c echo %1>\"" + file_.wstring() + L"\"");
+                         L"cmd.exe /c echo %1>\"" + folder_.path().wstring() + L"\\link.txt\"");
         }
     }
 
-    /// The address opened since the last call; empty when there is none yet.
-    std::string take() const {
-        std::string address;
-        std::getline(std::ifstream(file_), address);
-        if (address.ends_with('\r')) address.pop_back();
-        std::error_code ignored;
-        if (!address.empty()) std::filesystem::remove(file_, ignored);
-        return address;
-    }
+    /// What was opened last, with a line end.
+    std::string last() const { return folder_.read("link.txt"); }
 
   private:
     TemporaryFolder folder_;
-    std::filesystem::path file_ = folder_.path() / "link.txt";
     RegistryOverride classes_{HKEY_CLASSES_ROOT};
 };
 
