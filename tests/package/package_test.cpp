@@ -1,13 +1,14 @@
 // The installer and the zip as a player has them: installed, used, updated and removed, and no game is ever lost.
 
 #include <gtest/gtest.h>
-#include <shlobj.h>
 
 #include <set>
 #include <stdexcept>
 
 #include "program/program.h"
 #include "text/product.h"
+// Needs what they include.
+#include <shellapi.h>
 
 namespace quillomat {
 namespace {
@@ -31,14 +32,6 @@ std::set<std::wstring> names_in(const fs::path& folder) {
     std::error_code missing;
     for (const auto& entry : fs::directory_iterator(folder, missing)) names.insert(entry.path().filename().wstring());
     return names;
-}
-
-fs::path known_folder(const KNOWNFOLDERID& id) {
-    wchar_t* path = nullptr;
-    SHGetKnownFolderPath(id, KF_FLAG_CREATE, nullptr, &path);
-    const fs::path folder = path ? path : L"";
-    CoTaskMemFree(path);
-    return folder;
 }
 
 /// Empty when there is no such value.
@@ -96,9 +89,9 @@ struct Package : testing::Test {
     fs::path file(const wchar_t* name) const { return folder / name; }
     fs::path database() const { return file(L"Cheats.dat"); }
 
-    const fs::path folder = known_folder(FOLDERID_LocalAppData) / L"Programs" / L"Quillomat";
+    const fs::path folder = fs::path(_wgetenv(L"LOCALAPPDATA")) / L"Programs" / L"Quillomat";
     const fs::path other_folder = fs::temp_directory_path() / L"Quillomat of a player";
-    const fs::path shortcut = known_folder(FOLDERID_Programs) / L"Quillomat.lnk";
+    const fs::path shortcut = fs::path(_wgetenv(L"APPDATA")) / L"Microsoft/Windows/Start Menu/Programs/Quillomat.lnk";
     const std::string shipped_database = bytes_of(packages / L"app" / L"Cheats.dat");
     const std::string newer_database = bytes_of(packages / L"app-newer" / L"Cheats.dat");
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "program/program.h"
@@ -16,9 +17,8 @@ std::string record(const std::string& cheats, const std::string& name) {
 }
 
 std::string any_bytes() {
-    std::mt19937 random(20100521);
     std::string bytes(1 << 20, '\0');
-    for (char& byte : bytes) byte = static_cast<char>(random() & 0xFF);
+    std::ranges::generate(bytes, std::mt19937(20100521));
     return bytes;
 }
 
