@@ -225,7 +225,7 @@ struct MailMeTest : MailTest {
 
 TEST_F(MailMeTest, APickedSubjectAndATypedMessageReachTheAuthor) {
     open();
-    EXPECT_TRUE(form->Combo1.has_focus());
+    EXPECT_TRUE(form->Combo1.has_focus() && !form->Command1.enabled());
     for (int i = 0; i < 5; ++i) press_key(VK_DOWN);
     ASSERT_SOON(form->Combo1.text() == L"Quillomat sucks!");
     EXPECT_FALSE(form->Command1.enabled()) << "there is no message yet";
