@@ -12,6 +12,8 @@ struct Bounds {
     double top = 0;
     double width = 0;
     double height = 0;
+
+    bool operator==(const Bounds&) const = default;
 };
 
 /// Twips to whole pixels at `dpi`, a half going to the even neighbour.

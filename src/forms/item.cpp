@@ -36,6 +36,7 @@ void Item::set_height(double twips) {
 }
 
 void Item::move(Bounds bounds) {
+    if (bounds == bounds_) return;
     bounds_ = bounds;
     apply_bounds();
 }
