@@ -6,7 +6,9 @@ namespace quillomat {
 
 OptionButton::OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group, Choice choice)
     : Control(container, bounds, L"BUTTON", caption,
-              BS_AUTORADIOBUTTON | WS_TABSTOP | (group == Group::Starts ? WS_GROUP : 0)),
+              // A group is one stop of the Tab key, at what is set; the system moves the stop with the choice.
+              BS_AUTORADIOBUTTON | (group == Group::Starts ? WS_GROUP : 0) |
+                  (group == Group::Starts || choice == Choice::Set ? WS_TABSTOP : 0)),
       value_(choice == Choice::Set) {
     // Now and not later: the system looks through all that stands on the container for the others of the group.
     if (value_) send(BM_SETCHECK, BST_CHECKED);

@@ -64,6 +64,7 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     EXPECT_EQ(viewer->List2.count(), 6) << "later openings list from memory";
     EXPECT_EQ(viewer->List2.item(5), L"Added");
     EXPECT_EQ(viewer->search_panel().Text3.text(), L"keyword") << "though nobody searched the last time";
+    EXPECT_EQ(viewer->search_panel().Text3.selected_text(), L"keyword") << "it is typed over";
     EXPECT_TRUE(viewer->search_panel().Command1.enabled());
     EXPECT_EQ(viewer->search_panel().List1.back_colour(), colours::white);
 }
@@ -134,6 +135,11 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
         wchar_t text[32]{};
         GetWindowTextW(GetWindow(control->window(), GW_HWNDPREV), text, 32);
         EXPECT_STREQ(text, name);
+    }
+    SearchPanel& panel = viewer->search_panel();
+    for (const Control* next : std::initializer_list<const Control*>{&panel.Option3, &panel.List1, &viewer->Text1}) {
+        press_key(VK_TAB);
+        EXPECT_SOON(next->has_focus()) << "what can be used in the order of reading, and the scope as one stop";
     }
     const auto search = [this](const wchar_t* keyword) {
         viewer->search_panel().Text3.set_text(keyword);
