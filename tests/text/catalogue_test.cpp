@@ -35,6 +35,29 @@ Names relist(const Catalogue& catalogue) {
     return listed;
 }
 
+TEST(Catalogue, FillsTheSlots) {
+    const std::tuple<const char*, std::wstring, Names, Names> cases[] = {
+        {"a name line first", marker + L" A\r\nx\r\n" + marker + L" B\r\n", {L"A", L"B"}, {L"", L"x", L""}},
+        {"empty lines around", L"\r\n\r\na\r\n\r\nb\r\n\r\n" + marker + L" A\r\n", {L"A"}, {L"a\r\n\r\nb\r\n"}},
+        {"more dollar signs belong to the name", marker + L"$$$\r\n", {L"$$"}, {L""}},
+        {"an empty name", marker + L" \r\n" + marker + L" B\r\n", {L"", L"B"}, {L"", L""}},
+        {"dollar signs inside a line", L" " + marker + L" A\r\n", {}, {L" " + marker + L" A"}},
+        {"trailing text", marker + L" A\r\nleft\r\nover", {L"A"}, {L"", L"left\r\nover"}},
+        {"a lone CR ends a line", L"a\rb\r\r\n" + marker + L" A\r", {L"A"}, {L"a\r\nb\r\n"}},
+        {"a lone LF does not", L"a\n" + marker + L" A\r\n", {}, {L"a\n" + marker + L" A"}},
+        {"NUL characters", std::wstring(L"a\0b\r\n", 5) + marker + L" A", {L"A"}, {{L"a\0b", 3}}},
+    };
+    for (const auto& [what, text, names, cheats] : cases) {
+        Catalogue catalogue;
+        Names listed;
+        catalogue.load(decoded(text), [&](std::wstring_view name) { listed.emplace_back(name); });
+        EXPECT_EQ(listed, names) << what;
+        for (std::size_t slot = 0; slot < cheats.size(); ++slot) {
+            EXPECT_EQ(catalogue.cheats(static_cast<int>(slot)), cheats[slot]) << what << ", slot " << slot;
+        }
+    }
+}
+
 TEST(Catalogue, HoldsAllItsSlotsAndNoLineMore) {
     Catalogue catalogue;
     for (const std::wstring& more : {std::wstring(), std::wstring(L"\r\n"), std::wstring(L"x"), marker}) {
