@@ -15,7 +15,6 @@ DropDownList::DropDownList(Container& container, Bounds bounds)
     : Control(container, bounds, L"COMBOBOX", {},
               CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP | WS_GROUP) {
     set_default_back_colour(colours::window);
-    fit_field();
     DropDownList::apply_bounds();
 }
 
@@ -49,23 +48,15 @@ void DropDownList::report_change() {
     raise(on_change);
 }
 
-void DropDownList::fit_field() {
-    constexpr auto field = static_cast<WPARAM>(-1);
-    send(CB_SETITEMHEIGHT, field, to_pixels(exact_bounds().height, dpi()) - frame_pixels);
-}
-
 void DropDownList::apply_bounds() {
-    // The system counts the dropped-down list into the height of the window, and makes it no longer than its texts.
     const Bounds& bounds = exact_bounds();
+    constexpr auto field = static_cast<WPARAM>(-1);
+    send(CB_SETITEMHEIGHT, field, to_pixels(bounds.height, dpi()) - frame_pixels);
+    // The system counts the dropped-down list into the height of the window, and makes it no longer than its texts.
     const int list_height = most_texts_shown * static_cast<int>(send(CB_GETITEMHEIGHT, 0));
     SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
                  to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void DropDownList::resolution_changed() {
-    Control::resolution_changed();
-    fit_field();
 }
 
 }  // namespace quillomat

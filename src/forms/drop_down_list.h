@@ -29,13 +29,11 @@ class DropDownList : public Control {
     std::wstring text() const { return window_text(); }
 
     void notified(WORD code) override;
-    void resolution_changed() override;
 
   protected:
     void apply_bounds() override;
 
   private:
-    void fit_field();
     void report_change();
 
     std::optional<int> reported_;

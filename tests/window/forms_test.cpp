@@ -1,6 +1,7 @@
 // The rules that every window of the program relies on, held over every kind of control.
 
 #include "forms/button.h"
+#include "forms/drop_down_list.h"
 #include "forms/form.h"
 #include "forms/frame.h"
 #include "forms/gdi.h"
@@ -116,6 +117,19 @@ TEST_F(FormsTest, GeometryIsKeptInTwipsAndReadBackInWholePixels) {
         EXPECT_EQ(area.left, to_pixels(1007, dpi));
         EXPECT_EQ(area.right - area.left, to_pixels(1200, dpi)) << "sizes follow the resolution";
     }
+}
+
+TEST_F(FormsTest, ADropDownListFollowsTheResolution) {
+    const auto dropped_height = [](const DropDownList& list) {
+        RECT area{};
+        SendMessageW(list.window(), CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&area));
+        return area.bottom - area.top;
+    };
+    const DropDownList moved(board, {120, 120, 2000, 315});
+    const RECT suggested{0, 0, 500, 500};
+    SendMessageW(board.window(), WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&suggested));
+    const DropDownList made(board, {120, 120, 2000, 315});
+    EXPECT_EQ(dropped_height(moved), dropped_height(made));
 }
 
 TEST_F(FormsTest, TabWalksInTheOrderOfReadingWhateverComesToTheFront) {
