@@ -78,9 +78,12 @@ int write_on_and_on(Way way, const std::wstring& path) {
 /// A copy of this program that writes until it is ended.
 FileHandle start_writer(Way way, const std::wstring& path) {
     const std::wstring program = program_folder() + L"\\durability_tests.exe";
-    return FileHandle(reinterpret_cast<HANDLE>(_wspawnl(_P_NOWAIT, program.c_str(), L"durability_tests", L"write",
+    FileHandle writer(reinterpret_cast<HANDLE>(_wspawnl(_P_NOWAIT, program.c_str(), L"durability_tests", L"write",
                                                         way == &TextFileSlot::append ? L"append" : L"replace",
                                                         (L"\"" + path + L"\"").c_str(), nullptr)));
+    // What is returned instead of a handle stands for this process in the calls that wait for one and end it.
+    if (!writer) throw_last_error();
+    return writer;
 }
 
 /// Waits without giving up the processor: the system's own waiting is coarser than one writing is long.
