@@ -5,7 +5,6 @@
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
 #include "session_support.h"
-#include "text/mail.h"
 #include "win/code_page.h"
 // Needs what they include.
 #include <mapi.h>
@@ -53,7 +52,13 @@ struct MailTest : SessionTest {
         mail_program.refused = function;
         mail_program.refusal = answer;
     }
-    void expect_requirements() { expect_message(L"Message", mail_requirements); }
+    void expect_requirements() {
+        expect_message(
+            L"Message",
+            L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, "
+            L"Netscape, Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You "
+            L"cannot send e-mail from Quillomat if you use Hotmail or any other web based e-mail.");
+    }
 
     RegistryOverride machine{HKEY_LOCAL_MACHINE};
 };
