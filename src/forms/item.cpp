@@ -35,6 +35,10 @@ void Item::set_height(double twips) {
     move({bounds_.left, bounds_.top, bounds_.width, twips});
 }
 
+void Item::set_size(double width, double height) {
+    move({bounds_.left, bounds_.top, width, height});
+}
+
 void Item::move(Bounds bounds) {
     if (bounds == bounds_) return;
     bounds_ = bounds;

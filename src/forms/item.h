@@ -33,6 +33,8 @@ class Item : public MouseEvents {
     void set_top(double twips);
     void set_width(double twips);
     void set_height(double twips);
+    /// Both at once, where it stands.
+    void set_size(double width, double height);
     /// Puts it in another place and size: one step instead of four.
     void move(Bounds bounds);
     /// Moves the item by a distance in twips; there and back again is exactly where it was.

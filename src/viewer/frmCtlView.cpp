@@ -123,7 +123,7 @@ void frmCtlView::Form_Resize() {
     if (restore_minimum_size(*this, viewer_minimum_size)) return;
     const WindowSize size{width(), height()};
     const ViewerLayout layout = viewer_layout(size);
-    Text1.move({Text1.left(), Text1.top(), layout.text_width, layout.text_height});
+    Text1.set_size(layout.text_width, layout.text_height);
     List2.set_height(layout.game_list_height);
     if (search_panel_) search_panel_->List1.set_height(layout.result_list_height);
     Frame2.set_height(layout.search_panel_height);

@@ -193,6 +193,24 @@ TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised
     EXPECT_SOON(viewer->caption() == L"Alpha");
 }
 
+TEST_F(ViewerTest, KeepsItsPlacesThroughAChangeOfResolution) {
+    open_viewer();
+    application.force_dpi(192);
+    const RECT place{0, 0, 1300, 900};
+    SendMessageW(viewer->window(), WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&place));
+    EXPECT_DOUBLE_EQ(viewer->Text1.left(), to_twips(to_pixels(2680, 192), 192)) << "and not as 96 dpi has rounded it";
+    // The search panel, which is made only now, is made for it.
+    RECT frame{};
+    RECT list{};
+    viewer->Option2.set_value(true);
+    GetClientRect(viewer->Frame2.window(), &frame);
+    GetWindowRect(viewer->search_panel().List1.window(), &list);
+    MapWindowPoints(nullptr, viewer->Frame2.window(), reinterpret_cast<POINT*>(&list), 2);
+    EXPECT_NEAR(list.bottom, frame.bottom, 1);
+    EXPECT_EQ(SendMessageW(viewer->search_panel().List1.window(), LB_GETITEMHEIGHT, 0, 0),
+              SendMessageW(viewer->List2.window(), LB_GETITEMHEIGHT, 0, 0));
+}
+
 TEST_F(ViewerTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
     // At this resolution the smallest sizes are larger than any window the system allows on the tests' screen.
     application.force_dpi(480);
