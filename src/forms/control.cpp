@@ -199,9 +199,9 @@ void Control::set_tool_tip(std::wstring text) {
 void Control::put_name_before() {
     if (spoken_name_.empty()) return;
     // They take a control's name from the text right before it, wherever the control is in the order by now. The text
-    // is there, but takes no room.
+    // is there, but takes no room, and the arrow keys do not walk to it from the options before it.
     if (!name_window_) {
-        name_window_ = CreateWindowExW(0, L"STATIC", spoken_name_.c_str(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0,
+        name_window_ = CreateWindowExW(0, L"STATIC", spoken_name_.c_str(), WS_CHILD | WS_VISIBLE | WS_GROUP, 0, 0, 0, 0,
                                        container().window(), nullptr, GetModuleHandleW(nullptr), nullptr);
     }
     const HWND before = GetWindow(window_, GW_HWNDPREV);

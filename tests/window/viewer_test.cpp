@@ -126,7 +126,10 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
 
 TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     open_viewer();
-    viewer->Option2.set_value(true);
+    SendMessageW(viewer->List2.window(), WM_GETOBJECT, 0, OBJID_CLIENT);
+    viewer->Option1.set_focus();
+    press_key(VK_UP);
+    EXPECT_SOON(viewer->Option2.value()) << "the arrow keys stay among the options, also once the list has its name";
     EXPECT_TRUE(viewer->Frame2.visible() && !viewer->List2.visible());
     for (const auto& [control, name] : std::initializer_list<std::pair<Control*, const wchar_t*>>{
              {&viewer->Text1, L"Cheat codes"}, {&viewer->search_panel().List1, L"Search results"}}) {
