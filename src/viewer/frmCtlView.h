@@ -64,7 +64,7 @@ class frmCtlView final : public Form {
     /// while a window shows the progress and takes the user's wish to cancel; what was collected until then is kept.
     /// Throws `Error` when the file cannot be written; the progress window then stays open.
     void collect_fonts();
-    /// Colours the text and both lists by the check mark of the colour entry.
+    /// Colours the text and the lists by the check mark of the colour entry; the search panel is made in these colours.
     void apply_colours();
 
   private:
@@ -138,6 +138,7 @@ class frmCtlView final : public Form {
     Session& session_;
     const ViewerWindows& windows_;
     std::optional<SearchPanel> search_panel_;
+    std::wstring search_text_;  // what `Text3` holds once the panel is made
     HoverHelp hover_help_{session_.pointer, Text4, Timer1};
     const Graphic* hovered_ = nullptr;  // the image or the letter that shows that the pointer is over it
     std::unique_ptr<frmStatus> status_;

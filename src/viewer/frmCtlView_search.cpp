@@ -26,14 +26,12 @@ void frmCtlView::bind_search() {
 SearchPanel& frmCtlView::search_panel() {
     if (!search_panel_) {
         SearchPanel& panel = search_panel_.emplace(Frame2);
-        panel.List1.set_height(viewer_layout({width(), height()}).result_list_height);
-        const std::wstring keyword = session_.settings.read(settings::SearchText);
-        panel.Text3.set_text(keyword);
-        // As after a search, what is typed first takes its place.
-        panel.Text3.select(0, keyword.size());
-        panel.Command1.set_enabled(!panel.Text3.empty());
-        colour_list(panel.List1);
         bind_search_panel(panel);
+        panel.List1.set_height(viewer_layout({width(), height()}).result_list_height);
+        panel.Text3.set_text(search_text_);
+        // As after a search, what is typed first takes its place.
+        panel.Text3.select(0, search_text_.size());
+        colour_list(panel.List1);
     }
     return *search_panel_;
 }

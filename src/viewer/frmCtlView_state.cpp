@@ -58,6 +58,7 @@ void frmCtlView::restore_settings() {
     menus.mnuAutoSelect.set_checked(stored.read(settings::AutoSelect));
     set_window_state(window_state_of(stored.read(settings::FrmCtlViewWindowState)));
     Text1.set_text(stored.read(settings::Text1));
+    search_text_ = stored.read(settings::SearchText);
     if (const std::wstring game = stored.read(settings::DefaultGame); !game.empty()) List2.select_text(game);
     if (const std::wstring title = stored.read(settings::FrmCtlViewCaption); !title.empty()) set_caption(title);
 }
@@ -97,7 +98,7 @@ void frmCtlView::save_settings() {
     store.write(settings::AutoSelect, menus.mnuAutoSelect.checked());
     store.write(settings::FrmCtlViewWindowState, static_cast<std::int32_t>(window_state()));
     store.write(settings::Text1, Text1.text());
-    if (search_panel_) store.write(settings::SearchText, search_panel_->Text3.text());
+    store.write(settings::SearchText, search_panel_ ? search_panel_->Text3.text() : search_text_);
     store.write(settings::DefaultGame, List2.text());
     store.write(settings::FrmCtlViewCaption, caption());
     if (window_state() != WindowState::Normal) return;

@@ -61,6 +61,8 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     std::filesystem::remove(folder.path() / "Cheats.dat");
     session.catalogue.store(5, L"Added", L"in between");
     open_viewer();
+    // What is stored later is for later openings, also by another viewer.
+    session.settings.write(settings::SearchText, L"later");
     EXPECT_EQ(viewer->List2.count(), 6) << "later openings list from memory";
     EXPECT_EQ(viewer->List2.item(5), L"Added");
     EXPECT_EQ(viewer->search_panel().Text3.text(), L"keyword") << "though nobody searched the last time";
@@ -122,6 +124,7 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     press_key(VK_ESCAPE);
     EXPECT_SOON(!viewer);
     EXPECT_TRUE(main_screen_restored);
+    EXPECT_EQ(session.settings.read(settings::SearchText, L"not there"), L"") << "stored though nobody searched";
 }
 
 TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
