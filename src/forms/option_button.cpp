@@ -17,7 +17,10 @@ OptionButton::OptionButton(Container& container, std::wstring_view caption, Boun
 void OptionButton::take_back_others() {
     for (Control* control : container().controls()) {
         auto* other = dynamic_cast<OptionButton*>(control);
-        if (other && other != this) other->set_value(false);
+        if (!other || other == this) continue;
+        other->value_ = false;
+        // Also one that was not set: the first one is a stop of the Tab key until it is told that another one is.
+        other->send(BM_SETCHECK, BST_UNCHECKED);
     }
 }
 

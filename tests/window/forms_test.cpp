@@ -133,6 +133,8 @@ TEST_F(FormsTest, ADropDownListFollowsTheResolution) {
 }
 
 TEST_F(FormsTest, TabWalksInTheOrderOfReadingWhateverComesToTheFront) {
+    board.Option2.set_value(true);
+    EXPECT_FALSE(GetWindowLongW(board.Option1.window(), GWL_STYLE) & WS_TABSTOP) << "the group is one stop";
     board.Option1.set_value(true);
     show();
     board.Command2.bring_to_front();
