@@ -89,7 +89,7 @@ int wmain(int count, wchar_t** arguments) {
          1.5,
          {}},
     };
-    constexpr int rounds = 21;
+    constexpr int rounds = 41;
     std::vector<double> empty;
     for (int round = 0; round < rounds; ++round) {
         empty.push_back(Program(empty_window, L"EmptyWindow").milliseconds_to_window());
