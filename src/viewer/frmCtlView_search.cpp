@@ -19,6 +19,8 @@ void frmCtlView::bind_search() {
     menus.mnuTextBoxInCheats.on_click = [this] { SearchFor(SearchScope::Cheats); };
     menus.mnuSelectedSearch.on_click = [this] {
         Option2.set_value(true);
+        // Where the mode was set before, it has not called for the keyword.
+        SelectAllText(search_panel().Text3);
         CenterMouseOn(search_panel().Command1.window());
     };
 }
@@ -29,8 +31,6 @@ SearchPanel& frmCtlView::search_panel() {
         bind_search_panel(panel);
         panel.List1.set_height(viewer_layout({width(), height()}).result_list_height);
         panel.Text3.set_text(search_text_);
-        // As after a search, what is typed first takes its place.
-        panel.Text3.select(0, search_text_.size());
         colour_list(panel.List1);
     }
     return *search_panel_;
@@ -101,6 +101,7 @@ void frmCtlView::SearchFor(SearchScope scope) {
     (scope == SearchScope::Names ? panel.Option3 : panel.Option4).set_value(true);
     Option2.set_value(true);
     panel.Text3.set_text(keyword_of(Text1.selected_text()));
+    SelectAllText(panel.Text3);
     CenterMouseOn(panel.Command1.window());
 }
 
@@ -112,7 +113,8 @@ void frmCtlView::Option1_Click() {
 void frmCtlView::Option2_Click() {
     SearchPanel& panel = search_panel();
     ShowFrame();
-    panel.Text3.set_focus();
+    // As after a search, what is typed takes the place of the former keyword.
+    SelectAllText(panel.Text3);
     set_default_button(&panel.Command1);
 }
 

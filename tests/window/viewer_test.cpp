@@ -66,7 +66,6 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     EXPECT_EQ(viewer->List2.count(), 6) << "later openings list from memory";
     EXPECT_EQ(viewer->List2.item(5), L"Added");
     EXPECT_EQ(viewer->search_panel().Text3.text(), L"keyword") << "though nobody searched the last time";
-    EXPECT_EQ(viewer->search_panel().Text3.selected_text(), L"keyword") << "it is typed over";
     EXPECT_TRUE(viewer->search_panel().Command1.enabled());
     EXPECT_EQ(viewer->search_panel().List1.back_colour(), colours::white);
 }
@@ -179,6 +178,31 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     POINT pointer{};
     EXPECT_SOON(GetCursorPos(&pointer) && WindowFromPoint(pointer) == viewer->search_panel().Command1.window())
         << "the pointer is on the button that starts the search";
+}
+
+TEST_F(ViewerTest, CallsForTheKeywordHoweverTheSearchIsOpened) {
+    session.settings.write(settings::SearchText, L"before");
+    open_viewer();
+    viewer->Text1.set_text(L"warps");
+    const auto is_typed_over = [this](const wchar_t* keyword) {
+        const TextBox& box = viewer->search_panel().Text3;
+        return box.has_focus() && box.selected_text() == keyword;
+    };
+    viewer->Option2.set_value(true);
+    EXPECT_TRUE(is_typed_over(L"before")) << "the keyword of the last run";
+    viewer->search_panel().Text3.set_text(L"unsought");
+    viewer->Option1.set_value(true);
+    viewer->Option2.set_value(true);
+    EXPECT_TRUE(is_typed_over(L"unsought"));
+
+    // From now on the panel is open already.
+    viewer->search_panel().List1.set_focus();
+    viewer->menus.mnuSelectedSearch.pick();
+    EXPECT_TRUE(is_typed_over(L"unsought")) << "from the menu of the results";
+    viewer->Text1.set_focus();
+    viewer->Text1.select(0, 5);
+    viewer->menus.mnuTextBoxInGames.pick();
+    EXPECT_TRUE(is_typed_over(L"warps")) << "from the text";
 }
 
 TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised) {
