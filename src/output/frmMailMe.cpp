@@ -97,11 +97,14 @@ void frmMailMe::Combo1_KeyDown(KeyEvent& event) {
 void frmMailMe::UpdateSendButton() {
     Command1.set_enabled(!Text1.empty() && !Combo1.text().empty());
     // One stray press of Escape does not throw away what was written.
-    set_cancel_button(Text1.empty() ? &Command2 : nullptr);
+    set_cancel_button(Text1.empty() || Text1.text() == proposed_ ? &Command2 : nullptr);
 }
 
 void frmMailMe::propose_message(const std::wstring& text) {
-    if (Text1.empty()) Text1.set_text(text);
+    if (!Text1.empty()) return;
+    proposed_ = text;
+    Text1.set_text(text);
+    Text1.select(0, text.size());
 }
 
 void frmMailMe::SendToAuthor() {

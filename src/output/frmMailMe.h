@@ -31,7 +31,7 @@ class frmMailMe final : public Form {
     TextBox Text2{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Timer Timer1{*this, 1};
 
-    /// Puts a text into the message, unless the user has written one already.
+    /// Puts a text into the message, selected to be typed over, unless the user has written one already.
     void propose_message(const std::wstring& text);
 
   private:
@@ -47,6 +47,8 @@ class frmMailMe final : public Form {
     void SendToAuthor();
 
     Session& session_;
+    /// What the message holds without the user having written anything.
+    std::wstring proposed_;
     clsTextBox lines_{Text1};
     HoverHelp hover_help_{session_.pointer, Text2, Timer1};
 };

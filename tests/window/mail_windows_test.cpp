@@ -277,6 +277,23 @@ TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
     EXPECT_SOON(!form);
 }
 
+TEST_F(MailMeTest, AProposedMessageIsTypedOverAndIsNothingWritten) {
+    for (const bool typed : {true, false}) {
+        open();
+        form->propose_message(L"[Question]");
+        press_key(VK_TAB);
+        ASSERT_SOON(form->Text1.has_focus());
+        if (typed) {
+            for (const WORD key : {WORD{'W'}, WORD{VK_ESCAPE}, WORD{'X'}}) press_key(key);
+            ASSERT_SOON(form && form->Text1.text() == L"wx") << "Escape does not throw away what is written";
+            form->close();
+        } else {
+            press_key(VK_ESCAPE);
+        }
+        ASSERT_SOON(!form) << "nothing but the proposal is thrown away";
+    }
+}
+
 constexpr LHANDLE only_session = 4711;
 
 /// A text of the wide functions' structures, which only newer headers have: they differ in their characters alone.
