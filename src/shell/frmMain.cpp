@@ -21,7 +21,7 @@ constexpr double help_box_rise = 500;
 
 // The colours of a button follow one another faster than a screen shows pictures, and painting them is what costs. Of
 // those that come within one frame only the last is painted.
-constexpr std::chrono::milliseconds frame{40};
+constexpr std::chrono::milliseconds frame{50};
 
 }  // namespace
 
