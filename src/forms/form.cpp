@@ -309,13 +309,12 @@ void Form::set_caption(std::wstring caption) {
 
 void Form::set_icon(const Picture& picture) {
     const auto resolution = static_cast<UINT>(dpi_);
-    Icon small_icon = picture.icon(GetSystemMetricsForDpi(SM_CXSMICON, resolution));
-    Icon large_icon = picture.icon(GetSystemMetricsForDpi(SM_CXICON, resolution));
+    // Pictures that take turns are loaded once.
+    auto& [small_icon, large_icon] = icons_[{picture, dpi_}];
+    if (!small_icon) small_icon = picture.icon(GetSystemMetricsForDpi(SM_CXSMICON, resolution));
+    if (!large_icon) large_icon = picture.icon(GetSystemMetricsForDpi(SM_CXICON, resolution));
     SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon.get()));
     SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large_icon.get()));
-    // The former ones end only now that the window shows others.
-    small_icon_ = std::move(small_icon);
-    large_icon_ = std::move(large_icon);
 }
 
 WindowState Form::window_state() const {

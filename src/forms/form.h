@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "forms/container.h"
@@ -191,8 +193,7 @@ class Form : public Container, public MouseEvents {
 
     Application& application_;
     std::wstring caption_;
-    Icon small_icon_;
-    Icon large_icon_;
+    std::map<std::pair<Picture, int>, std::pair<Icon, Icon>> icons_;  // the small and the large one, by the resolution
     WindowSize minimum_;
     HWND window_ = nullptr;
     int dpi_ = 96;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <memory>
 #include <type_traits>
 
@@ -21,6 +22,10 @@ class Picture {
     explicit Picture(int resource) : resource_(resource) {}
 
     explicit operator bool() const { return resource_ != 0; }
+
+    /// Whether it is the same one, and an order for looking it up.
+    // NOLINTNEXTLINE(modernize-use-nullptr): it means the zero in the comparison that the compiler makes.
+    friend auto operator<=>(const Picture&, const Picture&) = default;
 
     /// Draws it into `area`, in pixels, from the size drawn for it.
     void draw(HDC canvas, const RECT& area) const;
