@@ -26,7 +26,7 @@ Font make_font(const FontSpec& spec, int dpi) {
 Font FontCache::get(const FontSpec& spec, int dpi) {
     Font& kept = fonts_[{spec, dpi}];
     if (kept) return kept;
-    const Font made = kept = make_font(spec, dpi);
+    Font made = kept = make_font(spec, dpi);
     drop_unused();
     return made;
 }
