@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "forms/text_box.h"
+#include "controls/text_box.h"
 #include "win/clipboard.h"
 
 namespace quillomat {

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <limits>
 
+#include "controls/text_box.h"
 #include "forms/application.h"
 #include "forms/form.h"
 #include "forms/message_box.h"
-#include "forms/text_box.h"
 #include "text/error.h"
 #include "win/links.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/graphics.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/graphics.h"
-#include "forms/text_box.h"
 #include "forms/timer.h"
 
 namespace quillomat {

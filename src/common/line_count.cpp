@@ -1,7 +1,7 @@
 #include "common/line_count.h"
 
 #include "common/clsTextBox.h"
-#include "forms/text_box.h"
+#include "controls/text_box.h"
 #include "text/game_list.h"
 
 namespace quillomat {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/graphics.h"
 #include "forms/control.h"
 #include "forms/form.h"
 #include "forms/gdi.h"
-#include "forms/graphics.h"
 
 namespace quillomat {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/button.h"
 #include "forms/application.h"
-#include "forms/button.h"
 #include "forms/control.h"
 #include "forms/menu.h"
 #include "forms/timer.h"

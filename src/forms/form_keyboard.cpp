@@ -4,8 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "controls/button.h"
 #include "forms/application.h"
-#include "forms/button.h"
 #include "forms/control.h"
 #include "forms/form.h"
 

@@ -5,10 +5,10 @@
 #include "common/clsTextBox.h"
 #include "common/hover_help.h"
 #include "common/session.h"
-#include "forms/button.h"
+#include "controls/button.h"
+#include "controls/static_label.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/static_label.h"
-#include "forms/text_box.h"
 #include "forms/timer.h"
 #include "output/viewer_link.h"
 

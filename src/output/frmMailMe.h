@@ -5,12 +5,12 @@
 #include "common/clsTextBox.h"
 #include "common/hover_help.h"
 #include "common/session.h"
-#include "forms/button.h"
-#include "forms/combo_box.h"
+#include "controls/button.h"
+#include "controls/combo_box.h"
+#include "controls/graphics.h"
+#include "controls/static_label.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/graphics.h"
-#include "forms/static_label.h"
-#include "forms/text_box.h"
 #include "forms/timer.h"
 
 namespace quillomat {

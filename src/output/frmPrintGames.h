@@ -4,12 +4,12 @@
 
 #include "common/hover_help.h"
 #include "common/session.h"
-#include "forms/button.h"
+#include "controls/button.h"
+#include "controls/frame.h"
+#include "controls/option_button.h"
+#include "controls/static_label.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/option_button.h"
-#include "forms/static_label.h"
-#include "forms/text_box.h"
 #include "forms/timer.h"
 #include "text/game_list.h"
 

@@ -1,7 +1,7 @@
 #include "output/mail_window.h"
 
+#include "controls/graphics.h"
 #include "forms/control.h"
-#include "forms/graphics.h"
 #include "forms/message_box.h"
 #include "text/mail.h"
 

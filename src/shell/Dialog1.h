@@ -3,13 +3,13 @@
 #include <optional>
 
 #include "common/hover_help.h"
-#include "forms/button.h"
+#include "controls/button.h"
+#include "controls/link.h"
+#include "controls/static_label.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/link.h"
-#include "forms/picture_box.h"
-#include "forms/static_label.h"
-#include "forms/text_box.h"
 #include "forms/timer.h"
+#include "shell/picture_box.h"
 
 namespace quillomat {
 

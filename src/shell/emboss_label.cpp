@@ -1,8 +1,8 @@
 #include "shell/emboss_label.h"
 
+#include "controls/graphics.h"
 #include "forms/form.h"
 #include "forms/gdi.h"
-#include "forms/graphics.h"
 
 namespace quillomat {
 namespace {

@@ -4,15 +4,15 @@
 #include <cstdint>
 
 #include "common/hover_help.h"
+#include "controls/graphics.h"
+#include "controls/link.h"
+#include "controls/static_label.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/graphics.h"
-#include "forms/link.h"
 #include "forms/menu.h"
-#include "forms/picture_box.h"
-#include "forms/static_label.h"
-#include "forms/text_box.h"
 #include "forms/timer.h"
 #include "shell/emboss_label.h"
+#include "shell/picture_box.h"
 
 namespace quillomat {
 

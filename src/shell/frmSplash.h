@@ -4,11 +4,11 @@
 #include <deque>
 #include <functional>
 
-#include "forms/backdrop.h"
+#include "controls/graphics.h"
 #include "forms/form.h"
-#include "forms/graphics.h"
 #include "forms/timer.h"
 #include "resources/pictures.h"
+#include "shell/backdrop.h"
 #include "text/product.h"
 
 namespace quillomat {

@@ -2,8 +2,8 @@
 
 #include <functional>
 
+#include "controls/graphics.h"
 #include "forms/form.h"
-#include "forms/graphics.h"
 #include "forms/timer.h"
 #include "resources/pictures.h"
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "forms/button.h"
-#include "forms/check_box.h"
+#include "controls/button.h"
+#include "controls/check_box.h"
+#include "controls/frame.h"
+#include "controls/option_button.h"
+#include "controls/static_label.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/option_button.h"
-#include "forms/static_label.h"
-#include "forms/text_box.h"
 #include "text/find_in_text.h"
 
 namespace quillomat {

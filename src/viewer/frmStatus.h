@@ -2,8 +2,8 @@
 
 #include <chrono>
 
+#include "controls/graphics.h"
 #include "forms/form.h"
-#include "forms/graphics.h"
 #include "text/font_collection.h"
 
 namespace quillomat {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "forms/button.h"
-#include "forms/frame.h"
-#include "forms/list_box.h"
-#include "forms/option_button.h"
-#include "forms/static_label.h"
-#include "forms/text_box.h"
+#include "controls/button.h"
+#include "controls/frame.h"
+#include "controls/list_box.h"
+#include "controls/option_button.h"
+#include "controls/static_label.h"
+#include "controls/text_box.h"
 
 namespace quillomat {
 

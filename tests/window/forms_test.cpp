@@ -1,15 +1,15 @@
 // The rules that every window of the program relies on, held over every kind of control.
 
-#include "forms/button.h"
-#include "forms/drop_down_list.h"
+#include "controls/button.h"
+#include "controls/frame.h"
+#include "controls/graphics.h"
+#include "controls/list_box.h"
+#include "controls/option_button.h"
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/frame.h"
 #include "forms/gdi.h"
-#include "forms/graphics.h"
-#include "forms/list_box.h"
-#include "forms/option_button.h"
-#include "forms/text_box.h"
 #include "forms/timer.h"
+#include "output/drop_down_list.h"
 #include "support.h"
 
 namespace quillomat {

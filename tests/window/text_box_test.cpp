@@ -2,8 +2,8 @@
 
 #include "common/clsTextBox.h"
 
+#include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/text_box.h"
 #include "support.h"
 #include "text/error.h"
 #include "win/clipboard.h"

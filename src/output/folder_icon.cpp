@@ -1,4 +1,4 @@
-#include "forms/folder_icon.h"
+#include "output/folder_icon.h"
 
 #include <shellapi.h>
 

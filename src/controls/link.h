@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/button.h"
+#include "controls/button.h"
 
 namespace quillomat {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/drop_down_list.h"
+#include "output/drop_down_list.h"
 
 namespace quillomat {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/folder_icon.h"
-#include "forms/list_box.h"
+#include "controls/list_box.h"
+#include "output/folder_icon.h"
 
 namespace quillomat {
 

@@ -1,4 +1,4 @@
-#include "forms/check_box.h"
+#include "controls/check_box.h"
 
 namespace quillomat {
 

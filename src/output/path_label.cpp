@@ -1,4 +1,4 @@
-#include "forms/path_label.h"
+#include "output/path_label.h"
 
 #include "forms/container.h"
 

@@ -1,4 +1,4 @@
-#include "forms/picture_box.h"
+#include "shell/picture_box.h"
 
 #include <algorithm>
 #include <cstddef>

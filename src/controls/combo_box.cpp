@@ -1,4 +1,4 @@
-#include "forms/combo_box.h"
+#include "controls/combo_box.h"
 
 #include "text/error.h"
 

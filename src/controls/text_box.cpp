@@ -1,4 +1,4 @@
-#include "forms/text_box.h"
+#include "controls/text_box.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "forms/static_label.h"
+#include "controls/static_label.h"
 
 #include "forms/container.h"
 

@@ -1,4 +1,4 @@
-#include "forms/button.h"
+#include "controls/button.h"
 
 #include <uxtheme.h>
 #include <vssym32.h>

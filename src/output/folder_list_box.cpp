@@ -1,4 +1,4 @@
-#include "forms/folder_list_box.h"
+#include "output/folder_list_box.h"
 
 #include <algorithm>
 

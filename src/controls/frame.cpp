@@ -1,4 +1,4 @@
-#include "forms/frame.h"
+#include "controls/frame.h"
 
 #include <uxtheme.h>
 #include <vssym32.h>

@@ -1,4 +1,4 @@
-#include "forms/drive_list_box.h"
+#include "output/drive_list_box.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/list_box.h"
+#include "controls/list_box.h"
 
 namespace quillomat {
 

@@ -1,4 +1,4 @@
-#include "forms/option_button.h"
+#include "controls/option_button.h"
 
 #include "forms/container.h"
 

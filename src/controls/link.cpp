@@ -1,4 +1,4 @@
-#include "forms/link.h"
+#include "controls/link.h"
 
 #include "forms/application.h"
 #include "forms/container.h"

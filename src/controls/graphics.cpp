@@ -1,4 +1,4 @@
-#include "forms/graphics.h"
+#include "controls/graphics.h"
 
 #include <algorithm>
 #include <utility>

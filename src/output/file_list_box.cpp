@@ -1,4 +1,4 @@
-#include "forms/file_list_box.h"
+#include "output/file_list_box.h"
 
 #include <utility>
 

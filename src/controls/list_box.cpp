@@ -1,4 +1,4 @@
-#include "forms/list_box.h"
+#include "controls/list_box.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "forms/drop_down_list.h"
+#include "output/drop_down_list.h"
 
 #include "text/error.h"
 

@@ -1,4 +1,4 @@
-#include "forms/backdrop.h"
+#include "shell/backdrop.h"
 
 #include <algorithm>
 #include <iterator>
