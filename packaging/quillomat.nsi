@@ -38,7 +38,7 @@ BrandingText "${NAME} ${VERSION}"
 ManifestDPIAware true
 ManifestSupportedOS Win10
 
-VIProductVersion "${VERSION}.0.0"
+VIProductVersion "${VERSION}.0"
 VIAddVersionKey "ProductName" "${NAME}"
 VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "${NAME} Setup"

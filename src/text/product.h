@@ -1,9 +1,14 @@
 #pragma once
 
+#include "version.h"
+
 namespace quillomat::product {
 
 inline constexpr wchar_t title[] = L"Quillomat";
-inline constexpr wchar_t version[] = L"5.0";
+/// The version that windows show.
+inline constexpr wchar_t version[] = L"" QUILLOMAT_VERSION;
+/// The version with the number of the update, as the system and the packages show it.
+inline constexpr wchar_t release[] = L"" QUILLOMAT_RELEASE;
 inline constexpr wchar_t author[] = L"Tobin Ferrand";
 
 /// The author's web site, as it is shown and printed; links put "http://" before it.

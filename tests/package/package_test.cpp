@@ -116,7 +116,7 @@ TEST_F(Package, TellsWhatItIs) {
     for (const fs::path& path : {packages / L"app" / L"Quillomat.exe", installer(L"now")}) {
         SCOPED_TRACE(path.string());
         EXPECT_TRUE(holds(path, L"ProductName\0\0"s + product::title + L'\0'));
-        EXPECT_TRUE(holds(path, L"ProductVersion\0"s + product::version + L'\0'));
+        EXPECT_TRUE(holds(path, L"ProductVersion\0"s + product::release + L'\0'));
         EXPECT_TRUE(holds(path, L"FileDescription\0\0"s + product::title));
         EXPECT_TRUE(holds(path, "<assembly "s));
         EXPECT_GE(ExtractIconExW(path.c_str(), -1, nullptr, nullptr, 0), 1U);
@@ -131,7 +131,7 @@ TEST_F(Package, IsInstalledAndGoesWithoutATraceWhenNothingWasChanged) {
     EXPECT_EQ(bytes_of(database()), shipped_database);
     EXPECT_TRUE(holds(shortcut, file(L"Quillomat.exe").string()));
     const std::pair<const wchar_t*, std::wstring> registered[] = {
-        {L"DisplayName", product::title},       {L"DisplayVersion", product::version},
+        {L"DisplayName", product::title},       {L"DisplayVersion", product::release},
         {L"Publisher", product::author},        {L"DisplayIcon", file(L"Quillomat.exe").wstring()},
         {L"InstallLocation", folder.wstring()}, {L"UninstallString", L"\"" + file(L"Uninstall.exe").wstring() + L"\""},
     };
