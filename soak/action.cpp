@@ -3,6 +3,9 @@
 #include <array>
 #include <sstream>
 #include <stdexcept>
+#include <vector>
+
+#include "support/input.h"
 
 namespace quillomat::soak {
 namespace {
@@ -10,60 +13,30 @@ namespace {
 constexpr std::array<const char*, 9> names = {"move",  "click", "double-click", "right-click", "drag",
                                               "wheel", "key",   "character",    "rest"};
 
-void send_mouse(DWORD flags, POINT at, int data = 0) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = MulDiv(at.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
-    input.mi.dy = MulDiv(at.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
-    input.mi.mouseData = static_cast<DWORD>(data);
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
-    SendInput(1, &input, sizeof input);
-}
-
 void click(POINT at, DWORD down, DWORD up) {
-    send_mouse(down, at);
-    send_mouse(up, at);
+    send_mouse(MOUSEEVENTF_MOVE | down, at);
+    send_mouse(up);
 }
 
 void drag(POINT from, POINT to) {
     constexpr int steps = 5;
-    send_mouse(MOUSEEVENTF_LEFTDOWN, from);
+    send_mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTDOWN, from);
     for (int step = 1; step <= steps; ++step) {
-        Sleep(5);  // else the moves become one
-        send_mouse(0, {from.x + (to.x - from.x) * step / steps, from.y + (to.y - from.y) * step / steps});
+        Sleep(5);  // Windows would merge moves that follow at once.
+        send_mouse(MOUSEEVENTF_MOVE,
+                   {from.x + (to.x - from.x) * step / steps, from.y + (to.y - from.y) * step / steps});
     }
-    send_mouse(MOUSEEVENTF_LEFTUP, to);
-}
-
-void send_key(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
+    send_mouse(MOUSEEVENTF_LEFTUP);
 }
 
 void press(WORD key, unsigned modifiers) {
-    constexpr std::pair<unsigned, WORD> held[] = {
+    constexpr std::pair<unsigned, WORD> keys[] = {
         {Action::Shift, VK_SHIFT}, {Action::Control, VK_CONTROL}, {Action::Alt, VK_MENU}};
-    for (const auto& [modifier, held_key] : held) {
-        if (modifiers & modifier) send_key(held_key, 0);
+    std::vector<WORD> held;
+    for (const auto& [modifier, held_key] : keys) {
+        if (modifiers & modifier) held.push_back(held_key);
     }
-    send_key(key, 0);
-    send_key(key, KEYEVENTF_KEYUP);
-    for (const auto& [modifier, held_key] : held) {
-        if (modifiers & modifier) send_key(held_key, KEYEVENTF_KEYUP);
-    }
-}
-
-void type(WORD code_unit) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = code_unit;
-    for (const DWORD flags : {KEYEVENTF_UNICODE, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP}) {
-        input.ki.dwFlags = static_cast<DWORD>(flags);
-        SendInput(1, &input, sizeof input);
-    }
+    press_key(key, held);
 }
 
 }  // namespace
@@ -94,7 +67,7 @@ void perform(const Action& action) {
     const auto value = static_cast<WORD>(action.value);
     switch (action.kind) {
         case Action::Kind::Move:
-            return send_mouse(0, action.at);
+            return send_mouse(MOUSEEVENTF_MOVE, action.at);
         case Action::Kind::Click:
             return click(action.at, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
         case Action::Kind::DoubleClick:
@@ -105,11 +78,11 @@ void perform(const Action& action) {
         case Action::Kind::Drag:
             return drag(action.at, action.to);
         case Action::Kind::Wheel:
-            return send_mouse(MOUSEEVENTF_WHEEL, action.at, action.value * WHEEL_DELTA);
+            return send_mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_WHEEL, action.at, action.value * WHEEL_DELTA);
         case Action::Kind::Key:
             return press(value, action.modifiers);
         case Action::Kind::Character:
-            return type(value);
+            return type_character(static_cast<wchar_t>(value));
         case Action::Kind::Rest:
             return;
     }

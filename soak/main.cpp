@@ -9,11 +9,8 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <sstream>
-#include <stdexcept>
 
 #include "soak/player.h"
 #include "soak/soak.h"
@@ -22,12 +19,6 @@ namespace {
 
 using namespace quillomat;
 using namespace quillomat::soak;
-
-std::string bytes_of(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) throw std::runtime_error("cannot read " + path.string());
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 Actions random_actions(double seconds, unsigned seed) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);

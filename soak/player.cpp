@@ -18,13 +18,13 @@ constexpr std::wstring_view characters =
 bool confirms_exit(HWND control) {
     wchar_t caption[8]{};
     GetWindowTextW(control, caption, static_cast<int>(std::size(caption)));
-    return std::wstring_view(caption) == L"&Yes" && has_class(GetParent(control), L"frmMain");
+    return std::wstring_view(caption) == L"&Yes" && class_of(GetParent(control)) == L"frmMain";
 }
 
 /// Whether a click there ends the program. Ways out are taken seldom: it must live to show what it loses in time.
 bool is_way_out(POINT place) {
     const HWND window = WindowFromPoint(place);
-    if (has_class(window, L"frmMain")) {
+    if (class_of(window) == L"frmMain") {
         POINT inside = place;
         ScreenToClient(window, &inside);
         return inside.y < 0;
@@ -34,7 +34,7 @@ bool is_way_out(POINT place) {
 
 /// Whether a key ends the program.
 bool is_way_out(const Action& action, const Scene& scene) {
-    if (action.kind == Action::Kind::Key && action.value == VK_F4) return has_class(scene.topmost(), L"frmMain");
+    if (action.kind == Action::Kind::Key && action.value == VK_F4) return class_of(scene.topmost()) == L"frmMain";
     constexpr std::wstring_view pressing{L"\r yY"};
     return pressing.find(static_cast<wchar_t>(action.value)) != std::wstring_view::npos &&
            std::ranges::any_of(controls_of(scene.topmost()), confirms_exit);
@@ -124,8 +124,8 @@ void Player::plan_filling_in(const Scene& scene) {
         planned_.push_back({.kind = Action::Kind::Click, .at = place_on(control), .pause = number(0, 20)});
     };
     for (const HWND control : controls_of(scene.topmost())) {
-        if (has_class(control, L"Button")) buttons.push_back(control);
-        if (!has_class(control, L"Edit")) continue;
+        if (class_of(control) == L"Button") buttons.push_back(control);
+        if (class_of(control) != L"Edit") continue;
         click(control);
         for (int length = number(1, 12); length > 0; --length) {
             // Rarely what the code page of the files lacks, which is refused.

@@ -1,28 +1,9 @@
 #include "soak/scene.h"
 
 #include <algorithm>
-#include <iterator>
-#include <string_view>
 
 namespace quillomat::soak {
 namespace {
-
-DWORD process_of(HWND window) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    return process;
-}
-
-std::vector<HWND> visible_windows() {
-    std::vector<HWND> windows;
-    EnumWindows(
-        [](HWND window, LPARAM parameter) -> BOOL {
-            if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
-    return windows;
-}
 
 void add_controls(HWND parent, std::vector<HWND>& controls) {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
@@ -35,20 +16,8 @@ void add_controls(HWND parent, std::vector<HWND>& controls) {
 
 }  // namespace
 
-bool has_class(HWND window, const wchar_t* name) {
-    wchar_t own[64]{};
-    GetClassNameW(window, own, std::size(own));
-    return std::wstring_view(own) == name;
-}
-
-std::string class_of(HWND window) {
-    char name[64]{};
-    GetClassNameA(window, name, std::size(name));
-    return name;
-}
-
 Scene::Scene(DWORD process) : process_(process), windows_(visible_windows()) {
-    std::erase_if(windows_, [&](HWND window) { return !is_own(window) || has_class(window, L"tooltips_class32"); });
+    std::erase_if(windows_, [&](HWND window) { return !is_own(window) || class_of(window) == L"tooltips_class32"; });
 }
 
 bool Scene::is_own(HWND window) const {
@@ -56,7 +25,7 @@ bool Scene::is_own(HWND window) const {
 }
 
 HWND Scene::menu() const {
-    const auto menu = std::ranges::find_if(windows_, [](HWND window) { return has_class(window, L"#32768"); });
+    const auto menu = std::ranges::find_if(windows_, [](HWND window) { return class_of(window) == L"#32768"; });
     return menu == windows_.end() ? nullptr : *menu;
 }
 

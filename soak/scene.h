@@ -1,15 +1,10 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
-#include "win/api.h"
+#include "support/desktop.h"
 
 namespace quillomat::soak {
-
-bool has_class(HWND window, const wchar_t* name);
-/// The class of a window, for a log.
-std::string class_of(HWND window);
 
 /// What of a program is on the screen now.
 class Scene {

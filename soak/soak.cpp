@@ -11,7 +11,6 @@
 namespace quillomat::soak {
 namespace {
 
-constexpr wchar_t message_box_class[] = L"#32770";
 constexpr wchar_t main_screen_class[] = L"frmMain";
 
 using Clock = std::chrono::steady_clock;
@@ -19,14 +18,10 @@ using Clock = std::chrono::steady_clock;
 /// What does not answer for so long never will.
 constexpr std::chrono::duration<double> for_good{60};
 
-/// Other than `Program::wait_until`: with a patience of its own.
-bool wait_for(std::chrono::milliseconds patience, const std::function<bool()>& condition) {
-    const Clock::time_point deadline = Clock::now() + patience;
-    while (!condition()) {
-        if (Clock::now() > deadline) return false;
-        Sleep(10);
-    }
-    return true;
+/// The class of a window, for the log.
+std::string class_name(HWND window) {
+    const std::wstring name = class_of(window);
+    return {name.begin(), name.end()};
 }
 
 /// The number of records that are a text, each whole; nothing when something else is in it.
@@ -61,10 +56,7 @@ ObjectCounts fewest(std::span<const ObjectCounts> all) {
 
 void press_button(HWND box) {
     for (const int button : {IDCANCEL, IDNO, IDOK}) {
-        if (const HWND control = GetDlgItem(box, button)) {
-            PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(control));
-            return;
-        }
+        if (GetDlgItem(box, button)) return answer_message(box, button);
     }
 }
 
@@ -109,8 +101,7 @@ void Soak::start_program() {
 }
 
 bool Soak::wait_for_window() {
-    return Program::wait_until(
-        [this] { return !program_.running() || Scene(program_.process().dwProcessId).topmost(); });
+    return wait_until([this] { return !program_.running() || Scene(program_.process().dwProcessId).topmost(); });
 }
 
 void Soak::fault(const std::string& what) {
@@ -127,10 +118,11 @@ void Soak::fault(const std::string& what) {
 void Soak::note(const Action& action, const Scene& scene) {
     ++actions_;
     const HWND front = scene.topmost();
-    const std::string name = front ? class_of(front) : "none";
+    const std::string name = front ? class_name(front) : "none";
     ++seen_[name];
     log_ << to_line(action) << " # " << actions_ << ' ' << name;
-    if (const HWND hit = WindowFromPoint(action.at); hit && action.at.x + action.at.y > 0) log_ << ' ' << class_of(hit);
+    if (const HWND hit = WindowFromPoint(action.at); hit && action.at.x + action.at.y > 0)
+        log_ << ' ' << class_name(hit);
     // At once, for it may be the last one.
     log_ << std::endl;
 }
@@ -184,14 +176,11 @@ void Soak::restart() {
 }
 
 void Soak::put_away(HWND window, const Scene& scene) {
-    if (const HWND menu = scene.menu()) {
-        PostMessageW(menu, WM_KEYDOWN, VK_ESCAPE, 0);
-        perform({.kind = Action::Kind::Key, .value = VK_ESCAPE});
-    } else if (has_class(window, L"frmSplash")) {
+    if (class_of(window) == L"frmSplash") {
         PostMessageW(window, WM_KEYDOWN, VK_SPACE, 0);
-    } else if (has_class(window, message_box_class)) {
+    } else if (class_of(window) == message_box_class) {
         press_button(window);
-    } else if (has_class(window, main_screen_class)) {
+    } else if (class_of(window) == main_screen_class) {
         // In front of the others, or behind as an icon.
         for (const HWND other : scene.windows()) {
             if (other != window && IsWindowEnabled(other)) PostMessageW(other, WM_CLOSE, 0, 0);
@@ -202,14 +191,19 @@ void Soak::put_away(HWND window, const Scene& scene) {
 }
 
 bool Soak::put_away_windows() {
-    constexpr std::chrono::seconds patience{60};
-    return wait_for(patience, [this] {
+    return wait_until([this] {
         if (!program_.running()) return true;
         const Scene scene(program_.process().dwProcessId);
+        // The menu loop must end first: it would go on inside the loop of the window that is closed, until the next
+        // key.
+        if (const HWND owner = menu_owner(program_.process().dwThreadId)) {
+            PostMessageW(owner, WM_KEYDOWN, VK_ESCAPE, 0);
+            return false;
+        }
         const HWND window = scene.topmost();
         if (!window) return false;
-        if (scene.windows().size() == 1 && has_class(window, main_screen_class) && !IsIconic(window)) return true;
-        if (has_class(window, main_screen_class) && IsIconic(window)) ShowWindowAsync(window, SW_RESTORE);
+        if (scene.windows().size() == 1 && class_of(window) == main_screen_class && !IsIconic(window)) return true;
+        if (class_of(window) == main_screen_class && IsIconic(window)) ShowWindowAsync(window, SW_RESTORE);
         put_away(window, scene);
         Sleep(50);
         return false;
@@ -220,7 +214,7 @@ void Soak::rest() {
     if (!put_away_windows()) {
         std::string classes;
         const Scene scene(program_.process().dwProcessId);
-        for (const HWND window : scene.windows()) classes.append(" ").append(class_of(window));
+        for (const HWND window : scene.windows()) classes.append(" ").append(class_name(window));
         return fault("these windows do not go:" + classes);
     }
     if (!program_.running()) return;

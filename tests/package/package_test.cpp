@@ -65,7 +65,7 @@ int install(const wchar_t* release, const std::wstring& options = {}) {
 /// own file has to go too; what is registered is the last to go.
 bool uninstall() {
     run(user_text(registered_key, L"QuietUninstallString"));
-    return Program::wait_until([] { return !is_registered(); });
+    return wait_until([] { return !is_registered(); });
 }
 
 /// Expects that the program in a folder shows the games beside it; the last one is `last`, unless that is empty.
@@ -74,7 +74,7 @@ void expect_runs(const fs::path& folder, const std::wstring& last = {}) {
     program.start();
     ASSERT_TRUE(program.reach_viewer());
     EXPECT_EQ(program.message(), L"");
-    ASSERT_TRUE(Program::wait_until([&] { return !games_of(program.viewer()).empty(); }));
+    ASSERT_TRUE(wait_until([&] { return !games_of(program.viewer()).empty(); }));
     EXPECT_TRUE(last.empty() || games_of(program.viewer()).back() == last);
     program.close();
     EXPECT_EQ(program.exit_code(), 0U);
@@ -199,7 +199,7 @@ TEST_F(Package, ChangesNothingWhileTheProgramRuns) {
     ASSERT_EQ(install(L"now"), 0);
     Program program(folder);
     program.start();
-    ASSERT_TRUE(Program::wait_until([&] { return program.find(L"frmSplash") != nullptr; }));
+    ASSERT_TRUE(wait_until([&] { return program.find(L"frmSplash") != nullptr; }));
 
     constexpr int gave_up = 2;
     EXPECT_EQ(install(L"newer"), gave_up);
@@ -220,7 +220,7 @@ TEST_F(Package, GoesWhereItIsTold) {
     EXPECT_TRUE(holds(shortcut, (other_folder / L"Quillomat.exe").string()));
 
     run(L"\"" + file(L"Uninstall.exe").wstring() + L"\" /S");
-    EXPECT_TRUE(Program::wait_until([&] { return !fs::exists(folder); }));
+    EXPECT_TRUE(wait_until([&] { return !fs::exists(folder); }));
     EXPECT_EQ(user_text(registered_key, L"InstallLocation"), other_folder.wstring()) << "this one is still installed";
     EXPECT_TRUE(fs::exists(shortcut));
 

@@ -8,12 +8,13 @@
 #include <stdexcept>
 
 #include "program/program.h"
+#include "support/input.h"
 
 namespace quillomat {
 namespace {
 
 void wait_until(const char* what, const std::function<bool()>& condition) {
-    if (!Program::wait_until(condition)) throw std::runtime_error(what);
+    if (!quillomat::wait_until(condition)) throw std::runtime_error(what);
 }
 
 /// Gives the command of an entry of the menu "Options", "Print" by its access key.

@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -58,13 +59,11 @@ DWORD Program::exit_code() const {
 }
 
 HWND Program::find(const wchar_t* window_class) const {
-    HWND window = nullptr;
-    while ((window = FindWindowExW(nullptr, window, window_class, nullptr))) {
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        if (owner == process_.dwProcessId && IsWindowVisible(window)) break;
-    }
-    return window;
+    const std::vector<HWND> windows = visible_windows();
+    const auto found = std::ranges::find_if(windows, [&](HWND window) {
+        return process_of(window) == process_.dwProcessId && class_of(window) == window_class;
+    });
+    return found == windows.end() ? nullptr : *found;
 }
 
 bool Program::reach_viewer() {
@@ -90,18 +89,8 @@ std::wstring Program::message() const {
 
 bool Program::dismiss_message() const {
     const HWND box = find(message_box_class);
-    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    answer_message(box, IDOK);
     return wait_until([box] { return !IsWindow(box); });
-}
-
-bool Program::wait_until(const std::function<bool()>& condition) {
-    constexpr ULONGLONG patience = 60'000;
-    const ULONGLONG start = GetTickCount64();
-    while (!condition()) {
-        if (GetTickCount64() - start > patience) return false;
-        Sleep(10);
-    }
-    return true;
 }
 
 std::vector<std::wstring> games_of(HWND viewer) {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <vector>
 
 #include "support/desktop.h"
 #include "support/files.h"
+#include "support/wait.h"
 
 namespace quillomat {
 
@@ -49,8 +49,6 @@ class Program {
     std::wstring message() const;
     /// Answers it, and waits until it has gone.
     bool dismiss_message() const;
-
-    static bool wait_until(const std::function<bool()>& condition);
 
   private:
     std::optional<TemporaryFolder> own_folder_;

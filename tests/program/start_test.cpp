@@ -31,7 +31,7 @@ void expect_start(Program& program, const std::wstring& message, const Games& ga
     if (!message.empty()) {
         ASSERT_TRUE(program.dismiss_message() && program.reach_viewer());
     }
-    EXPECT_TRUE(Program::wait_until([&] { return games_of(program.viewer()) == games; }))
+    EXPECT_TRUE(wait_until([&] { return games_of(program.viewer()) == games; }))
         << testing::PrintToString(games_of(program.viewer()));
     if (!cheats_of_first.empty()) {
         EXPECT_EQ(cheats_of(program.viewer(), 0), cheats_of_first);
@@ -77,7 +77,7 @@ TEST(Start, WithADatabaseOfOneGigabyte) {
     program.start();
     ASSERT_TRUE(program.reach_viewer());
     if (program.message().empty()) {
-        EXPECT_TRUE(Program::wait_until([&] { return games_of(program.viewer()) == Games{L"Doom"}; }));
+        EXPECT_TRUE(wait_until([&] { return games_of(program.viewer()) == Games{L"Doom"}; }));
     } else {
         // Less memory than the file needs is no fault of the program.
         EXPECT_EQ(program.message(), L"Error!: Out of memory");

@@ -1,21 +1,47 @@
 #pragma once
 
-#include <functional>
-#include <initializer_list>
+#include <iterator>
 #include <string>
+#include <vector>
 
 #include "win/api.h"
 
+// What any program can see of the windows on the desktop, its own or another's.
 namespace quillomat {
 
 constexpr wchar_t message_box_class[] = L"#32770";
 
-/// What another program sees of a window.
+/// The text of a window or a control, which may be another process's.
 inline std::wstring text_of(HWND window) {
     std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
     text.resize(
         static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
     return text;
+}
+
+/// The window's class; empty for a window that has gone.
+inline std::wstring class_of(HWND window) {
+    wchar_t name[64]{};
+    GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return name;
+}
+
+inline DWORD process_of(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process;
+}
+
+/// The visible top-level windows of all processes, the topmost first.
+inline std::vector<HWND> visible_windows() {
+    std::vector<HWND> windows;
+    EnumWindows(
+        [](HWND window, LPARAM parameter) -> BOOL {
+            if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    return windows;
 }
 
 /// The text of a message box.
@@ -25,27 +51,22 @@ inline std::wstring message_of(HWND box) {
     return text_of(text ? text : FindWindowExW(box, nullptr, L"Static", nullptr));
 }
 
-/// Real input: presses a key on whatever has the focus, or releases it.
-inline void send_key(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki = {key, static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), flags, 0, 0};
-    SendInput(1, &input, sizeof input);
+/// Answers a message box by the button with this identifier, as soon as its process handles messages.
+inline void answer_message(HWND box, int button) {
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(box, button)));
 }
 
-/// Real input: presses and releases a key while others are held.
-inline void press_key(WORD key, std::initializer_list<WORD> held = {}) {
-    for (const WORD modifier : held) send_key(modifier, 0);
-    send_key(key, 0);
-    send_key(key, KEYEVENTF_KEYUP);
-    for (const WORD modifier : held) send_key(modifier, KEYEVENTF_KEYUP);
-}
-
-/// Whether a menu of a thread is open.
-inline bool in_menu(DWORD thread = GetCurrentThreadId()) {
+/// The window whose menu or menu bar has the keyboard in a thread; null if there is none.
+inline HWND menu_owner(DWORD thread) {
     GUITHREADINFO information{};
     information.cbSize = sizeof information;
-    return GetGUIThreadInfo(thread, &information) && information.flags & GUI_INMENUMODE;
+    const bool in_menu_mode = GetGUIThreadInfo(thread, &information) && information.flags & GUI_INMENUMODE;
+    return in_menu_mode ? information.hwndMenuOwner : nullptr;
+}
+
+/// True while a menu of the thread is open or its menu bar has the keyboard.
+inline bool in_menu(DWORD thread = GetCurrentThreadId()) {
+    return menu_owner(thread) != nullptr;
 }
 
 }  // namespace quillomat

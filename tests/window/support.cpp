@@ -8,19 +8,6 @@ std::wstring without_returns(std::wstring text) {
     return text;
 }
 
-bool is_message_box(HWND window) {
-    wchar_t name[16]{};
-    GetClassNameW(window, name, 16);
-    return std::wstring_view(name) == message_box_class;
-}
-
-void send_mouse(DWORD flags, POINT place = {}) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi = {place.x, place.y, 0, flags, 0, 0};
-    SendInput(1, &input, sizeof input);
-}
-
 }  // namespace
 
 WindowTest* WindowTest::running_ = nullptr;
@@ -42,7 +29,7 @@ WindowTest::~WindowTest() {
 LRESULT CALLBACK WindowTest::on_window_event(int code, WPARAM wparam, LPARAM lparam) {
     const auto window = reinterpret_cast<HWND>(wparam);
     // A message box is complete when it is first activated; its answer is posted, so that it is really shown.
-    if (code == HCBT_ACTIVATE && running_ && is_message_box(window)) running_->answer(window);
+    if (code == HCBT_ACTIVATE && running_ && class_of(window) == message_box_class) running_->answer(window);
     return CallNextHookEx(nullptr, code, wparam, lparam);
 }
 
@@ -63,25 +50,21 @@ void WindowTest::answer(HWND box) {
         button = announced_.front().button;
         announced_.erase(announced_.begin());
     }
-    PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(box, button)));
+    answer_message(box, button);
 }
 
 bool WindowTest::pump_until(const std::function<bool()>& condition) {
-    const ULONGLONG deadline = GetTickCount64() + 10'000;
-    while (!condition()) {
-        if (GetTickCount64() > deadline) return false;
+    return wait_until(condition, std::chrono::seconds{10}, [this] {
         MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
         pump();
-    }
-    return true;
+    });
 }
 
 void WindowTest::move_pointer(HWND window, int x, int y) {
     POINT point{x, y};
     ClientToScreen(window, &point);
     // Real input: just setting the position does not tell the window under it.
-    send_mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, {MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1,
-                                                         MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1});
+    send_mouse(MOUSEEVENTF_MOVE, point);
 }
 
 bool WindowTest::point_until(HWND window, int x, int y, const std::function<bool()>& condition) {

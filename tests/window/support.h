@@ -13,6 +13,8 @@
 #include "forms/control.h"
 #include "forms/message_box.h"
 #include "support/desktop.h"
+#include "support/input.h"
+#include "support/wait.h"
 
 /// Handles messages until the condition holds; fails when it does not within ten seconds.
 #define EXPECT_SOON(condition) EXPECT_TRUE(pump_until([&] { return static_cast<bool>(condition); })) << #condition
