@@ -99,7 +99,7 @@ void frmCtlView::collect_fonts() {
     }
     if (closed()) return;
     const int last = static_cast<int>(menus.mnuFontName.size()) - 1;
-    status_->end(last, fonts.count);
+    status_->end();
     QuickSort(1, last);
     std::vector<std::wstring> names;
     for (int i = 1; i <= last; ++i) names.push_back(menus.mnuFontName[static_cast<std::size_t>(i)]->caption());
@@ -128,14 +128,12 @@ void frmCtlView::open_status() {
 
 void frmCtlView::fill_font_menu(const ScreenFonts& fonts) {
     for (int i = 1; i <= fonts.count; ++i) {
-        if (status_->is_due()) {
-            status_->show_progress(i - 1, fonts.count);
-            application().let_pending_events_run();
-        }
+        application().let_pending_events_run();
         if (!status_->GoingOn || status_->closed() || closed()) return;
         // Fonts count from 0, so the first one is not offered, and the entry past the last one has no name: sorted, it
         // is the line that parts the fonts from the menu's own entry.
         menus.add_font(fonts.name(i));
+        status_->show_progress(i, fonts.count);
     }
 }
 

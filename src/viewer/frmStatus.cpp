@@ -25,11 +25,6 @@ void frmStatus::begin() {
     Shape2.set_visible(true);
     set_closable(false);
     started_ = Clock::now();
-    shown_ = {};
-}
-
-bool frmStatus::is_due() const {
-    return Clock::now() - shown_ >= std::chrono::milliseconds(10);
 }
 
 void frmStatus::show_progress(int collected, int count) {
@@ -37,11 +32,9 @@ void frmStatus::show_progress(int collected, int count) {
     Shape1.set_width(progress.bar_width);
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - started_);
     set_caption(collection_caption(progress.percent, static_cast<int>(seconds.count())));
-    shown_ = Clock::now();
 }
 
-void frmStatus::end(int collected, int count) {
-    Shape1.set_width(collection_progress(collected, count).bar_width);
+void frmStatus::end() {
     set_caption(L"Please wait...");
     set_closable(true);
     UpdateWindow(window());

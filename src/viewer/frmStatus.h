@@ -22,13 +22,10 @@ class frmStatus final : public Form {
 
     /// Begins a collection: the bar is empty, and the seconds count from now.
     void begin();
-    /// Whether it is time to show what was reached and to let events run. A font is collected in a fraction of the
-    /// time that this takes, so it is not done for every one, but still many times a second.
-    bool is_due() const;
-    /// Shows how far the collection is.
+    /// Widens the bar and changes the caption after `collected` of `count` fonts.
     void show_progress(int collected, int count);
-    /// The fonts are collected: shows how far that came, while the rest is done.
-    void end(int collected, int count);
+    /// Says that the collection has ended and only the rest is still to be done.
+    void end();
 
   private:
     using Clock = std::chrono::steady_clock;
@@ -36,7 +33,6 @@ class frmStatus final : public Form {
     void Form_KeyDown(KeyEvent& event);
 
     Clock::time_point started_;
-    Clock::time_point shown_;
 };
 
 }  // namespace quillomat
