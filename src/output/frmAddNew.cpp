@@ -80,7 +80,7 @@ void frmAddNew::bind_hover_help() {
     hover_help_.on_shown = [this](Control& button, const MouseEvent& event) {
         show_help_box(&button == cmdButton[add_button] ? add_button : cancel_button, event.x, event.y);
     };
-    hover_help_.pass_focus_to(*cmdButton[add_button]);
+    hover_help_.pass_focus_to(*cmdButton[add_button], *cmdButton[cancel_button]);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 

@@ -71,6 +71,8 @@ TEST_F(AddGameTest, TheHelpOfTheDisabledButtonStaysOnlyWhileThePointerIsOnIt) {
     open();
     const auto shown = [this] { return window->Text3.visible(); };
     EXPECT_TRUE(point_until(window->cmdButton[0]->window(), 9, 9, shown));
+    window->Text3.set_focus();
+    EXPECT_TRUE(window->cmdButton[1]->has_focus()) << "never on the box, which hides";
     EXPECT_TRUE(point_until(window->Text2.window(), 9, 9, [&] { return !shown(); }));
 }
 
