@@ -137,6 +137,10 @@ void Image::draw(HDC canvas) const {
         area = {x, y, x + size, y + size};
     }
     picture_.draw(canvas, area);
+    if (!enabled()) {
+        constexpr BYTE fading = 160;
+        blend(canvas, area, container().back_colour(), fading);
+    }
 }
 
 Shape::Shape(Container& container, Bounds bounds) : Graphic(container, bounds) {

@@ -23,4 +23,14 @@ COLORREF legible(Colour text, Colour background) {
     return resolve(behind < 128 ? colours::white : colours::black);
 }
 
+void blend(HDC canvas, const RECT& area, Colour colour, BYTE opacity) {
+    const MemoryCanvas memory(canvas);
+    const GdiObject<HBITMAP> bitmap(CreateCompatibleBitmap(canvas, 1, 1));
+    const Selection selected(memory.get(), bitmap.get());
+    SetPixelV(memory.get(), 0, 0, resolve(colour));
+    const BLENDFUNCTION blending{AC_SRC_OVER, 0, opacity, 0};
+    GdiAlphaBlend(canvas, area.left, area.top, area.right - area.left, area.bottom - area.top, memory.get(), 0, 0, 1, 1,
+                  blending);
+}
+
 }  // namespace quillomat

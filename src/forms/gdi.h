@@ -89,6 +89,9 @@ inline void fill(HDC canvas, const RECT& area, Colour colour) {
     FillRect(canvas, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
+/// Blends a colour over a rectangle of pixels: an `opacity` of 0 leaves what is there, 255 fills the rectangle.
+void blend(HDC canvas, const RECT& area, Colour colour, BYTE opacity);
+
 /// Collects the drawing of one area in memory and shows it at once at the end of the scope, so that nothing flickers.
 class BufferedCanvas {
   public:
