@@ -21,26 +21,25 @@ void run(const std::wstring& folder, const std::wstring& keyword) {
     frmCtlView viewer(application, session, windows);
     viewer.show();
     viewer.Option2.set_value(true);
-    viewer.search_panel().Option4.set_value(true);
-    viewer.search_panel().Text3.set_text(keyword);
+    viewer.Option4.set_value(true);
+    viewer.Text3.set_text(keyword);
     application.let_pending_events_run();
 
     constexpr std::size_t rounds = 21;
     const auto press = [&] {
-        viewer.search_panel().Command1.click();
-        UpdateWindow(viewer.search_panel().List1.window());
+        viewer.Command1.click();
+        UpdateWindow(viewer.List1.window());
     };
     press();  // the first one makes the texts
     std::vector<std::wstring> found;
-    for (int index = 0; index < viewer.search_panel().List1.count(); ++index)
-        found.push_back(viewer.search_panel().List1.item(index));
+    for (int index = 0; index < viewer.List1.count(); ++index) found.push_back(viewer.List1.item(index));
     const auto list = [&] {
         {
-            const ListBox::Filling filling(viewer.search_panel().List1);
-            viewer.search_panel().List1.clear();
-            for (const std::wstring& name : found) viewer.search_panel().List1.add(name);
+            const ListBox::Filling filling(viewer.List1);
+            viewer.List1.clear();
+            for (const std::wstring& name : found) viewer.List1.add(name);
         }
-        UpdateWindow(viewer.search_panel().List1.window());
+        UpdateWindow(viewer.List1.window());
     };
     const auto seconds = medians(rounds, {{press}, {list}});
     print({"search in " + std::to_string(viewer.List2.count()) + " games, " + std::to_string(found.size()) + " found",

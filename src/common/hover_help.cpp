@@ -51,6 +51,10 @@ bool is_under_pointer(const PointerState& pointer, const Control& control) {
            PtInRect(&area, pointer.PointerPos);
 }
 
+bool is_within(const Item& item, const MouseEvent& event) {
+    return event.x >= 0 && event.y >= 0 && event.x < item.width() && event.y < item.height();
+}
+
 HoverHelp::HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)
     : pointer_(pointer), help_box_(help_box), timer_(timer) {
     help_box_.form().on_pointer_moved = [this] { wake(); };

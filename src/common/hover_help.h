@@ -11,6 +11,7 @@ namespace quillomat {
 
 class Control;
 class Graphic;
+class Item;
 class TextBox;
 class Timer;
 
@@ -23,6 +24,10 @@ void HideTip(Control& control, TextBox& help_box);
 bool is_under_pointer(const PointerState& pointer, const Graphic& item);
 /// The same for a control, enabled or not: to the pointer a disabled one is a part of its container.
 bool is_under_pointer(const PointerState& pointer, const Control& control);
+
+/// True if the pointer of a mouse event is inside the item. A pressed item receives events from outside its bounds,
+/// too.
+bool is_within(const Item& item, const MouseEvent& event);
 
 /// The help texts of one window: each is shown exactly while the pointer is over its control. The window's hover timer
 /// calls `tick`; where the help box stands is the window's business.

@@ -19,6 +19,7 @@ constexpr double picture_button_size = 420;
 // within the window: the way home, save and add, and the rest.
 constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
 constexpr double colour_image_left = 3530;
+constexpr std::size_t save_image = 1;
 constexpr double help_above_mode = 30;
 
 bool asks_for_menu(const KeyEvent& event) {
@@ -44,15 +45,20 @@ frmCtlView::frmCtlView(Application& application, Session& session, const ViewerW
     }
     Image1.set_picture_size(picture_size);
     Shape1.bring_to_front();
+    Shape1.set_visible(false);
     Shape1.set_border_colour(colours::highlight);
-    Label1.emplace_back(*this, L"#", Bounds{120, 525, 195, 225});
+    Label1.emplace_back(*this, L"#", Bounds{120, 525, 195, 225}).set_visible(false);
     Frame2.set_visible(false);
+    allow_saving(false);
     List2.set_spoken_name(L"Games");
+    List1.set_spoken_name(L"Search results");
     Text1.set_spoken_name(L"Cheat codes");
     bind();
     bind_search();
+    bind_search_panel();
     bind_commands();
     bind_image_bar();
+    bind_list(List1);
     bind_list(List2);
     bind_hover_help();
 }
@@ -66,7 +72,8 @@ void frmCtlView::bind() {
     on_mouse_move = [this](const MouseEvent&) { tidy_image_bar(); };
     drag_by(*this);
     Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
-    for (Control* control : {&Option1, &Option2}) {
+    for (Control* control :
+         std::initializer_list<Control*>{&Option1, &Option2, &Text3, &Command1, &Option3, &Option4}) {
         control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
     }
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
@@ -82,8 +89,10 @@ void frmCtlView::bind_list(ListBox& list) {
 }
 
 void frmCtlView::bind_hover_help() {
+    add_hover_help(Command1, L"Click here to start the search!");
     add_hover_help(Option1, L"Click here to show the list of games");
     add_hover_help(Option2, L"Click here to search for a specific game");
+    add_hover_help(Text3, L"Type what you want to search for here");
     hover_help_.on_shown = [this](Control& control, const MouseEvent& event) { place_help_box(control, event); };
     hover_help_.pass_focus_to(Text1);
     Timer1.on_timer = [this] { Timer1_Timer(); };
@@ -109,14 +118,18 @@ void frmCtlView::show_game(int number) {
     Text1.set_text(session_.catalogue.cheats(number));
     session_.viewer.current_title = name;
     set_caption(name);
-    menus.mnuSave.set_enabled(true);
+    allow_saving(true);
     menus.mnuSave.set_caption(L"&Save " + without_access_keys(name));
+}
+
+void frmCtlView::allow_saving(bool allowed) {
+    menus.mnuSave.set_enabled(allowed);
+    Image2[save_image].set_enabled(allowed);
 }
 
 void frmCtlView::Form_Resize() {
     if (window_state() == WindowState::Minimised) {
-        session_.viewer.current_title = caption();
-        set_caption(minimised_caption(search_panel_ ? search_panel_->List1.text() : std::wstring()));
+        set_caption(minimised_caption(List1.text()));
         return;
     }
     set_caption(session_.viewer.current_title);
@@ -125,7 +138,7 @@ void frmCtlView::Form_Resize() {
     const ViewerLayout layout = viewer_layout(size);
     Text1.set_size(layout.text_width, layout.text_height);
     List2.set_height(layout.game_list_height);
-    if (search_panel_) search_panel_->List1.set_height(layout.result_list_height);
+    List1.set_height(layout.result_list_height);
     Frame2.set_height(layout.search_panel_height);
 }
 

@@ -7,14 +7,15 @@
 
 #include "common/hover_help.h"
 #include "common/session.h"
+#include "controls/button.h"
 #include "controls/frame.h"
 #include "controls/graphics.h"
 #include "controls/list_box.h"
 #include "controls/option_button.h"
+#include "controls/static_label.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
-#include "viewer/search_panel.h"
 #include "viewer/viewer_menus.h"
 #include "viewer/viewer_windows.h"
 
@@ -40,6 +41,14 @@ class frmCtlView final : public Form {
     OptionButton Option2{*this, L"&Search", {1320, 825, 1200, 255}, OptionButton::Group::Continues};
     ListBox List2{*this, {120, 1140, 2490, 4545}};
     Frame Frame2{*this, L"Search", {2655, 1140, 2490, 4545}, FrameBorder::None};
+    StaticLabel KeywordLabel{Frame2, L"Keyword:", {0, 15, 1700, 225}};
+    TextBox Text3{Frame2, {0, 255, 1725, 315}};
+    Button Command1{Frame2, L"&Go!", {1800, 240, 690, 345}};
+    Frame Frame1{Frame2, L"Look in", {0, 645, 2490, 600}, FrameBorder::Captioned};
+    OptionButton Option3{
+        Frame1, L"G&ame", {120, 255, 1050, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set};
+    OptionButton Option4{Frame1, L"&Cheats", {1230, 255, 1050, 255}, OptionButton::Group::Continues};
+    ListBox List1{Frame2, {0, 1315, 2490, 3230}};
     TextBox Text1{*this, {2680, 780, 5945, 4905}, TextBoxKind::Reading};
     TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Shape Shape1{*this, {0, 0, 420, 420}};
@@ -49,9 +58,6 @@ class frmCtlView final : public Form {
     /// Shows game `number`: its cheats, and its name as the caption. Throws `Error` with SubscriptOutOfRange for a
     /// number no slot has.
     void show_game(int number);
-    /// The controls on `Frame2`. They are made when they are first asked for: most players look a game up in the list,
-    /// which they see the sooner the fewer windows are made before.
-    SearchPanel& search_panel();
     /// Slides the full list in over the search panel.
     void ShowList();
     /// Slides the search panel in over the full list.
@@ -64,13 +70,13 @@ class frmCtlView final : public Form {
     /// while a window shows the progress and takes the user's wish to cancel; what was collected until then is kept.
     /// Throws `Error` when the file cannot be written; the progress window then stays open.
     void collect_fonts();
-    /// Colours the text and the lists by the check mark of the colour entry; the search panel is made in these colours.
+    /// Colours the text and the lists by the check mark of the colour entry.
     void apply_colours();
 
   private:
     void bind();
     void bind_search();
-    void bind_search_panel(SearchPanel& panel);
+    void bind_search_panel();
     void bind_commands();
     void bind_image_bar();
     void bind_alphabet_bar();
@@ -122,6 +128,7 @@ class frmCtlView final : public Form {
 
     void save_settings();
     void ask_for_help();
+    void allow_saving(bool allowed);
     void copy_cheats();
     void print_cheats();
     void toggle_colours();
@@ -133,12 +140,8 @@ class frmCtlView final : public Form {
     void add_hover_help(Control& control, const wchar_t* text);
     void place_help_box(const Control& control, const MouseEvent& event);
 
-    void colour_list(ListBox& list) const;
-
     Session& session_;
     const ViewerWindows& windows_;
-    std::optional<SearchPanel> search_panel_;
-    std::wstring search_text_;  // what `Text3` holds once the panel is made
     HoverHelp hover_help_{session_.pointer, Text4, Timer1};
     const Graphic* hovered_ = nullptr;  // the image or the letter that shows that the pointer is over it
     std::unique_ptr<frmStatus> status_;

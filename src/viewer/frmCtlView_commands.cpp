@@ -41,11 +41,6 @@ constexpr ImageHelp image_help[] = {
 // The help of the first images starts at the window's left edge; that of the others is centred on the pointer.
 constexpr std::size_t first_centred_help = 2;
 
-/// Whether a movement that an item has been told of is over it; while it is pressed, it is told of all.
-bool is_within(const Item& item, const MouseEvent& event) {
-    return event.x >= 0 && event.y >= 0 && event.x < item.width() && event.y < item.height();
-}
-
 }  // namespace
 
 void frmCtlView::bind_commands() {
@@ -127,14 +122,10 @@ void frmCtlView::apply_colours() {
     Image1.set_border(coloured ? ImageBorder::Single : ImageBorder::None);
     Text1.set_back_colour(coloured ? rgb(255, 192, 255) : colours::white);
     Text1.set_fore_colour(coloured ? rgb(128, 0, 128) : colours::black);
-    colour_list(List2);
-    if (search_panel_) colour_list(search_panel_->List1);
-}
-
-void frmCtlView::colour_list(ListBox& list) const {
-    const bool coloured = menus.mnuColour.checked();
-    list.set_back_colour(coloured ? rgb(192, 192, 255) : colours::white);
-    list.set_fore_colour(coloured ? rgb(0, 0, 255) : colours::black);
+    for (ListBox* list : {&List1, &List2}) {
+        list->set_back_colour(coloured ? rgb(192, 192, 255) : colours::white);
+        list->set_fore_colour(coloured ? rgb(0, 0, 255) : colours::black);
+    }
 }
 
 void frmCtlView::Image2_Click(std::size_t index) {
@@ -178,7 +169,6 @@ void frmCtlView::Image1_MouseMove(const MouseEvent& event) {
                     {Image1.left() + event.x - colour_help_width / 2, Image1.top() + event.y + help_below_pointer,
                      colour_help_width, Text4.height()});
     Shape1.set_visible(false);
-    Label1_reset();
 }
 
 void frmCtlView::show_image_help(const Image& image, const wchar_t* text, Bounds bounds) {
@@ -187,6 +177,7 @@ void frmCtlView::show_image_help(const Image& image, const wchar_t* text, Bounds
     Text4.move(bounds);
     if (hovered_ != &image) {
         hovered_ = &image;
+        Label1_reset();
         Text4.set_text(text);
         Text4.fit_font_to_width();
     }

@@ -1,6 +1,7 @@
 // Searching the catalogue, and the two panels that take turns at the left of the viewer.
 
 #include "common/desktop.h"
+#include "common/hover_help.h"
 #include "common/pointer.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
@@ -20,66 +21,53 @@ void frmCtlView::bind_search() {
     menus.mnuSelectedSearch.on_click = [this] {
         Option2.set_value(true);
         // Where the mode was set before, it has not called for the keyword.
-        SelectAllText(search_panel().Text3);
-        CenterMouseOn(search_panel().Command1.window());
+        SelectAllText(Text3);
+        CenterMouseOn(Command1.window());
     };
 }
 
-SearchPanel& frmCtlView::search_panel() {
-    if (!search_panel_) {
-        SearchPanel& panel = search_panel_.emplace(Frame2);
-        bind_search_panel(panel);
-        panel.List1.set_height(viewer_layout({width(), height()}).result_list_height);
-        panel.Text3.set_text(search_text_);
-        colour_list(panel.List1);
+void frmCtlView::bind_search_panel() {
+    Command1.on_click = [this] { Command1_Click(); };
+    Text3.on_change = [this] { Command1.set_enabled(!Text3.empty()); };
+    Command1.set_enabled(false);
+    for (OptionButton* option : {&Option3, &Option4}) {
+        option->on_click = [this] { Text3.set_focus(); };
+        // The option that is set already raises no click.
+        option->on_mouse_up = [this, option](const MouseEvent& event) {
+            if (event.button == MouseButton::Left && is_within(*option, event)) {
+                Text3.set_focus();
+            }
+        };
     }
-    return *search_panel_;
-}
-
-void frmCtlView::bind_search_panel(SearchPanel& panel) {
-    for (Control* control :
-         std::initializer_list<Control*>{&panel.Text3, &panel.Command1, &panel.Option3, &panel.Option4}) {
-        control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
-    }
-    panel.Command1.on_click = [this] { Command1_Click(); };
-    panel.Text3.on_change = [&panel] { panel.Command1.set_enabled(!panel.Text3.empty()); };
-    for (OptionButton* option : {&panel.Option3, &panel.Option4}) {
-        option->on_click = [&panel] { panel.Text3.set_focus(); };
-    }
-    panel.Option3.set_tool_tip(L"Searches list of games for required keywords.");
-    panel.Option4.set_tool_tip(L"Searches all cheat codes for required keywords.");
-    panel.List1.on_click = [this] { List1_Click(); };
-    bind_list(panel.List1);
-    add_hover_help(panel.Command1, L"Click here to start the search!");
-    add_hover_help(panel.Text3, L"Type what you want to search for here");
+    Option3.set_tool_tip(L"Searches list of games for required keywords.");
+    Option4.set_tool_tip(L"Searches all cheat codes for required keywords.");
+    List1.on_click = [this] { List1_Click(); };
 }
 
 void frmCtlView::Command1_Click() {
-    SearchPanel& panel = search_panel();
     {
         const Hourglass hourglass(*this);
-        session_.viewer.search_keyword = upper_cased(panel.Text3.text());
-        const ListBox::Filling filling(panel.List1);
-        panel.List1.clear();
-        session_.search_texts.find(panel.Option3.value() ? SearchScope::Names : SearchScope::Cheats,
+        session_.viewer.search_keyword = upper_cased(Text3.text());
+        const ListBox::Filling filling(List1);
+        List1.clear();
+        session_.search_texts.find(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
                                    session_.viewer.search_keyword, session_.viewer.game_count,
-                                   [this, &panel](int number) { panel.List1.add(session_.catalogue.name(number)); });
+                                   [this](int number) { List1.add(session_.catalogue.name(number)); });
         // For all hits at once: nothing is painted between two of them, and telling the system of each took longer than
         // the search.
-        if (panel.List1.count() > 0) Line1.invalidate();
+        if (List1.count() > 0) Line1.invalidate();
     }
-    if (panel.List1.count() == 0) {
+    if (List1.count() == 0) {
         show_message(window(),
                      {.text = L"Nothing was found! Try searching for something else.", .title = L"Nothing there."});
-        panel.List1.set_tool_tip({});
+        List1.set_tool_tip({});
     }
-    SelectAllText(panel.Text3);
+    SelectAllText(Text3);
 }
 
 void frmCtlView::List1_Click() {
-    const SearchPanel& panel = search_panel();
-    List2.select_text(panel.List1.text());
-    if (!panel.Option4.value()) return;
+    List2.select_text(List1.text());
+    if (!Option4.value()) return;
     const std::wstring& keyword = session_.viewer.search_keyword;
     const std::size_t position = upper_cased(Text1.text()).find(keyword);
     Text1.set_focus();
@@ -97,12 +85,11 @@ bool frmCtlView::offer_search_for_selection() {
 }
 
 void frmCtlView::SearchFor(SearchScope scope) {
-    SearchPanel& panel = search_panel();
-    (scope == SearchScope::Names ? panel.Option3 : panel.Option4).set_value(true);
+    (scope == SearchScope::Names ? Option3 : Option4).set_value(true);
     Option2.set_value(true);
-    panel.Text3.set_text(keyword_of(Text1.selected_text()));
-    SelectAllText(panel.Text3);
-    CenterMouseOn(panel.Command1.window());
+    Text3.set_text(keyword_of(Text1.selected_text()));
+    SelectAllText(Text3);
+    CenterMouseOn(Command1.window());
 }
 
 void frmCtlView::Option1_Click() {
@@ -111,11 +98,10 @@ void frmCtlView::Option1_Click() {
 }
 
 void frmCtlView::Option2_Click() {
-    SearchPanel& panel = search_panel();
     ShowFrame();
     // As after a search, what is typed takes the place of the former keyword.
-    SelectAllText(panel.Text3);
-    set_default_button(&panel.Command1);
+    SelectAllText(Text3);
+    set_default_button(&Command1);
 }
 
 void frmCtlView::ShowFrame() {

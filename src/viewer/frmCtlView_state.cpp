@@ -28,7 +28,7 @@ void frmCtlView::start_up() {
     restore_size();
     apply_colours();
     if (const auto selected = List2.selected_index()) List2.set_top_index(*selected);
-    if (List2.text().empty()) menus.mnuSave.set_enabled(false);
+    if (List2.text().empty()) allow_saving(false);
     session_.viewer.game_count = static_cast<std::int16_t>(List2.count());
     Shape1.set_visible(false);
     session_.viewer.next_letter = L'A';
@@ -43,7 +43,16 @@ void frmCtlView::fill_full_list() {
     const ListBox::Filling filling(List2);
     const auto list_name = [this](std::wstring_view name) { List2.add(name); };
     if (state.open_count == 1) {
-        load_catalogue(session_.text_file, session_.program_folder + L"\\Cheats.dat", session_.catalogue, list_name);
+        const std::wstring path = session_.program_folder + L"\\Cheats.dat";
+        try {
+            load_catalogue(session_.text_file, path, session_.catalogue, list_name);
+        } catch (const Error& error) {
+            // What is in a file that could be read is described by its error alone.
+            if (error.code() == ErrorCode::InvalidArgument || error.code() == ErrorCode::SubscriptOutOfRange) {
+                throw;
+            }
+            throw Error(error.code(), error.description() + L"\r\n" + path);
+        }
     } else {
         session_.catalogue.relist(list_name);
     }
@@ -58,7 +67,7 @@ void frmCtlView::restore_settings() {
     menus.mnuAutoSelect.set_checked(stored.read(settings::AutoSelect));
     set_window_state(window_state_of(stored.read(settings::FrmCtlViewWindowState)));
     Text1.set_text(stored.read(settings::Text1));
-    search_text_ = stored.read(settings::SearchText);
+    Text3.set_text(stored.read(settings::SearchText));
     if (const std::wstring game = stored.read(settings::DefaultGame); !game.empty()) List2.select_text(game);
     if (const std::wstring title = stored.read(settings::FrmCtlViewCaption); !title.empty()) set_caption(title);
 }
@@ -79,6 +88,7 @@ void frmCtlView::build_alphabet_bar() {
         session_.viewer.next_letter = checked_add_16(session_.viewer.next_letter, 1);
     }
     for (Label& label : Label1) {
+        label.set_visible(true);
         label.set_alignment(Alignment::Centre);
         label.set_back_style(BackStyle::Opaque);
     }
@@ -98,7 +108,7 @@ void frmCtlView::save_settings() {
     store.write(settings::AutoSelect, menus.mnuAutoSelect.checked());
     store.write(settings::FrmCtlViewWindowState, static_cast<std::int32_t>(window_state()));
     store.write(settings::Text1, Text1.text());
-    store.write(settings::SearchText, search_panel_ ? search_panel_->Text3.text() : search_text_);
+    store.write(settings::SearchText, Text3.text());
     store.write(settings::DefaultGame, List2.text());
     store.write(settings::FrmCtlViewCaption, caption());
     if (window_state() != WindowState::Normal) return;

@@ -81,6 +81,13 @@ bool WindowTest::point_until(HWND window, int x, int y, const std::function<bool
     });
 }
 
+void WindowTest::click_on(HWND control) {
+    POINT pointer{};
+    ASSERT_TRUE(
+        point_until(control, 8, 8, [&] { return GetCursorPos(&pointer) && WindowFromPoint(pointer) == control; }));
+    click();
+}
+
 void WindowTest::click(DWORD down, DWORD up) {
     send_mouse(down);
     send_mouse(up);

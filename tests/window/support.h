@@ -54,6 +54,8 @@ class WindowTest : public ::testing::Test {
     /// Moves the pointer there until the condition holds; false when it does not within ten seconds. The movement is
     /// made again now and then, because a window that has just opened may miss one.
     bool point_until(HWND window, int x, int y, const std::function<bool()>& condition);
+    /// Clicks a control at its left edge, with the real pointer.
+    void click_on(HWND control);
     /// Presses and releases a mouse button where the pointer is.
     static void click(DWORD down = MOUSEEVENTF_LEFTDOWN, DWORD up = MOUSEEVENTF_LEFTUP);
 

@@ -119,6 +119,17 @@ TEST_F(ViewerCommandsTest, AnImageIsPressedAndComesBack) {
     EXPECT_TRUE(is_at_rest()) << "another window has taken the mouse away";
     mouse(WM_LBUTTONUP, image);
     EXPECT_TRUE(is_at_rest()) << "a release without its press changes nothing";
+    const auto look = [this](const Image& shown) {
+        std::vector<COLORREF> colours;
+        viewer->refresh();
+        const WindowCanvas canvas(viewer->window());
+        for (LONG x = shown.pixels().left; x < shown.pixels().right; ++x)
+            colours.push_back(GetPixel(canvas.get(), x, shown.pixels().top + 14));
+        return colours;
+    };
+    const auto enabled = look(image);
+    image.set_enabled(false);
+    EXPECT_NE(look(image), enabled);
 }
 
 TEST_F(ViewerCommandsTest, HelpGoesWithThePointerWhereverItGoes) {
@@ -145,6 +156,8 @@ TEST_F(ViewerCommandsTest, HelpGoesWithThePointerWhereverItGoes) {
     const RECT& letter = viewer->Label1[5].pixels();
     ASSERT_TRUE(point_until(viewer->window(), letter.left + 4, letter.top + 5,
                             [this] { return viewer && viewer->Label1[5].back_colour() == colours::black; }));
+    mouse(WM_MOUSEMOVE, viewer->Image2[6]);
+    EXPECT_EQ(viewer->Label1[5].back_colour(), rgb(0, 255, 255)) << "the pointer has jumped to an image";
     ASSERT_TRUE(point_until(viewer->Text1.window(), 50, 50, is_tidy));
 }
 

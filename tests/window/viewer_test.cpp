@@ -20,7 +20,7 @@ struct ViewerTest : ShownViewerTest {
 
 TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
     open_viewer();
-    EXPECT_FALSE(viewer->menus.mnuSave.enabled());
+    EXPECT_FALSE(viewer->menus.mnuSave.enabled() || viewer->Image2[1].enabled());
     EXPECT_EQ(viewer->caption(), L"") << "the stored caption gives way to the game that is shown, here none";
     RECT item{};
     SendMessageW(viewer->List2.window(), LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&item));
@@ -30,7 +30,7 @@ TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
     ASSERT_SOON(viewer->Text1.text() == L"MARIO warps");
     EXPECT_EQ(viewer->caption(), L"Amber & Ash");
     EXPECT_EQ(viewer->menus.mnuSave.caption(), L"&Save Amber && Ash") << "the name's own ampersand is no access key";
-    EXPECT_TRUE(viewer->menus.mnuSave.enabled());
+    EXPECT_TRUE(viewer->menus.mnuSave.enabled() && viewer->Image2[1].enabled());
     viewer->menus.mnuAutoSelect.set_checked(true);
     EXPECT_TRUE(point_until(viewer->List2.window(), 25, 8, [this] { return viewer->caption() == L"Alpha"; }));
 }
@@ -38,7 +38,7 @@ TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
 TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     open_viewer();
     viewer->List2.select_index(2);
-    viewer->search_panel().Text3.set_text(L"keyword");
+    viewer->Text3.set_text(L"keyword");
     viewer->menus.mnuColour.on_click();
     viewer->menus.mnuAutoSelect.on_click();
     viewer->set_height(7200);
@@ -53,7 +53,11 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     EXPECT_TRUE(viewer->menus.mnuAutoSelect.checked());
     EXPECT_NEAR(viewer->height(), 7200, 15);
     EXPECT_NEAR(viewer->width(), 9000, 15);
+    viewer->set_window_state(WindowState::Minimised);
+    close_viewer();
+    open_viewer();
     viewer->set_window_state(WindowState::Maximised);
+    EXPECT_SOON(viewer->caption() == L"Beta") << "the game's name, not the caption of the minimised window";
     close_viewer();
     EXPECT_EQ(session.settings.read(settings::FrmCtlViewWindowState), 2);
     EXPECT_EQ(session.settings.read(settings::FrmCtlViewWidth), 9000) << "a maximised window keeps the size it had";
@@ -65,12 +69,19 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     session.settings.write(settings::SearchText, L"later");
     EXPECT_EQ(viewer->List2.count(), 6) << "later openings list from memory";
     EXPECT_EQ(viewer->List2.item(5), L"Added");
-    EXPECT_EQ(viewer->search_panel().Text3.text(), L"keyword") << "though nobody searched the last time";
-    EXPECT_TRUE(viewer->search_panel().Command1.enabled());
-    EXPECT_EQ(viewer->search_panel().List1.back_colour(), colours::white);
+    EXPECT_EQ(viewer->Text3.text(), L"keyword") << "though nobody searched the last time";
+    EXPECT_TRUE(viewer->Command1.enabled());
+    EXPECT_EQ(viewer->List1.back_colour(), colours::white);
 }
 
 TEST_F(ViewerTest, AFailedLoadShowsWhyAndKeepsWhatWasRead) {
+    std::filesystem::remove(folder.path() / "Cheats.dat");
+    expect_message(L"Error!", L"File not found\r\n" + (folder.path() / "Cheats.dat").wstring());
+    open_viewer();
+    EXPECT_FALSE(viewer->Shape1.visible() || viewer->Label1[0].visible()) << "what has no meaning yet";
+    EXPECT_FALSE(viewer->Image2[1].enabled() || viewer->menus.mnuSave.enabled() || viewer->Command1.enabled());
+    close_viewer();
+    session.viewer = {};
     expect_message(L"Error!", L"Invalid procedure call or argument");
     open_viewer("a\r\n$$$$$$$$$$$$$$$$$$$$ One\r\n$$$$$$$$$$$$$$$$$$$$\r\n");
     EXPECT_TRUE(session.text_file.is_open()) << "file number 1 stays open";
@@ -134,35 +145,36 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     EXPECT_SOON(viewer->Option2.value()) << "the arrow keys stay among the options, also once the list has its name";
     EXPECT_TRUE(viewer->Frame2.visible() && !viewer->List2.visible());
     for (const auto& [control, name] : std::initializer_list<std::pair<Control*, const wchar_t*>>{
-             {&viewer->Text1, L"Cheat codes"}, {&viewer->search_panel().List1, L"Search results"}}) {
+             {&viewer->Text1, L"Cheat codes"}, {&viewer->List1, L"Search results"}}) {
         // A screen reader asks for the control, and looks for the name when it has the answer.
         SendMessageW(control->window(), WM_GETOBJECT, 0, OBJID_CLIENT);
         wchar_t text[32]{};
         GetWindowTextW(GetWindow(control->window(), GW_HWNDPREV), text, 32);
         EXPECT_STREQ(text, name);
     }
-    SearchPanel& panel = viewer->search_panel();
-    for (const Control* next : std::initializer_list<const Control*>{&panel.Option3, &panel.List1, &viewer->Text1}) {
+    for (const Control* next :
+         std::initializer_list<const Control*>{&viewer->Option3, &viewer->List1, &viewer->Text1}) {
         press_key(VK_TAB);
         EXPECT_SOON(next->has_focus()) << "what can be used in the order of reading, and the scope as one stop";
     }
+    ASSERT_TRUE(viewer->Option3.value());
+    click_on(viewer->Option3.window());
+    EXPECT_SOON(viewer->Text3.has_focus()) << "also after a click on the scope that is set already";
     const auto search = [this](const wchar_t* keyword) {
-        viewer->search_panel().Text3.set_text(keyword);
-        viewer->search_panel().Command1.click();
+        viewer->Text3.set_text(keyword);
+        viewer->Command1.click();
         std::wstring names;
-        for (int i = 0; i < viewer->search_panel().List1.count(); ++i)
-            names += viewer->search_panel().List1.item(i) + L"|";
+        for (int i = 0; i < viewer->List1.count(); ++i) names += viewer->List1.item(i) + L"|";
         return names;
     };
     EXPECT_EQ(search(L"bETA"), L"Beta|beta|");
-    viewer->search_panel().Option4.set_value(true);
+    viewer->Option4.set_value(true);
     EXPECT_EQ(search(L"\u00e9T\u00c9"), L"Super MARIO|");
-    EXPECT_EQ(viewer->search_panel().Text3.selected_text(), L"\u00e9T\u00c9")
-        << "a new keyword is typed over the old one";
+    EXPECT_EQ(viewer->Text3.selected_text(), L"\u00e9T\u00c9") << "a new keyword is typed over the old one";
     expect_message(L"Nothing there.", L"Nothing was found! Try searching for something else.");
     EXPECT_EQ(search(L"mario  "), L"");
     search(L"CODE");
-    viewer->search_panel().List1.select_index(0);
+    viewer->List1.select_index(0);
     EXPECT_EQ(viewer->caption(), L"Super MARIO");
     EXPECT_EQ(viewer->Text1.selected_text(), L"code");
     viewer->Option1.set_value(true);
@@ -172,11 +184,11 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     viewer->Text1.set_text(L" warps mario ");
     viewer->Text1.select(0, 7);
     viewer->SearchFor(SearchScope::Cheats);
-    EXPECT_TRUE(viewer->Option2.value() && viewer->search_panel().Option4.value());
-    EXPECT_EQ(viewer->search_panel().Text3.text(), L"warps") << "a word of the text";
-    EXPECT_EQ(viewer->default_button(), &viewer->search_panel().Command1);
+    EXPECT_TRUE(viewer->Option2.value() && viewer->Option4.value());
+    EXPECT_EQ(viewer->Text3.text(), L"warps") << "a word of the text";
+    EXPECT_EQ(viewer->default_button(), &viewer->Command1);
     POINT pointer{};
-    EXPECT_SOON(GetCursorPos(&pointer) && WindowFromPoint(pointer) == viewer->search_panel().Command1.window())
+    EXPECT_SOON(GetCursorPos(&pointer) && WindowFromPoint(pointer) == viewer->Command1.window())
         << "the pointer is on the button that starts the search";
 }
 
@@ -185,18 +197,18 @@ TEST_F(ViewerTest, CallsForTheKeywordHoweverTheSearchIsOpened) {
     open_viewer();
     viewer->Text1.set_text(L"warps");
     const auto is_typed_over = [this](const wchar_t* keyword) {
-        const TextBox& box = viewer->search_panel().Text3;
+        const TextBox& box = viewer->Text3;
         return box.has_focus() && box.selected_text() == keyword;
     };
     viewer->Option2.set_value(true);
     EXPECT_TRUE(is_typed_over(L"before")) << "the keyword of the last run";
-    viewer->search_panel().Text3.set_text(L"unsought");
+    viewer->Text3.set_text(L"unsought");
     viewer->Option1.set_value(true);
     viewer->Option2.set_value(true);
     EXPECT_TRUE(is_typed_over(L"unsought"));
 
     // From now on the panel is open already.
-    viewer->search_panel().List1.set_focus();
+    viewer->List1.set_focus();
     viewer->menus.mnuSelectedSearch.pick();
     EXPECT_TRUE(is_typed_over(L"unsought")) << "from the menu of the results";
     viewer->Text1.set_focus();
@@ -211,8 +223,8 @@ TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised
     EXPECT_NEAR(viewer->height(), 5340, 8);
     EXPECT_NEAR(viewer->width(), 5970, 8);
     viewer->List2.select_index(0);
-    viewer->search_panel().List1.add(L"Result");
-    SendMessageW(viewer->search_panel().List1.window(), LB_SETCURSEL, 0, 0);
+    viewer->List1.add(L"Result");
+    SendMessageW(viewer->List1.window(), LB_SETCURSEL, 0, 0);
     viewer->set_window_state(WindowState::Minimised);
     EXPECT_SOON(viewer->caption() == L"Quillomat - Result");
     // A change of resolution meanwhile keeps the game's name.
@@ -234,10 +246,10 @@ TEST_F(ViewerTest, KeepsItsPlacesThroughAChangeOfResolution) {
     RECT list{};
     viewer->Option2.set_value(true);
     GetClientRect(viewer->Frame2.window(), &frame);
-    GetWindowRect(viewer->search_panel().List1.window(), &list);
+    GetWindowRect(viewer->List1.window(), &list);
     MapWindowPoints(nullptr, viewer->Frame2.window(), reinterpret_cast<POINT*>(&list), 2);
     EXPECT_NEAR(list.bottom, frame.bottom, 1);
-    EXPECT_EQ(SendMessageW(viewer->search_panel().List1.window(), LB_GETITEMHEIGHT, 0, 0),
+    EXPECT_EQ(SendMessageW(viewer->List1.window(), LB_GETITEMHEIGHT, 0, 0),
               SendMessageW(viewer->List2.window(), LB_GETITEMHEIGHT, 0, 0));
 }
 
@@ -250,8 +262,7 @@ TEST_F(ViewerTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
     for (const Control* beside : std::initializer_list<const Control*>{&viewer->Text1, &viewer->Frame2}) {
         EXPECT_NEAR(beside->top() + beside->height(), viewer->List2.top() + viewer->List2.height(), 15);
     }
-    EXPECT_NEAR(viewer->search_panel().List1.top() + viewer->search_panel().List1.height(), viewer->Frame2.height(),
-                15);
+    EXPECT_NEAR(viewer->List1.top() + viewer->List1.height(), viewer->Frame2.height(), 15);
     std::unique_ptr<frmAddNew> window;
     open_in(window, session, *link);
     EXPECT_NEAR(window->Text1.width(), window->width() - 360, 15);
