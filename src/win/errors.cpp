@@ -34,6 +34,7 @@ Error error_from_code(DWORD code) {
         case ERROR_WRITE_PROTECT:
         case ERROR_USER_MAPPED_FILE:
         case ERROR_DELETE_PENDING:
+        case ERROR_UNABLE_TO_REMOVE_REPLACED:
             return Error(ErrorCode::PermissionDenied);
         case ERROR_DISK_FULL:
         case ERROR_HANDLE_DISK_FULL:

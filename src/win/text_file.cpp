@@ -1,7 +1,7 @@
 #include "win/text_file.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <functional>
 #include <memory>
 #include <new>
 
@@ -23,18 +23,25 @@ LONGLONG size_of(HANDLE file) {
     return size.QuadPart;
 }
 
-void write_all(HANDLE file, std::string_view bytes) {
+/// Writes in one call, and returns only when the disk has the bytes: one behind a cache may refuse as late as that.
+void write_flushed(HANDLE file, std::string_view bytes) {
     DWORD written = 0;
     if (!WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) throw_last_error();
     if (written != bytes.size()) throw Error(ErrorCode::DiskFull);
+    if (!FlushFileBuffers(file)) throw_last_error();
 }
 
-/// A file that may not be changed stays as it is, even where a folder or an administrator's rights would allow it.
+bool seek(HANDLE file, LONGLONG position) {
+    LARGE_INTEGER distance{};
+    distance.QuadPart = position;
+    return SetFilePointerEx(file, distance, nullptr, FILE_BEGIN) != FALSE;
+}
+
+/// A file that may not be changed stays as it is, even where the rights to its folder would allow replacing it.
 void check_changeable(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) {
-        throw Error(ErrorCode::PermissionDenied);
-    }
+    if (attributes == INVALID_FILE_ATTRIBUTES) return;
+    if (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) throw Error(ErrorCode::PermissionDenied);
 }
 
 /// Closes the slot when a write ends, whichever way: only reading leaves it open.
@@ -57,45 +64,50 @@ void set_fate(HANDLE file, AtClosing fate) {
     if (!SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info)) throw_last_error();
 }
 
-/// The name under which a file is written until it is complete. One that a program which was ended has left behind is
-/// written over.
-std::wstring unfinished_file_beside(const std::wstring& path) {
-    return path.substr(0, path.find_last_of(L"\\/") + 1) + L"~quillomat.tmp";
-}
-
-/// Adds the bytes of another file, which nobody may change meanwhile.
-void copy_content(HANDLE target, const std::wstring& source_path) {
-    const FileHandle source(CreateFileW(source_path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!source) throw_last_error();
-    const auto block = std::make_unique_for_overwrite<char[]>(block_size);
-    for (;;) {
-        DWORD read = 0;
-        if (!ReadFile(source.get(), block.get(), block_size, &read, nullptr)) throw_last_error();
-        if (read == 0) return;
-        write_all(target, {block.get(), read});
-    }
-}
-
-/// Gives an open file the name of another one, whose place it takes in one step.
-void take_place(HANDLE file, const std::wstring& path) {
-    const std::size_t name_size = path.size() * sizeof(wchar_t);
-    const std::size_t size = sizeof(FILE_RENAME_INFO) + name_size;
-    const auto buffer = std::make_unique<std::byte[]>(size);
-    auto& info = *new (buffer.get()) FILE_RENAME_INFO{};
-    info.ReplaceIfExists = TRUE;
-    info.FileNameLength = static_cast<DWORD>(name_size);
-    path.copy(info.FileName, path.size());
-    // A virus scanner or an indexer looks into every file that changes, and nobody can take its place meanwhile.
-    constexpr int attempts = 10;
-    constexpr DWORD milliseconds_between = 50;
-    for (int attempt = 1; !SetFileInformationByHandle(file, FileRenameInfo, &info, static_cast<DWORD>(size));
-         ++attempt) {
-        const DWORD code = GetLastError();
-        const bool in_use = code == ERROR_ACCESS_DENIED || code == ERROR_SHARING_VIOLATION;
-        if (!in_use || attempt == attempts) throw error_from_code(code);
+/// Repeats a system call for half a second while another program has the file open: a second run of this program that
+/// adds a game, a virus scanner, an indexer. Returns the code of the last failure, or ERROR_SUCCESS.
+DWORD wait_for_file(const std::function<bool()>& call) {
+    constexpr int attempts = 50;
+    constexpr DWORD milliseconds_between = 10;
+    DWORD code = ERROR_SUCCESS;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        if (call()) return ERROR_SUCCESS;
+        code = GetLastError();
+        if (code != ERROR_SHARING_VIOLATION && code != ERROR_UNABLE_TO_REMOVE_REPLACED) return code;
         Sleep(milliseconds_between);
     }
+    return code;
+}
+
+/// The path of the file itself if `path` is a link to it, else `path`.
+std::wstring link_target(const std::wstring& path) {
+    const FileHandle file(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0,
+                                      nullptr));
+    if (!file) return path;
+    std::wstring target(GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
+    const DWORD length =
+        GetFinalPathNameByHandleW(file.get(), target.data(), static_cast<DWORD>(target.size()), FILE_NAME_NORMALIZED);
+    // Drivers of some memory disks and network drives cannot tell the name.
+    if (length == 0 || length >= target.size()) return path;
+    target.resize(length);
+    return target;
+}
+
+/// Puts a new file in the place of another one, whose rights, attributes and times it takes over.
+void put_in_place(const std::wstring& new_file, const std::wstring& path) {
+    DWORD code = wait_for_file([&] {
+        return ReplaceFileW(path.c_str(), new_file.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                            nullptr) != 0;
+    });
+    // There was no old file; or the old one has gone already, and the new one has not come into its place.
+    if (code == ERROR_FILE_NOT_FOUND || code == ERROR_UNABLE_TO_MOVE_REPLACEMENT) {
+        code = wait_for_file([&] {
+            // Another program may have made one meanwhile.
+            return MoveFileExW(new_file.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+        });
+    }
+    if (code != ERROR_SUCCESS) throw error_from_code(code);
 }
 
 }  // namespace
@@ -105,10 +117,18 @@ bool file_exists(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-void TextFileSlot::open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
+void TextFileSlot::check_free() const {
     if (is_open()) throw Error(ErrorCode::FileAlreadyOpen);
-    file_ = FileHandle(CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file_) throw_last_error();
+}
+
+void TextFileSlot::open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
+    check_free();
+    const DWORD code = wait_for_file([&] {
+        file_ =
+            FileHandle(CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+        return is_open();
+    });
+    if (code != ERROR_SUCCESS) throw error_from_code(code);
 }
 
 void TextFileSlot::open_for_reading(const std::wstring& path) {
@@ -143,31 +163,51 @@ DecodedText TextFileSlot::read_all() try {
 }
 
 void TextFileSlot::append(const std::wstring& path, std::wstring_view text) {
-    write(path, encode(text), file_exists(path) ? OldContent::Keep : OldContent::Forget);
+    const std::string bytes = encode(text);
+    check_changeable(path);
+    // Nobody else may write meanwhile, so that what is cut off again after a failure is this text and nothing more.
+    open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+    const Closing closing(file_);
+    const LONGLONG old_size = size_of(file_.get());
+    try {
+        if (!seek(file_.get(), old_size)) throw_last_error();
+        write_flushed(file_.get(), bytes);
+    } catch (const Error&) {
+        if (seek(file_.get(), old_size)) SetEndOfFile(file_.get());
+        throw;
+    }
 }
 
 void TextFileSlot::replace(const std::wstring& path, std::wstring_view text) {
-    write(path, encode(text), OldContent::Forget);
+    const std::string bytes = encode(text);
+    check_changeable(path);
+    const std::wstring target = link_target(path);
+    const std::wstring new_file = create_beside(target);
+    try {
+        {
+            const Closing closing(file_);
+            // An unfinished file goes with its handle, even if the program is ended.
+            set_fate(file_.get(), AtClosing::Delete);
+            write_flushed(file_.get(), bytes);
+            set_fate(file_.get(), AtClosing::Keep);
+        }
+        put_in_place(new_file, target);
+    } catch (const Error&) {
+        DeleteFileW(new_file.c_str());
+        throw;
+    }
 }
 
-void TextFileSlot::write(const std::wstring& path, std::string_view bytes, OldContent old_content) {
-    check_changeable(path);
-    // Shared with nobody: a second run of the program that writes at the same moment is refused, and neither loses what
-    // the other one adds.
-    open(unfinished_file_beside(path), GENERIC_WRITE | DELETE, 0, CREATE_ALWAYS);
-    const Closing closing(file_);
-    set_fate(file_.get(), AtClosing::Delete);
-    if (old_content == OldContent::Keep) copy_content(file_.get(), path);
-    write_all(file_.get(), bytes);
-    // A disk behind a cache may refuse only now; and the new file must not lose its content with the power after it has
-    // taken the place of the old one.
-    if (!FlushFileBuffers(file_.get())) throw_last_error();
-    set_fate(file_.get(), AtClosing::Keep);
-    try {
-        take_place(file_.get(), path);
-    } catch (const Error&) {
-        set_fate(file_.get(), AtClosing::Delete);
-        throw;
+std::wstring TextFileSlot::create_beside(const std::wstring& path) {
+    check_free();
+    const std::wstring stem =
+        path.substr(0, path.find_last_of(L"\\/") + 1) + L"~quillomat-" + std::to_wstring(GetCurrentProcessId()) + L"-";
+    for (int number = 1;; ++number) {
+        std::wstring new_file = stem + std::to_wstring(number) + L".tmp";
+        file_ = FileHandle(CreateFileW(new_file.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (is_open()) return new_file;
+        if (GetLastError() != ERROR_FILE_EXISTS) throw_last_error();
     }
 }
 

@@ -25,21 +25,22 @@ class TextFileSlot {
     DecodedText read_all();
     void close() { file_.close(); }
 
-    /// Adds a text to the end of a file, which is made if there is none; nothing is put between the two. All or
-    /// nothing: at any moment, even if the program is ended or the power fails, the file has its old bytes or all of
-    /// the new ones behind them. Throws `Error` as `open_for_reading` does, DiskFull, or InvalidArgument for a
-    /// character the code page lacks.
+    /// Appends a text to a file, which is created if there is none. Exactly the text's bytes are written, in place, in
+    /// one call; if that fails, the file is cut back to what it was. Two programs that append at once take turns.
+    /// Throws `Error` as `open_for_reading` does, PermissionDenied if another program keeps the file for longer than
+    /// half a second, DiskFull, or InvalidArgument for a character that the code page lacks.
     void append(const std::wstring& path, std::wstring_view text);
-    /// Makes a text the whole content of a file, new or not. All or nothing: at any moment the file is the old one or
-    /// the new one. Throws as `append` does.
+    /// Makes a text the whole content of a file, new or not; if `path` is a link, of the link's target. The old content
+    /// stays until the new one is complete and on the disk; the old file's rights and attributes are kept. Throws as
+    /// `append` does.
     void replace(const std::wstring& path, std::wstring_view text);
 
   private:
-    enum class OldContent { Keep, Forget };
-
+    /// Throws FileAlreadyOpen while the slot is in use.
+    void check_free() const;
     void open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition);
-    /// Writes a new file beside the one at `path` and has it take that one's place.
-    void write(const std::wstring& path, std::string_view bytes, OldContent old_content);
+    /// Opens a new file in the folder of `path`, under a name that no file has, and returns its path.
+    std::wstring create_beside(const std::wstring& path);
 
     FileHandle file_;
 };
