@@ -7,8 +7,8 @@
 namespace quillomat::soak {
 namespace {
 
-/// Wine gives the handles that are free before it makes its table longer. So with more menus than there can be free
-/// ones, every handle up to the highest is in use, and all that are not these menus' belong to somebody.
+/// Wine: gives out all free handles before it makes its table longer. With more menus than there can be free handles,
+/// every handle up to the highest is in use, and all that are not these menus' belong to some process.
 int count_all_user_objects() {
     constexpr std::size_t more_than_free = 0x1000;
     constexpr std::uintptr_t first_handle = 0x20;
@@ -28,8 +28,8 @@ int count_all_user_objects() {
 ObjectCounts count_objects_of(HANDLE process) {
     const ObjectCounts counted{static_cast<int>(GetGuiResources(process, GR_GDIOBJECTS)),
                                static_cast<int>(GetGuiResources(process, GR_USEROBJECTS))};
-    // Wine answers 0.
-    return counted.gdi ? counted : ObjectCounts{count_gdi_objects(process), count_all_user_objects()};
+    // Wine: answers 0, and tells nothing of another process's GDI objects.
+    return counted.gdi ? counted : ObjectCounts{.user = count_all_user_objects()};
 }
 
 }  // namespace quillomat::soak

@@ -5,8 +5,7 @@
 
 namespace quillomat::soak {
 
-/// What another process holds of the system. Where the system does not count by process, `user` is what all processes
-/// together hold: windows, menus, icons and all else that has a handle of that kind.
+/// The GDI and USER objects of another process. Wine: no GDI objects, and the USER objects of all processes together.
 ObjectCounts count_objects_of(HANDLE process);
 
 }  // namespace quillomat::soak

@@ -233,8 +233,7 @@ void Soak::count_at_rest() {
         counted.push_back(count_objects_of(program_.process().hProcess));
     }
     at_rest_.push_back(fewest(counted));
-    log_ << "# at rest:" << describe(std::span(at_rest_).last(1))
-         << ", with GDI:" << list_gdi_objects(program_.process().hProcess) << std::endl;
+    log_ << "# at rest:" << describe(std::span(at_rest_).last(1)) << std::endl;
 }
 
 void Soak::judge_growth() {
