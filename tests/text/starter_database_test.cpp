@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <regex>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "database/catalogue.h"
@@ -25,7 +28,7 @@ TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
     std::vector<std::wstring> names;
     Catalogue catalogue;
     catalogue.load(widened(bytes), [&](std::wstring_view name) { names.emplace_back(name); });
-    EXPECT_GE(names.size(), 150U);
+    EXPECT_GE(names.size(), 200U);
     EXPECT_EQ(names.size(), count_of("\r\n" + bytes, "\r\n$$$$$$$$$$$$$$$$$$$$ "));
     EXPECT_EQ(count_of(bytes, "$$$$$$$$$$"), 2 * names.size()) << "a marker that is too short, too long or misplaced";
     EXPECT_EQ(catalogue.cheats(static_cast<int>(names.size())), L"") << "text behind the last name line";
@@ -45,6 +48,27 @@ TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
         EXPECT_FALSE(name.ends_with(L' ')) << testing::PrintToString(name);
         EXPECT_LT(previous, upper);
         previous = upper;
+    }
+}
+
+/// The words players search for, each with what else one could call the effect: a line that does must hold the words.
+TEST(StarterDatabase, SaysEachEffectInTheWordsPlayersSearchFor) {
+    const auto likewise = [](const char* words) { return std::regex(words, std::regex::icase | std::regex::optimize); };
+    const std::pair<std::string, std::regex> effects[]{
+        {"god mode (invincible)", likewise("no harm|takes? no|vulnerab|invincib|immortal|god mode|^god( 1)? -|^IDDQD")},
+        {"no clip (walk through walls)", likewise("no ?clip|through walls")},
+        {"unlimited ammo", likewise("(infinite|endless) ammo|ammo(unition)? without end")},
+        {"all weapons", likewise("every weapon|all (the )?(guns|weapons)")},
+        {"level skip", likewise("(skips?|wins) the (level|mission)|next (level|mission)|go to (that|a) level")},
+        {"money", likewise("[0-9] (gold|dollars|credits|simoleons|florins|caps|coins?)|- (gold|credits|caps)$")},
+        {"console", likewise("open it with")}};
+    std::istringstream lines(bytes_of(QUILLOMAT_STARTER_DATABASE));
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_TRUE(line.size() <= 101 && line.find('~') == std::string::npos) << "long, or a key of few: " << line;
+        for (const auto& [words, other_words] : effects) {
+            const bool has_words = line.find(words) != std::string::npos;
+            EXPECT_TRUE(has_words || !std::regex_search(line, other_words)) << words << " is missing: " << line;
+        }
     }
 }
 
