@@ -1,5 +1,7 @@
 #include "forms/application.h"
 
+#include <algorithm>
+#include <iterator>
 #include <new>
 #include <utility>
 
@@ -57,11 +59,23 @@ void Application::close_all_forms() {
     }
 }
 
+void Application::drop_second_press() {
+    first_click_ = static_cast<DWORD>(GetMessageTime());
+}
+
+bool Application::is_second_press(const MSG& message) {
+    constexpr UINT presses[] = {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_NCLBUTTONDOWN, WM_NCLBUTTONDBLCLK};
+    if (std::ranges::find(presses, message.message) == std::end(presses)) return false;
+    const std::optional<DWORD> first = std::exchange(first_click_, std::nullopt);
+    return first && message.time - *first < GetDoubleClickTime();
+}
+
 void Application::quit() {
     PostQuitMessage(0);
 }
 
 void Application::dispatch(MSG& message) {
+    if (is_second_press(message)) return;
     Form* form = message.hwnd ? Form::from(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
     if (form && form->translate(message)) return;
     TranslateMessage(&message);

@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,9 @@ class Application {
     void run_until(const std::function<bool()>& finished);
     /// Handles the messages that wait now, so that a long task stays responsive.
     void let_pending_events_run();
+    /// Drops the second press of a double-click, if the mouse click that is being handled turns out to be one: what
+    /// opens under the pointer instead of the clicked window is not meant.
+    void drop_second_press();
     /// Closes every form that is open, dialogs before the windows below them.
     void close_all_forms();
     /// Ends the outermost `run`.
@@ -45,10 +49,12 @@ class Application {
 
   private:
     void dispatch(MSG& message);
+    bool is_second_press(const MSG& message);
 
     std::wstring title_;
     FontCache fonts_;
     int forced_dpi_ = 0;
+    std::optional<DWORD> first_click_;  // the time of the click whose second press is dropped
 };
 
 /// Stops the program for a moment, in the middle of an animation.

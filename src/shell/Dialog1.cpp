@@ -5,9 +5,9 @@
 #include "common/desktop.h"
 #include "forms/application.h"
 #include "resources/pictures.h"
-#include "text/animation.h"
 #include "text/author_links.h"
 #include "text/product.h"
+#include "win/animation_setting.h"
 
 namespace quillomat {
 namespace {
@@ -25,7 +25,7 @@ Dialog1::Dialog1(Application& application, PointerState& pointer)
                          .border = FormBorder::Dialog}),
       picSpin(PICTURE_COIN),
       Picture1{Picture(PICTURE_QUILL_FIRST), Picture(PICTURE_QUILL_FIRST + 1), Picture(PICTURE_QUILL_FIRST + 2)},
-      picCopy(*this, picSpin, L"A coin that turns", {240, 240, 2340, 2340}),
+      picCopy(*this, picSpin, L"A coin that turns", {240, 240, 2340, 2340}, PictureBox::Edge::Thin),
       Label1(*this, product::author, {2835, 795, 2835, 420}),
       pointer_(pointer) {
     picCopy.set_back_colour(colours::white);
@@ -73,19 +73,25 @@ void Dialog1::bind_hover_help() {
 
 void Dialog1::Form_Load() {
     centre_on_screen();
+    if (!animations_wanted()) {
+        for (Timer* timer : {&Timer1, &Timer2, &Timer4}) timer->set_enabled(false);
+    }
 }
 
 void Dialog1::set_links_visible(bool visible) {
     for (Link* link : {&Label3, &Label4, &Label5, &Label6, &Label8}) link->set_visible(visible);
 }
 
-bool Dialog1::show_step(double twips) {
-    const double former = height();
-    set_height(twips);
-    if (height() == former) return false;
-    RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    pause_milliseconds(pause_between_steps);
-    return true;
+void Dialog1::resize(std::optional<double> (*next_height)(double)) {
+    const bool animated = animations_wanted();
+    while (const auto next = next_height(exact_height_)) {
+        exact_height_ = *next;
+        if (!animated) continue;
+        set_height(exact_height_);
+        RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        pause_milliseconds(pause_between_steps);
+    }
+    set_height(exact_height_);
 }
 
 void Dialog1::Expand() {
@@ -93,10 +99,7 @@ void Dialog1::Expand() {
     if (cmdButton[0].has_focus()) cmdButton[1].set_focus();
     cmdButton[0].set_visible(false);
     set_links_visible(true);
-    while (const auto next = next_expanded_height(height())) {
-        // The system lets no window grow beyond the screen, which can be too low for this one at a high resolution.
-        if (!show_step(*next)) break;
-    }
+    resize(next_expanded_height);
     place_on_screen();
 }
 
@@ -104,7 +107,7 @@ void Dialog1::Contract() {
     cmdButton[0].set_visible(true);
     if (cmdButton[1].has_focus()) cmdButton[0].set_focus();
     cmdButton[1].set_visible(false);
-    while (const auto next = next_contracted_height(height())) show_step(*next);
+    resize(next_contracted_height);
     // Out of sight they are out of reach of the keyboard too.
     set_links_visible(false);
 }

@@ -10,6 +10,7 @@
 #include "forms/form.h"
 #include "forms/timer.h"
 #include "shell/picture_box.h"
+#include "text/author_animation.h"
 
 namespace quillomat {
 
@@ -57,11 +58,13 @@ class Dialog1 final : public Form {
     void Timer4_Timer();
 
     void set_links_visible(bool visible);
-    /// Whether the window has got another height.
-    bool show_step(double twips);
+    /// Takes the window through the heights of an animation to the last one, or there at once if the user wants no
+    /// animations.
+    void resize(std::optional<double> (*next_height)(double));
 
     PointerState& pointer_;
     HoverHelp hover_help_{pointer_, HelpBox, Timer3};
+    double exact_height_ = author_dialog_height;  // in twips, not rounded to pixels
     int capital_ = 0;
     int icon_ = 0;
     std::optional<double> turn_;

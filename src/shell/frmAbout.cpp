@@ -1,14 +1,12 @@
 #include "shell/frmAbout.h"
 
-#include <cmath>
-
 #include "common/desktop.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "resources/pictures.h"
-#include "text/animation.h"
 #include "text/author_links.h"
 #include "text/product.h"
+#include "win/animation_setting.h"
 #include "win/system_information.h"
 
 namespace quillomat {
@@ -41,7 +39,7 @@ frmAbout::frmAbout(Application& application, PointerState& pointer, std::int16_t
         label->set_font({.points = 12, .bold = true});
     }
     picIcon.set_tool_tip(L"Double-click to start the Easter egg!");
-    show_title_size();
+    show_title(title_points_);
     set_default_button(&cmdButton[0]);
     set_cancel_button(&cmdButton[0]);
     cmdButton[0].set_focus();
@@ -68,9 +66,6 @@ void frmAbout::bind() {
     mnuOK.on_click = [this] { close(); };
     Timer1.on_timer = [this] { Timer1_Timer(); };
     Timer2.on_timer = [this] { Timer2_Timer(); };
-    // The size changes as fast as the timers tick. It is drawn as often as the eye can follow, because drawing is what
-    // costs.
-    FrameTimer.on_timer = [this] { show_title_size(); };
 }
 
 void frmAbout::bind_hover_help() {
@@ -88,6 +83,7 @@ void frmAbout::Form_Load() {
     Label4.set_caption(L"You have run Quillomat " + std::to_wstring(StartUpTimes) + L" times.");
     CenterMouseOn(cmdButton[0].window());
     emboss(EmbossStyle::Raised);
+    if (!animations_wanted()) Timer2.set_enabled(false);
 }
 
 void frmAbout::emboss(EmbossStyle style) {
@@ -99,15 +95,14 @@ void frmAbout::Label4_Click() {
                  {.text = L"Why did you click me?", .title = application().title(), .icon = MessageIcon::Question});
 }
 
-void frmAbout::show_title_size() {
-    // In steps of two points, which is finer than what the size changes by from frame to frame: the system keeps only a
-    // few fonts ready, and to load one again costs more than to draw with it.
-    lblTitle.set_font({.points = 2 * std::floor(title_points_ / 2), .bold = true});
+void frmAbout::show_title(double points) {
+    title_points_ = points;
+    lblTitle.set_font({.points = points, .bold = true});
 }
 
 void frmAbout::Timer2_Timer() {
     if (const auto points = next_shrinking_title(title_points_)) {
-        title_points_ = *points;
+        show_title(*points);
     } else {
         Timer2.set_enabled(false);
         Timer1.set_enabled(true);
@@ -116,7 +111,7 @@ void frmAbout::Timer2_Timer() {
 
 void frmAbout::Timer1_Timer() {
     if (const auto points = next_growing_title(title_points_)) {
-        title_points_ = *points;
+        show_title(*points);
     } else {
         Timer1.set_enabled(false);
         Timer2.set_enabled(true);

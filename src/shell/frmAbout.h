@@ -13,6 +13,7 @@
 #include "forms/timer.h"
 #include "shell/emboss_label.h"
 #include "shell/picture_box.h"
+#include "text/about_animation.h"
 
 namespace quillomat {
 
@@ -46,7 +47,6 @@ class frmAbout final : public Form {
     Timer Timer1{*this, 1, Timer::State::Disabled};
     Timer Timer2{*this, 1};
     Timer Timer3{*this, 1};
-    Timer FrameTimer{*this, 40};
     Menu mnuMail{*this, {}};
     Menu mnuMailMe{mnuMail, L"Use &Quillomat's Mail program"};
     Menu mnuDefaultMail{mnuMail, L"Use &Default Mail Program"};
@@ -64,12 +64,12 @@ class frmAbout final : public Form {
     void mnuMailMe_Click();
     void StartSysInfo();
 
-    void show_title_size();
+    void show_title(double points);
     void emboss(EmbossStyle style);
 
     PointerState& pointer_;
     HoverHelp hover_help_{pointer_, Text1, Timer3};
-    double title_points_ = 20;
+    double title_points_ = largest_title;
     Next next_ = Next::MainScreen;
 };
 

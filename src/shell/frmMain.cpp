@@ -7,6 +7,7 @@
 #include "text/author_links.h"
 #include "text/numbers.h"
 #include "text/product.h"
+#include "win/animation_setting.h"
 
 namespace quillomat {
 namespace {
@@ -18,10 +19,6 @@ constexpr Colour stripe_colour = rgb(47, 167, 160);
 // Where on a button the help box stops standing above the pointer and stands to the left of it, and how far above.
 constexpr double help_box_turn = 1290;
 constexpr double help_box_rise = 500;
-
-// The colours of a button follow one another faster than a screen shows pictures, and painting them is what costs. Of
-// those that come within one frame only the last is painted.
-constexpr std::chrono::milliseconds frame{50};
 
 }  // namespace
 
@@ -167,6 +164,7 @@ void frmMain::Command3_Click() {
     show_answers();
     Command1.set_focus();
     enable_what_leads_away(false);
+    if (!animations_wanted()) take_all_steps(&frmMain::Timer2_Timer);
 }
 
 void frmMain::Command2_Click() {
@@ -178,6 +176,15 @@ void frmMain::Command2_Click() {
     enable_what_leads_away(true);
     Timer5.set_enabled(true);
     Command3.set_focus();
+    if (!animations_wanted()) take_all_steps(&frmMain::Timer3_Timer);
+}
+
+void frmMain::take_all_steps(void (frmMain::*step)()) {
+    ExitConfirmation before;
+    do {
+        before = exit_confirmation();
+        (this->*step)();
+    } while (exit_confirmation() != before);
 }
 
 void frmMain::enable_what_leads_away(bool enabled) {
@@ -237,16 +244,13 @@ void frmMain::Timer3_Timer() {
 void frmMain::Timer6_Timer() {
     const ColourCycle next = next_colour_cycle(colour_step_);
     colour_step_ = static_cast<std::int16_t>(next.step);
-    const auto now = std::chrono::steady_clock::now();
-    if (!next.colour || now < next_colour_painted_) return;
-    // Counted from when it was due: the frames keep falling on other colours, so that each has its turn.
-    next_colour_painted_ = std::max(next_colour_painted_ + frame, now);
-    Command4.set_back_colour(Colour{*next.colour});
+    if (next.colour) Command4.set_back_colour(Colour{*next.colour});
 }
 
 void frmMain::Timer7_Timer() {
     hover_help_.tick();
-    Timer6.set_enabled(session_.pointer.PointerWindow == Command4.window());
+    const bool hovered = session_.pointer.PointerWindow == Command4.window();
+    if (hovered != Timer6.enabled()) Timer6.set_enabled(hovered && animations_wanted());
 }
 
 }  // namespace quillomat

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 
 #include "common/hover_help.h"
@@ -14,7 +13,7 @@
 #include "forms/timer.h"
 #include "resources/pictures.h"
 #include "shell/main_windows.h"
-#include "text/animation.h"
+#include "text/main_screen_animation.h"
 
 namespace quillomat {
 
@@ -96,6 +95,8 @@ class frmMain final : public Form {
     void enable_what_leads_away(bool enabled);
     void show_answers();
     void hide_answers();
+    /// Moves the buttons of the exit question to where a timer's steps take them.
+    void take_all_steps(void (frmMain::*step)());
     ExitConfirmation exit_confirmation() const;
     void place(const ExitConfirmation& confirmation);
 
@@ -103,7 +104,6 @@ class frmMain final : public Form {
     const MainWindows& windows_;
     HoverHelp hover_help_{session_.pointer, Text1, Timer7};
     std::int16_t colour_step_ = 0;
-    std::chrono::steady_clock::time_point next_colour_painted_;
 };
 
 }  // namespace quillomat

@@ -5,7 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "text/animation.h"
+#include "forms/application.h"
+#include "text/splash_animation.h"
+#include "win/animation_setting.h"
 
 namespace quillomat {
 namespace {
@@ -88,14 +90,23 @@ void frmSplash::place_letters() {
 }
 
 void frmSplash::go_on_when_clicked(MouseEvents& item) {
-    item.on_click = [this] { Proceed(); };
+    item.on_click = [this] {
+        // The main screen opens with the pointer on its largest button, which the second press would press.
+        application().drop_second_press();
+        Proceed();
+    };
     item.on_mouse_up = [this](const MouseEvent& event) {
         if (event.button != MouseButton::Left) Proceed();
     };
 }
 
 void frmSplash::Form_Load() {
-    Label2.set_left(version_start_left(width()));
+    version_left_ = version_start_left(width());
+    if (!animations_wanted()) {
+        Timer1.set_enabled(false);
+        while (const auto left = next_version_left(version_left_)) version_left_ = *left;
+    }
+    Label2.set_left(version_left_);
     Label6.set_caption(mottoes[motto_number(random_fraction()) - 1]);
     band_step_ = 0;
     centre_on_screen();
@@ -108,8 +119,10 @@ void frmSplash::Timer1_Timer() {
 }
 
 void frmSplash::Timer2_Timer() {
-    if (const auto left = next_version_left(Label2.left())) {
-        Label2.set_left(*left);
+    // From the exact position: Label2 would give it back rounded to pixels, and every step with it.
+    if (const auto left = next_version_left(version_left_)) {
+        version_left_ = *left;
+        Label2.set_left(version_left_);
     } else {
         Timer2.set_enabled(false);
     }

@@ -45,6 +45,7 @@ class frmSplash final : public Form {
 
     std::function<void()> show_main_screen_;
     std::int16_t band_step_ = 0;
+    double version_left_ = 0;  // in twips, not rounded to pixels
 };
 
 }  // namespace quillomat

@@ -1,31 +1,15 @@
 #include "shell/picture_box.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <cmath>
+#include <utility>
 
 namespace quillomat {
-namespace {
 
-BITMAPINFO pixel_format(int size) {
-    BITMAPINFO format{};
-    format.bmiHeader.biSize = sizeof format.bmiHeader;
-    format.bmiHeader.biWidth = size;
-    format.bmiHeader.biHeight = -size;  // rows from the top
-    format.bmiHeader.biPlanes = 1;
-    format.bmiHeader.biBitCount = 32;
-    format.bmiHeader.biCompression = BI_RGB;
-    return format;
-}
-
-std::uint32_t pixel_of(Colour colour) {
-    const COLORREF value = resolve(colour);
-    return static_cast<std::uint32_t>(GetRValue(value) << 16 | GetGValue(value) << 8 | GetBValue(value));
-}
-
-}  // namespace
-
-PictureBox::PictureBox(Container& container, Picture picture, std::wstring_view description, Bounds bounds)
-    : Control(container, bounds, L"STATIC", description, SS_OWNERDRAW | SS_NOTIFY | WS_GROUP), picture_(picture) {}
+PictureBox::PictureBox(Container& container, Picture picture, std::wstring_view description, Bounds bounds, Edge edge)
+    : Control(container, bounds, L"STATIC", description, SS_OWNERDRAW | SS_NOTIFY | WS_GROUP),
+      picture_(picture),
+      edge_(edge) {}
 
 void PictureBox::set_width_factor(double factor) {
     if (factor == width_factor_) return;
@@ -33,31 +17,33 @@ void PictureBox::set_width_factor(double factor) {
     InvalidateRect(window(), nullptr, FALSE);
 }
 
-void PictureBox::take_pixels(int size) {
-    const COLORREF background = resolve(back_colour());
-    if (pixels_.width == size && pixels_background_.value == background) return;
-    pixels_ = {size, size, std::vector<std::uint32_t>(static_cast<std::size_t>(size) * static_cast<std::size_t>(size))};
-    pixels_background_.value = background;
-    const GdiObject<HBITMAP> bitmap = picture_.bitmap(size, back_colour());
-    BITMAPINFO format = pixel_format(size);
-    const WindowCanvas screen(nullptr);
-    GetDIBits(screen.get(), bitmap.get(), 0, static_cast<UINT>(size), pixels_.pixels.data(), &format, DIB_RGB_COLORS);
-}
-
 void PictureBox::draw(const DRAWITEMSTRUCT& request) {
     const RECT& area = request.rcItem;
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    const int size = std::min(width, height);
+    const int size = std::min(area.right - area.left, area.bottom - area.top);
     if (size <= 0) return;
-    take_pixels(size);
-    const PixelPicture shown = squeezed(pixels_, width_factor_, pixel_of(back_colour()));
-    const BITMAPINFO format = pixel_format(size);
+    const COLORREF background = resolve(back_colour());
+    if (std::exchange(bitmap_size_, size) != size || std::exchange(bitmap_background_, background) != background) {
+        bitmap_ = picture_.bitmap(size, back_colour());
+    }
     const BufferedCanvas buffer(request.hDC, area);
-    fill(buffer.canvas(), area, back_colour());
-    SetDIBitsToDevice(buffer.canvas(), area.left + (width - size) / 2, area.top + (height - size) / 2,
-                      static_cast<DWORD>(size), static_cast<DWORD>(size), 0, 0, 0, static_cast<UINT>(size),
-                      shown.pixels.data(), &format, DIB_RGB_COLORS);
+    const HDC canvas = buffer.canvas();
+    fill(canvas, area, back_colour());
+
+    const MemoryCanvas source(canvas);
+    const Selection selected(source.get(), bitmap_.get());
+    const int width = static_cast<int>(std::lrint(size * width_factor_));
+    int left = (area.left + area.right - width) / 2;
+    // StretchBlt mirrors onto the columns up to and including the one it is given.
+    if (width < 0) --left;
+    const int top = (area.top + area.bottom - size) / 2;
+    SetStretchBltMode(canvas, HALFTONE);
+    SetBrushOrgEx(canvas, 0, 0, nullptr);
+    StretchBlt(canvas, left, top, width, size, source.get(), 0, 0, size, size, SRCCOPY);
+
+    if (edge_ == Edge::Thin) {
+        SetDCBrushColor(canvas, resolve(colours::grey_text));
+        FrameRect(canvas, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    }
 }
 
 }  // namespace quillomat

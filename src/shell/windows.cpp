@@ -73,7 +73,8 @@ void Windows::open_viewer() {
 }
 
 void Windows::restore_main_screen() {
-    if (main_screen_ && main_screen_->window_state() == WindowState::Minimised) {
+    // While the main screen closes, restoring it for the viewer that closes with it would flash it up.
+    if (main_screen_ && !main_screen_->closed() && main_screen_->window_state() == WindowState::Minimised) {
         main_screen_->set_window_state(WindowState::Normal);
     }
 }

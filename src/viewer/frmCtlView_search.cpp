@@ -5,8 +5,8 @@
 #include "common/pointer.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
-#include "text/animation.h"
 #include "text/search_text.h"
+#include "text/viewer_animation.h"
 #include "viewer/frmCtlView.h"
 #include "win/upper_case.h"
 

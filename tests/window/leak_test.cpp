@@ -131,8 +131,8 @@ TEST_F(LeakTest, Animations) {
     about.show();
     author.show();
     const auto step = [&] {
-        for (Timer* timer : {&about.Timer1, &about.Timer2, &about.FrameTimer, &author.Timer1, &author.Timer2,
-                             &author.Timer3, &author.Timer4}) {
+        for (Timer* timer :
+             {&about.Timer1, &about.Timer2, &author.Timer1, &author.Timer2, &author.Timer3, &author.Timer4}) {
             timer->tick();
         }
         UpdateWindow(about.window());

@@ -172,9 +172,30 @@ TEST_F(WholeProgramTest, LeadsFromTheSplashToTheCheatsAndOut) {
     EXPECT_FALSE(find_form<frmMain>());
 }
 
+TEST_F(WholeProgramTest, TheSecondPressOfADoubleClickOnTheSplashGoesNowhere) {
+    const UINT usual_time = GetDoubleClickTime();
+    SetDoubleClickTime(5000);
+    program.open_splash();
+    bool there = false;
+    find_form<frmSplash>()->on_mouse_move = [&](const MouseEvent&) { there = true; };
+    ASSERT_TRUE(point_until(find_form<frmSplash>()->window(), 5, 5, [&] { return there; }));
+    click();
+    ASSERT_SOON(find_form<frmMain>() && session.pointer.PointerWindow == find_form<frmMain>()->Command4.window());
+    click();
+    press_key(VK_TAB);
+    ASSERT_SOON(find_form<frmMain>()->Command6.has_focus()) << "what came before the key has been handled";
+    EXPECT_FALSE(find_form<frmWait>() || find_form<frmCtlView>());
+    click();
+    EXPECT_SOON(find_form<frmCtlView>()) << "a press after the double-click is heard again";
+    SetDoubleClickTime(usual_time);
+}
+
 TEST_F(WholeProgramTest, EverythingClosesWithTheMainScreen) {
     program.open_main_screen();
     program.open_viewer();
+    frmMain& main_screen = *find_form<frmMain>();
+    main_screen.set_window_state(WindowState::Minimised);
+    bool stayed_minimised = false;
     find_form<frmCtlView>()->List2.select_index(0);
     Form dialog(application, {.name = L"TestDialog", .caption = L"", .width = 3000, .height = 2000});
     bool dialog_unloaded = false;
@@ -182,10 +203,12 @@ TEST_F(WholeProgramTest, EverythingClosesWithTheMainScreen) {
     Timer closer(dialog, 1);
     closer.on_timer = [&] {
         closer.set_enabled(false);
-        find_form<frmMain>()->close();
+        main_screen.close();
+        stayed_minimised = IsIconic(main_screen.window());
     };
     dialog.show_modal(find_form<frmCtlView>());
     EXPECT_TRUE(dialog_unloaded);
+    EXPECT_TRUE(stayed_minimised) << "it does not flash up";
     EXPECT_EQ(application.run(), 0);
     EXPECT_FALSE(find_form<frmMain>() || find_form<frmCtlView>());
     EXPECT_EQ(session.settings.read(settings::DefaultGame), L"Alpha") << "the viewer saved its settings";
