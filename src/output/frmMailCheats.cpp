@@ -239,6 +239,7 @@ void frmMailCheats::SendCheats() {
             attach(attachment, session_.text_file, mail.attachment, cheats);
         }
         mail_session.send(mail);
+        mail_session.end();
     }
     tell_message_sent(*this);
     close();

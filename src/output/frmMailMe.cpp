@@ -116,6 +116,7 @@ void frmMailMe::SendToAuthor() {
                            .subject = author_mail_subject(Combo1.text()),
                            .text = Text1.text(),
                            .attachment = {}});
+        mail_session.end();
     }
     tell_message_sent(*this);
     close();

@@ -59,6 +59,12 @@ std::wstring mail_failure_description(MailResult result) {
     return std::wstring(L"The message was not sent: ").append(known ? known : unknown).append(L".");
 }
 
+std::wstring sign_off_failure_description(MailResult result) {
+    return L"Your mail program took the message, but could not end the connection (number " +
+           std::to_wstring(static_cast<unsigned>(result)) +
+           L"). Look into its outbox before you send the message again.";
+}
+
 std::wstring no_mail_program_description() {
     return L"The message was not sent: no mail program is set up on this computer. Install one, such as Thunderbird "
            L"or Outlook, make it the default mail program in the settings of Windows, and try again. A mail account "

@@ -35,6 +35,9 @@ enum class MailResult : unsigned {
 /// do about it. For any number, known or not.
 std::wstring mail_failure_description(MailResult result);
 
+/// What to tell the user when a mail program took a mail, but then failed to sign off.
+std::wstring sign_off_failure_description(MailResult result);
+
 /// What to tell a user whose computer has no program to send mails with.
 std::wstring no_mail_program_description();
 

@@ -1,7 +1,6 @@
 #include "win/mail_client.h"
 
 #include "text/error.h"
-#include "text/mail_result.h"
 #include "win/code_page.h"
 #include "win/handle.h"
 
@@ -154,11 +153,21 @@ MailSession::MailSession(HWND owner) : owner_(owner), library_(load_library()) {
 }
 
 MailSession::~MailSession() {
-    // Whether this succeeds changes nothing for the user any more. The library stays loaded: some mail programs have
-    // threads of their own in it that go on working.
-    if (const auto log_off = find<LogoffFunction>(library_, "MAPILogoff")) {
-        log_off(session_, reinterpret_cast<ULONG_PTR>(owner_), 0, 0);
-    }
+    // Nothing was sent, and the user is about to be told why.
+    if (!ended_) sign_off();
+}
+
+void MailSession::end() {
+    const MailResult result = sign_off();
+    if (result != MailResult::Success) throw Error(ErrorCode::MailFailure, sign_off_failure_description(result));
+}
+
+MailResult MailSession::sign_off() {
+    ended_ = true;
+    // The library stays loaded: some mail programs have threads of their own in it that go on working.
+    const auto log_off = find<LogoffFunction>(library_, "MAPILogoff");
+    if (!log_off) return MailResult::NotSupported;
+    return MailResult{log_off(session_, reinterpret_cast<ULONG_PTR>(owner_), 0, 0)};
 }
 
 void MailSession::send(const Mail& mail) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "text/mail_result.h"
 #include "win/api.h"
 
 namespace quillomat {
@@ -26,18 +27,24 @@ class MailSession {
     /// Signs on. The mail program shows its dialogs above `owner`. Throws `Error` with MailFailure and a sentence for
     /// the user when there is no mail program or it refuses.
     explicit MailSession(HWND owner);
-    /// Signs off.
+    /// Signs off, unless `end` has done so.
     ~MailSession();
     MailSession(const MailSession&) = delete;
     MailSession& operator=(const MailSession&) = delete;
 
     /// Hands a mail to the mail program, which takes over a copy of the attachment. Throws as the constructor does.
     void send(const Mail& mail);
+    /// Signs off after a mail was sent. Throws `Error` with MailFailure if the mail program refuses: the mail may then
+    /// still wait in the mail program.
+    void end();
 
   private:
+    MailResult sign_off();
+
     HWND owner_;
     HMODULE library_;
     std::uintptr_t session_ = 0;
+    bool ended_ = false;
 };
 
 }  // namespace quillomat

@@ -25,23 +25,21 @@ constexpr wchar_t no_printer[] =
     throw Error(ErrorCode::PrinterError, L"Printing was cancelled.");
 }
 
-[[noreturn]] void throw_print_error(DWORD code) {
-    switch (code) {
-        case ERROR_CANCELLED:
-        case ERROR_PRINT_CANCELLED:
-            throw_cancelled();
-        case ERROR_SUCCESS:
-            throw Error(ErrorCode::PrinterError);
-        default:
-            const Error error = error_from_code(code);
-            throw Error(error.code() == ErrorCode::DeviceError ? ErrorCode::PrinterError : error.code(),
-                        error.description());
-    }
+/// Throws the error that the printing system set last. Failures of a port or a driver have numbers that tell a user
+/// nothing ("Invalid handle."), so that the printer is named instead.
+[[noreturn]] void throw_print_error(const std::wstring& printer) {
+    const DWORD code = GetLastError();
+    if (code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED) throw_cancelled();
+    const Error error = error_from_code(code);
+    if (error.code() == ErrorCode::DiskFull || error.code() == ErrorCode::OutOfMemory) throw error;
+    throw Error(ErrorCode::PrinterError,
+                L"The document was not printed, or not all of it, because the printer \"" + printer +
+                    L"\" could not be reached. Check that it is switched on and connected, and try again.");
 }
 
-/// Makes a call of the printing system and throws when that answers with one of its error numbers.
+/// Makes a call of the printing system. Throws `Error` if the call reports a failure.
 template <class Call>
-void printed(const Call& call) {
+void printed(const std::wstring& printer, const Call& call) {
     SetLastError(ERROR_SUCCESS);
     const int result = call();
     if (result > 0) return;
@@ -54,7 +52,7 @@ void printed(const Call& call) {
         case SP_OUTOFMEMORY:
             throw Error(ErrorCode::OutOfMemory);
         default:
-            throw_print_error(GetLastError());
+            throw_print_error(printer);
     }
 }
 
@@ -74,13 +72,12 @@ std::wstring default_printer_name() {
 
 }  // namespace
 
-DefaultPrinter::DefaultPrinter() {
-    const std::wstring name = default_printer_name();
-    if (name.empty()) throw Error(ErrorCode::PrinterError, no_printer);
-    canvas_ = CreateDCW(L"WINSPOOL", name.c_str(), nullptr, nullptr);
+DefaultPrinter::DefaultPrinter() : name_(default_printer_name()) {
+    if (name_.empty()) throw Error(ErrorCode::PrinterError, no_printer);
+    canvas_ = CreateDCW(L"WINSPOOL", name_.c_str(), nullptr, nullptr);
     if (!canvas_) {
         throw Error(ErrorCode::PrinterError,
-                    L"The printer \"" + name + L"\" cannot be used. Check it in the Windows settings and try again.");
+                    L"The printer \"" + name_ + L"\" cannot be used. Check it in the Windows settings and try again.");
     }
 }
 
@@ -92,7 +89,7 @@ void DefaultPrinter::start_document(const std::wstring& name) {
     DOCINFOW document{};
     document.cbSize = sizeof document;
     document.lpszDocName = name.c_str();
-    printed([&] {
+    printed(name_, [&] {
         const int job = StartDocW(canvas_, &document);
         // A printer that prints to a file asks for its name, and the user may give none.
         if (job <= 0 && GetLastError() == ERROR_CANCELLED) throw Error(ErrorCode::Cancelled);
@@ -101,16 +98,16 @@ void DefaultPrinter::start_document(const std::wstring& name) {
 }
 
 HDC DefaultPrinter::start_page() {
-    printed([this] { return StartPage(canvas_); });
+    printed(name_, [this] { return StartPage(canvas_); });
     return canvas_;
 }
 
 void DefaultPrinter::end_page() {
-    printed([this] { return EndPage(canvas_); });
+    printed(name_, [this] { return EndPage(canvas_); });
 }
 
 void DefaultPrinter::end_document() {
-    printed([this] { return EndDoc(canvas_); });
+    printed(name_, [this] { return EndDoc(canvas_); });
 }
 
 void DefaultPrinter::abort_document() noexcept {

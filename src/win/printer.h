@@ -44,6 +44,7 @@ class DefaultPrinter final : public PrintDevice {
     void abort_document() noexcept override;
 
   private:
+    std::wstring name_;
     HDC canvas_;
 };
 

@@ -155,7 +155,11 @@ TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {
         EXPECT_TRUE(IsWindowEnabled(form->window()) && form->Command1.has_focus());
     }
     refuse("MAPILogoff", 2);
-    expect_sent();  // however the session ends
+    expect_message(L"Quillomat",
+                   L"Your mail program took the message, but could not end the connection (number 2). "
+                   L"Look into its outbox before you send the message again.");
+    press(form->Command1);
+    EXPECT_TRUE(form && mail_program.take_calls() == all && !exists("Cheats.txt"));
 }
 
 TEST_F(MailCheatsTest, AFileThatCannotBeWrittenAndAMissingMailProgramAreExplained) {

@@ -1,13 +1,85 @@
-// The window that prints the list of games, on a printer whose pages are read back.
+// The window that prints the list of games, on printers whose pages are read back.
 
 #include "metafile_printer.h"
 #include "output/frmPrintGames.h"
 #include "session_support.h"
+// Needs what they include.
+#include <winspool.h>
 
 namespace quillomat {
 namespace {
 
 using Lines = std::vector<std::wstring>;
+
+/// Wine: the default printer, for as long as the object lives, is a PostScript printer whose port is a file. Printing
+/// through it needs no print server.
+class FilePrinter {
+  public:
+    explicit FilePrinter(const std::filesystem::path& port) {
+        install_driver();
+        std::wstring port_name = port.wstring();
+        PRINTER_INFO_2W printer{};
+        printer.pPrinterName = name_;
+        printer.pPortName = port_name.data();
+        printer.pDriverName = driver_;
+        printer.pPrintProcessor = const_cast<wchar_t*>(L"WinPrint");
+        printer.pDatatype = const_cast<wchar_t*>(L"RAW");
+        printer_ = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&printer));
+        SetDefaultPrinterW(name_);
+    }
+    ~FilePrinter() {
+        DeletePrinter(printer_);
+        ClosePrinter(printer_);
+    }
+    FilePrinter(const FilePrinter&) = delete;
+    FilePrinter& operator=(const FilePrinter&) = delete;
+
+    bool installed() const { return printer_ != nullptr; }
+
+  private:
+    void install_driver() {
+        wchar_t folder[MAX_PATH];
+        DWORD needed = 0;
+        GetPrinterDriverDirectoryW(nullptr, nullptr, 1, reinterpret_cast<BYTE*>(folder), sizeof folder, &needed);
+        const std::filesystem::path place = std::filesystem::path(folder) / "3";
+        std::filesystem::create_directories(place);
+        write_bytes(place / "quillomat.ppd", description);
+        DRIVER_INFO_2W driver{};
+        driver.cVersion = 3;
+        driver.pName = driver_;
+        driver.pEnvironment = const_cast<wchar_t*>(L"Windows x64");
+        driver.pDriverPath = const_cast<wchar_t*>(L"wineps.drv");
+        driver.pDataFile = const_cast<wchar_t*>(L"quillomat.ppd");
+        driver.pConfigFile = const_cast<wchar_t*>(L"wineps.drv");
+        AddPrinterDriverW(nullptr, 2, reinterpret_cast<BYTE*>(&driver));
+    }
+
+    static constexpr char description[] =
+        "*PPD-Adobe: \"4.3\"\n*LanguageLevel: \"3\"\n*ColorDevice: False\n*TTRasterizer: Type42\n"
+        "*DefaultResolution: 600dpi\n*DefaultPageSize: A4\n*PageSize A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
+        "*DefaultPageRegion: A4\n*PageRegion A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
+        "*DefaultImageableArea: A4\n*ImageableArea A4: \"18 18 577 824\"\n"
+        "*DefaultPaperDimension: A4\n*PaperDimension A4: \"595 842\"\n";
+
+    wchar_t name_[16] = L"Test printer";
+    wchar_t driver_[16] = L"Test PostScript";
+    HANDLE printer_ = nullptr;
+};
+
+/// The letters of a PostScript document, one entry for each line of text; the driver names the glyph of a letter by the
+/// letter itself.
+Lines printed_letters(const std::string& document) {
+    Lines lines;
+    std::istringstream input(document);
+    for (std::string glyph, command, line; std::getline(input, line);) {
+        std::istringstream(line) >> glyph >> command;
+        if (line.ends_with(" moveto")) lines.emplace_back();
+        if (command == "glyphshow" && glyph.size() == 2 && !lines.empty())
+            lines.back() += static_cast<wchar_t>(glyph[1]);
+    }
+    std::erase(lines, L"");  // rules
+    return lines;
+}
 
 struct PrintGamesTest : SessionTest {
     void open(int games) {
@@ -71,6 +143,33 @@ TEST_F(PrintGamesTest, TroubleWithThePrinterIsOneMessageOrNoneAndTheWindowStays)
         EXPECT_EQ(printed.documents_ended, 0);
         EXPECT_EQ(printed.documents_aborted, 1) << "half a list is not printed";
     }
+}
+
+TEST_F(PrintGamesTest, TheWholeListGoesThroughThePrintingSystem) {
+    open(0);
+    for (int number = 0; number < 26 * 8; ++number) names.push_back({L'G', static_cast<wchar_t>(L'a' + number % 26)});
+    session.open_printer = open_default_printer;
+    expect_message(L"Quillomat",
+                   L"No printer is set up. Install or choose a printer in the Windows settings and try again.");
+    press(form->Command1);
+    {
+        const FilePrinter unreachable(folder.path() / "no such folder" / "out.ps");
+        if (!unreachable.installed()) GTEST_SKIP() << "Only Wine has the driver";
+        expect_message(
+            L"Quillomat",
+            L"The document was not printed, or not all of it, because the printer \"Test printer\" could not be "
+            L"reached. Check that it is switched on and connected, and try again.");
+        press(form->Command1);
+        ASSERT_TRUE(form && !form->closed()) << "the user can try again";
+    }
+    const FilePrinter printer(folder.path() / "out.ps");
+    press(form->Command1);
+    ASSERT_SOON(!form);
+    Lines expected = names;
+    expected.insert(expected.begin(), L"ListofGames");
+    expected.push_back(L"MadewithQuillomatwwwtobferrandexample");
+    EXPECT_EQ(printed_letters(bytes("out.ps")), expected);
+    EXPECT_NE(bytes("out.ps").find("%%Page: 3 3"), std::string::npos);
 }
 
 }  // namespace
