@@ -1,19 +1,26 @@
 #include <cstdlib>
+#include <string>
 
 #include "common/session.h"
 #include "forms/application.h"
 #include "shell/windows.h"
 #include "text/product.h"
+#include "text/question.h"
 #include "win/program_folder.h"
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t* arguments, int) {
     using namespace quillomat;
     Application application(product::title);
     try {
         Session session;
         session.program_folder = program_folder();
         Windows windows(application, session);
-        windows.open_splash();
+        const std::wstring question = question_of(arguments);
+        if (question.empty()) {
+            windows.open_splash();
+        } else {
+            windows.open_viewer_for(question);
+        }
         return application.run();
     } catch (...) {
         // What fails before there is a window to report it, such as a first window that cannot be made.

@@ -72,6 +72,15 @@ void Windows::open_viewer() {
     open(viewer_, session_, viewer_windows_);
 }
 
+void Windows::open_viewer_for(const std::wstring& question) {
+    open_viewer();
+    if (viewer_->window_state() == WindowState::Minimised) viewer_->set_window_state(WindowState::Normal);
+    viewer_->guarded([&] {
+        viewer_->look_up(question);
+        return LRESULT{};
+    });
+}
+
 void Windows::restore_main_screen() {
     // While the main screen closes, restoring it for the viewer that closes with it would flash it up.
     if (main_screen_ && !main_screen_->closed() && main_screen_->window_state() == WindowState::Minimised) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "common/session.h"
 #include "shell/main_windows.h"
@@ -31,6 +32,8 @@ class Windows {
     /// The loading window, which opens the viewer.
     void open_loading_window();
     void open_viewer();
+    /// Opens the viewer with the answer to a question: see `frmCtlView::look_up`.
+    void open_viewer_for(const std::wstring& question);
     /// Opens the message to the author, or brings the open one to the front.
     void open_author_mail();
 

@@ -64,6 +64,9 @@ class frmCtlView final : public Form {
     void ShowFrame();
     /// Prepares a search for the text selected in `Text1`.
     void SearchFor(SearchScope scope);
+    /// Shows the game that a question names, whatever its case; else searches the names, or the cheats if no name holds
+    /// the question, and shows a game that is the only one found.
+    void look_up(const std::wstring& question);
     /// Sorts the captions of the font menu's entries `lower` to `upper`, both included.
     void QuickSort(int lower, int upper);
     /// Makes the font menu offer the installed fonts, sorted, and keeps their names in the file beside the program,

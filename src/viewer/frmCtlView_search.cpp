@@ -92,6 +92,28 @@ void frmCtlView::SearchFor(SearchScope scope) {
     CenterMouseOn(Command1.window());
 }
 
+void frmCtlView::look_up(const std::wstring& question) {
+    const std::wstring keyword = upper_cased(question);
+    const int game_count = session_.viewer.game_count;
+    // A database that could not be read has been reported already.
+    if (game_count == 0) return;
+    bool named = false;
+    for (int number = 0; number < game_count; ++number) {
+        const std::wstring name = upper_cased(std::wstring(session_.catalogue.name(number)));
+        if (name == keyword) {
+            List2.select_index(number);
+            List2.set_top_index(number);
+            return;
+        }
+        if (name.find(keyword) != std::wstring::npos) named = true;
+    }
+    (named ? Option3 : Option4).set_value(true);
+    Option2.set_value(true);
+    Text3.set_text(question);
+    Command1_Click();
+    if (List1.count() == 1) List1.select_index(0);
+}
+
 void frmCtlView::Option1_Click() {
     ShowList();
     List2.set_focus();

@@ -23,6 +23,16 @@ HWND largest_child(HWND parent, const wchar_t* control_class) {
     return largest;
 }
 
+std::vector<std::wstring> entries_of(HWND list) {
+    std::vector<std::wstring> entries(static_cast<std::size_t>(SendMessageW(list, LB_GETCOUNT, 0, 0)));
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        entries[i].resize(static_cast<std::size_t>(SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1);
+        entries[i].resize(
+            static_cast<std::size_t>(SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(entries[i].data()))));
+    }
+    return entries;
+}
+
 }  // namespace
 
 std::filesystem::path Program::executable;
@@ -40,9 +50,9 @@ void Program::end() {
     process_ = {};
 }
 
-void Program::start() {
+void Program::start(const std::wstring& arguments) {
     end();
-    std::wstring command = L"\"" + (folder_ / L"Quillomat.exe").wstring() + L"\"";
+    std::wstring command = L"\"" + (folder_ / L"Quillomat.exe").wstring() + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     const std::wstring elsewhere = folder_.root_path().wstring();
@@ -94,14 +104,15 @@ bool Program::dismiss_message() const {
 }
 
 std::vector<std::wstring> games_of(HWND viewer) {
-    const HWND list = largest_child(viewer, L"ListBox");
-    std::vector<std::wstring> games(static_cast<std::size_t>(SendMessageW(list, LB_GETCOUNT, 0, 0)));
-    for (std::size_t i = 0; i < games.size(); ++i) {
-        games[i].resize(static_cast<std::size_t>(SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1);
-        games[i].resize(
-            static_cast<std::size_t>(SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(games[i].data()))));
+    return entries_of(largest_child(viewer, L"ListBox"));
+}
+
+std::vector<std::wstring> results_of(HWND viewer) {
+    HWND list = nullptr;
+    for (HWND frame = nullptr; !list && (frame = FindWindowExW(viewer, frame, nullptr, nullptr));) {
+        list = FindWindowExW(frame, nullptr, L"ListBox", nullptr);
     }
-    return games;
+    return entries_of(list);
 }
 
 std::wstring cheats_of(HWND viewer, int game) {

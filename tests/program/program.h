@@ -28,7 +28,7 @@ class Program {
     std::string read_database() const { return bytes_of(database()); }
 
     /// Starts the program from another folder than its own; again, when it has ended.
-    void start();
+    void start(const std::wstring& arguments = {});
     /// Ends it at once, if it is running.
     void end();
     const PROCESS_INFORMATION& process() const { return process_; }
@@ -58,6 +58,8 @@ class Program {
 
 /// The games in the list of a viewer.
 std::vector<std::wstring> games_of(HWND viewer);
+/// The games in the list of search results.
+std::vector<std::wstring> results_of(HWND viewer);
 /// Selects a game as a click does and returns the cheats that are shown then.
 std::wstring cheats_of(HWND viewer, int game);
 

@@ -70,6 +70,42 @@ TEST(Start, WithADatabaseThatIsMissingOrLocked) {
     EXPECT_EQ(program.read_database(), record("a", "Doom"));
 }
 
+TEST(Start, WithAQuestionShowsTheViewerWithItsAnswer) {
+    Program program;
+    program.write_database(record("all", "Doom") + record("god mode", "Doom II") + record("", "Quake") +
+                           record("God too", "Blood"));
+    const std::tuple<std::wstring, std::wstring, Games> questions[] = {
+        {L"doom", L"Doom", {}},
+        {L"\"DOOM\"  ii ", L"Doom II", {}},
+        {L"quak", L"Quake", {L"Quake"}},
+        {L"oo", L"", {L"Doom", L"Doom II", L"Blood"}},
+        {L"god", L"", {L"Doom II", L"Blood"}},
+        {L"god mode", L"Doom II", {L"Doom II"}},
+    };
+    for (const auto& [arguments, caption, found] : questions) {
+        program.start(arguments);
+        ASSERT_TRUE(wait_until([&] { return program.viewer() || program.find(L"frmSplash"); }));
+        ASSERT_TRUE(program.viewer()) << "no splash";
+        EXPECT_TRUE(wait_until([&] { return results_of(program.viewer()) == found; })) << arguments;
+        if (!caption.empty()) {
+            EXPECT_TRUE(wait_until([&] { return text_of(program.viewer()) == caption; })) << arguments;
+        }
+        PostMessageW(program.viewer(), WM_CLOSE, 0, 0);
+        EXPECT_EQ(program.exit_code(), 0U) << "no other window is open";
+    }
+    for (const std::wstring& arguments : {std::wstring(10'000, L'x'), std::wstring(L"%s\\\"\u2028/?")}) {
+        program.start(arguments);
+        ASSERT_TRUE(wait_until([&] { return !program.message().empty(); }));
+        EXPECT_TRUE(program.message().starts_with(L"Nothing there.: "));
+        ASSERT_TRUE(program.dismiss_message());
+        EXPECT_EQ(cheats_of(program.viewer(), 0), L"all");
+        PostMessageW(program.viewer(), WM_CLOSE, 0, 0);
+        EXPECT_EQ(program.exit_code(), 0U);
+    }
+    program.start(L" \"\" \t");
+    EXPECT_TRUE(wait_until([&] { return program.find(L"frmSplash"); }));
+}
+
 TEST(Start, WithADatabaseOfOneGigabyte) {
     Program program;
     program.write_database(record("a", "Doom"));
