@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
-#include <new>
 #include <utility>
 
 #include "forms/form.h"
-#include "forms/message_box.h"
-#include "text/error.h"
+#include "win/errors.h"
+#include "win/thread_windows.h"
 
 namespace quillomat {
 
@@ -16,18 +15,34 @@ Application::Application(std::wstring title) : title_(std::move(title)) {
     InitCommonControlsEx(&classes);
 }
 
+namespace {
+
+/// Waits for the next message of the thread; false for a request to quit.
+bool next_message(MSG& message) {
+    const BOOL result = GetMessageW(&message, nullptr, 0, 0);
+    if (result < 0) throw_last_error();
+    return result > 0;
+}
+
+bool is_keyboard_input(UINT message) {
+    return message >= WM_KEYFIRST && message <= WM_KEYLAST;
+}
+
+}  // namespace
+
 int Application::run() {
     MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) dispatch(message);
+    while (next_message(message)) dispatch(message);
     return static_cast<int>(message.wParam);
 }
 
 void Application::run_until(const std::function<bool()>& finished) {
     MSG message{};
     while (!finished()) {
-        const BOOL result = GetMessageW(&message, nullptr, 0, 0);
-        if (result == 0) PostQuitMessage(static_cast<int>(message.wParam));
-        if (result <= 0) return;
+        if (!next_message(message)) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
         dispatch(message);
     }
 }
@@ -41,19 +56,12 @@ void Application::let_pending_events_run() {
         }
         dispatch(message);
     }
+    faults_.report();
 }
 
 void Application::close_all_forms() {
-    std::vector<HWND> windows;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM list) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
-    // The system lists them from front to back. What closes may take others with it.
-    for (const HWND window : windows) {
+    for (const HWND window : thread_windows()) {
+        // What closes may take others with it.
         Form* form = IsWindow(window) ? Form::from(window) : nullptr;
         if (form) form->close();
     }
@@ -77,47 +85,22 @@ void Application::quit() {
 void Application::dispatch(MSG& message) {
     if (is_second_press(message)) return;
     Form* form = message.hwnd ? Form::from(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
-    if (form && form->translate(message)) return;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
+    // A window that waits for a dialog can still have the focus.
+    const bool waits = form && !IsWindowEnabled(form->window()) && is_keyboard_input(message.message);
+    if (!waits && !(form && form->translate(message))) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    faults_.report();
 }
 
-void Application::report_current_exception(HWND owner) {
-    std::wstring description;
-    try {
-        throw;
-    } catch (const Error& error) {
-        if (error.code() == ErrorCode::Cancelled) return;
-        description = error.description();
-    } catch (const std::bad_alloc&) {
-        description = Error(ErrorCode::OutOfMemory).description();
-    } catch (const std::exception& error) {
-        const std::string narrow = error.what();
-        description.assign(narrow.begin(), narrow.end());
-    }
-    show_message(owner, {.text = description, .title = title_, .icon = MessageIcon::Critical});
+void Application::report_current_exception() {
+    faults_.note_current_exception(nullptr, Occasion::Action);
+    faults_.report();
 }
 
 void pause_milliseconds(int milliseconds) {
     Sleep(static_cast<DWORD>(milliseconds));
-}
-
-ModalScope::ModalScope(HWND spared) : spared_(spared) {
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM scope) -> BOOL {
-            auto& self = *reinterpret_cast<ModalScope*>(scope);
-            if (window != self.spared_ && IsWindowVisible(window) && IsWindowEnabled(window)) {
-                EnableWindow(window, FALSE);
-                self.disabled_.push_back(window);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(this));
-}
-
-void ModalScope::end() {
-    for (const HWND window : std::exchange(disabled_, {})) EnableWindow(window, TRUE);
 }
 
 }  // namespace quillomat

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <exception>
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
+#include <utility>
 
+#include "forms/faults.h"
 #include "forms/font.h"
+#include "forms/modality.h"
 
 namespace quillomat {
 
@@ -23,13 +24,20 @@ class Application {
 
     const std::wstring& title() const { return title_; }
     FontCache& fonts() { return fonts_; }
+    /// Which windows the user can use.
+    Modality& modality() { return modality_; }
+    /// What went wrong in handlers.
+    Faults& faults() { return faults_; }
+    /// The window whose handler is running, the innermost one; null between events.
+    HWND handling() const { return handling_; }
 
     /// Makes every window take `dpi` for its resolution instead of asking the system; 0 asks again. For tests.
     void force_dpi(int dpi) { forced_dpi_ = dpi; }
     /// The resolution that was forced; 0 for none.
     int forced_dpi() const { return forced_dpi_; }
 
-    /// Runs the windows until `quit` is called; the result is the program's exit code.
+    /// Runs the windows until `quit` is called; the result is the program's exit code. Throws `Error` if the messages
+    /// cannot be read, as the other loops do.
     int run();
     /// Runs the windows until `finished` holds. A request to quit ends it too and is passed on to the outer loop.
     void run_until(const std::function<bool()>& finished);
@@ -43,9 +51,22 @@ class Application {
     /// Ends the outermost `run`.
     void quit();
 
-    /// Shows the user what went wrong in the handler that is being left, in a critical message box; to be called while
-    /// the exception is handled.
-    void report_current_exception(HWND owner);
+    /// Shows the user the exception being handled, in a critical message box.
+    void report_current_exception();
+
+    /// Marks a window's handler as running for as long as it lives. For the toolkit.
+    class Handling {
+      public:
+        Handling(Application& application, HWND window)
+            : handling_(application.handling_), former_(std::exchange(handling_, window)) {}
+        ~Handling() { handling_ = former_; }
+        Handling(const Handling&) = delete;
+        Handling& operator=(const Handling&) = delete;
+
+      private:
+        HWND& handling_;
+        HWND former_;
+    };
 
   private:
     void dispatch(MSG& message);
@@ -53,30 +74,14 @@ class Application {
 
     std::wstring title_;
     FontCache fonts_;
+    Modality modality_;
+    Faults faults_{*this};
+    HWND handling_ = nullptr;
     int forced_dpi_ = 0;
     std::optional<DWORD> first_click_;  // the time of the click whose second press is dropped
 };
 
 /// Stops the program for a moment, in the middle of an animation.
 void pause_milliseconds(int milliseconds);
-
-/// While it lives, the user can reach none of the program's windows but those opened later: a dialog is up.
-class ModalScope {
-  public:
-    /// `spared` stays enabled: the dialog itself, or the owner of a system dialog, which the system disables and
-    /// enables by itself.
-    explicit ModalScope(HWND spared = nullptr);
-    ~ModalScope() { end(); }
-    ModalScope(const ModalScope&) = delete;
-    ModalScope& operator=(const ModalScope&) = delete;
-
-    /// Enables the windows again. Must run before the dialog's window is destroyed, or the system activates another
-    /// program's window instead of the owner.
-    void end();
-
-  private:
-    HWND spared_;
-    std::vector<HWND> disabled_;
-};
 
 }  // namespace quillomat

@@ -80,13 +80,10 @@ void Container::paint_onto(HDC canvas) {
 }
 
 void Container::paint() {
-    PAINTSTRUCT paint{};
-    const HDC target = BeginPaint(window(), &paint);
-    if (target && !IsRectEmpty(&paint.rcPaint)) {
-        const BufferedCanvas buffer(target, paint.rcPaint);
-        paint_onto(buffer.canvas());
-    }
-    EndPaint(window(), &paint);
+    const PaintCanvas target(window());
+    if (!target.get() || IsRectEmpty(&target.area())) return;
+    const BufferedCanvas buffer(target.get(), target.area());
+    paint_onto(buffer.canvas());
 }
 
 Graphic* Container::graphic_at(POINT point) const {

@@ -84,7 +84,7 @@ LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LP
     if (message == WM_NCDESTROY || control.silent_) {
         return CallWindowProcW(control.system_procedure_, window, message, wparam, lparam);
     }
-    return control.form().guarded([&] { return control.handle_message(message, wparam, lparam); });
+    return control.form().guarded([&] { return control.handle_message(message, wparam, lparam); }, message);
 }
 
 LRESULT Control::default_message(UINT message, WPARAM wparam, LPARAM lparam) {

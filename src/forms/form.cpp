@@ -7,8 +7,10 @@
 #include "forms/application.h"
 #include "forms/control.h"
 #include "forms/menu.h"
+#include "forms/message_box.h"
 #include "forms/timer.h"
 #include "win/errors.h"
+#include "win/thread_windows.h"
 
 namespace quillomat {
 namespace {
@@ -16,6 +18,28 @@ namespace {
 constexpr UINT destroy_message = WM_APP;
 constexpr WORD application_icon = 1;
 constexpr UINT_PTR idle_timer = 1;
+
+Occasion occasion_of(UINT message) {
+    switch (message) {
+        case WM_PAINT:
+        case WM_NCPAINT:
+        case WM_ERASEBKGND:
+        case WM_PRINTCLIENT:
+        case WM_DRAWITEM:
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+        case WM_TIMER:
+            return Occasion::Repeating;
+        default:
+            return Occasion::Action;
+    }
+}
+
+bool is_button_press(WORD message) {
+    return message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN || message == WM_MBUTTONDOWN;
+}
 
 struct BorderStyle {
     DWORD style;
@@ -64,6 +88,7 @@ Form::Form(Application& application, const FormDesign& design)
     CreateWindowExW(extended, design.name, design.caption, style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
                     nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (!window_) throw_last_error();
+    application.modality().opened(window_, application.handling());
     tool_tips_ = ToolTips(window_);
     const UINT system_dpi = GetDpiForWindow(window_);
     dpi_ = application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi);
@@ -76,7 +101,9 @@ Form::~Form() {
     if (!window_) return;
     // From here on the window has no object behind it: nothing that its destruction sends reaches a handler.
     SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
-    DestroyWindow(std::exchange(window_, nullptr));
+    const HWND window = window_;
+    forget_window();
+    DestroyWindow(window);
 }
 
 Form* Form::from(HWND window) {
@@ -93,31 +120,45 @@ LRESULT CALLBACK Form::procedure(HWND window, UINT message, WPARAM wparam, LPARA
     }
     Form* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!form) return DefWindowProcW(window, message, wparam, lparam);
-    if (message == WM_NCDESTROY) {
-        // An owner that has closed waits for its windows.
-        if (const HWND owner = GetWindow(window, GW_OWNER)) PostMessageW(owner, destroy_message, 0, 0);
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-        form->window_ = nullptr;
-        // The handler may destroy the form, itself included, so it is moved out of it first.
-        const auto on_closed = std::move(form->on_closed);
-        const LRESULT result = DefWindowProcW(window, message, wparam, lparam);
-        raise(on_closed);
-        return result;
-    }
+    if (message == WM_NCDESTROY) return window_destroyed(*form, window, wparam, lparam);
     if (message == destroy_message) {
         form->destroy_when_idle();
         return 0;
     }
-    return form->guarded([&] { return form->handle_message(message, wparam, lparam); });
+    return form->guarded([&] { return form->handle_message(message, wparam, lparam); }, message);
 }
 
-LRESULT Form::run_guarded(LRESULT (*work)(void* what), void* what) {
+LRESULT Form::window_destroyed(Form& form, HWND window, WPARAM wparam, LPARAM lparam) {
+    // An owner that has closed destroys itself only after its last owned window has gone; tell it.
+    if (const HWND owner = GetWindow(window, GW_OWNER)) PostMessageW(owner, destroy_message, 0, 0);
+    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+    form.forget_window();
+    // The handler may destroy the form, itself included, so it is moved out of it first.
+    Application& application = form.application_;
+    const auto on_closed = std::move(form.on_closed);
+    const LRESULT result = DefWindowProcW(window, WM_NCDESTROY, wparam, lparam);
+    try {
+        raise(on_closed);
+    } catch (...) {
+        application.faults().note_current_exception(nullptr, Occasion::Action);
+    }
+    return result;
+}
+
+void Form::forget_window() {
+    application_.modality().forget(window_);
+    application_.faults().forget(window_);
+    window_ = nullptr;
+}
+
+LRESULT Form::run_guarded(LRESULT (*work)(void* what), void* what, UINT message) {
+    const Application::Handling handling(application_, window_);
     ++handlers_running_;
     LRESULT result = 0;
     try {
         result = work(what);
     } catch (...) {
-        application_.report_current_exception(window_);
+        application_.faults().note_current_exception(window_, occasion_of(message));
     }
     --handlers_running_;
     if (closed_ && !modal_ && handlers_running_ == 0 && window_) PostMessageW(window_, destroy_message, 0, 0);
@@ -126,25 +167,23 @@ LRESULT Form::run_guarded(LRESULT (*work)(void* what), void* what) {
 
 void Form::destroy_when_idle() {
     if (!closed_ || modal_ || handlers_running_ > 0 || !window_) return;
+    bool owns_forms = true;
+    try {
+        owns_forms = !owned_forms().empty();
+    } catch (...) {
+        application_.faults().note_current_exception(window_, Occasion::Repeating);
+    }
     // The system destroys owned windows first, and one of those may not be idle.
-    if (owned_forms().empty()) DestroyWindow(window_);
+    if (!owns_forms) DestroyWindow(window_);
 }
 
 std::vector<Form*> Form::owned_forms() const {
-    struct Search {
-        HWND owner;
-        std::vector<Form*> forms;
-    } search{window_, {}};
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            auto& [owner, forms] = *reinterpret_cast<Search*>(parameter);
-            if (GetWindow(window, GW_OWNER) != owner) return TRUE;
-            if (Form* form = Form::from(window)) forms.push_back(form);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.forms;
+    std::vector<Form*> forms;
+    for (const HWND window : thread_windows()) {
+        Form* form = GetWindow(window, GW_OWNER) == window_ ? Form::from(window) : nullptr;
+        if (form) forms.push_back(form);
+    }
+    return forms;
 }
 
 LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -152,6 +191,10 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_CLOSE:
             close();
             return 0;
+        case WM_DESTROY:
+            // The bar belongs to its MenuBar; Windows would destroy it with the window.
+            SetMenu(window_, nullptr);
+            break;
         case WM_ENDSESSION:
             if (wparam) close();
             return 0;
@@ -186,6 +229,12 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             restore_focus();
             return 0;
         case WM_SETCURSOR:
+            // A press on a window that waits: what it waits for may be hidden behind it.
+            if (LOWORD(lparam) == static_cast<WORD>(HTERROR) && is_button_press(HIWORD(lparam))) {
+                beep();
+                bring_to_foreground();
+                return TRUE;
+            }
             if (pointer_ == PointerShape::Hourglass) {
                 SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)));
                 return TRUE;
@@ -249,11 +298,11 @@ void Form::show() {
         shown_ = true;
         SetTimer(window_, idle_timer, USER_TIMER_MINIMUM, nullptr);
         resized();
-        restore_focus();
+        if (IsWindowEnabled(window_)) restore_focus();
     }
     constexpr int commands[] = {SW_SHOWNORMAL, SW_SHOWMINIMIZED, SW_SHOWMAXIMIZED};
     ShowWindow(window_, IsWindowVisible(window_) ? SW_SHOW : commands[static_cast<int>(state)]);
-    if (state != WindowState::Minimised) SetForegroundWindow(window_);
+    if (state != WindowState::Minimised) bring_to_foreground();
 }
 
 void Form::set_owner(const Form& owner) {
@@ -270,12 +319,14 @@ void Form::keep_owned_in_front() {
 void Form::show_modal(Form* owner) {
     modal_ = true;
     if (owner) set_owner(*owner);
+    const HWND opener = owner ? owner->window_ : application_.handling();
+    application_.modality().let_through(window_);
     {
-        ModalScope modal(window_);
+        ModalScope modal(application_, window_);
         show();
         application_.run_until([this] { return closed_; });
     }
-    if (owner) owner->bring_to_foreground();
+    if (Form* next = Form::from(opener)) next->bring_to_foreground();
     if (window_) DestroyWindow(window_);
 }
 
@@ -292,6 +343,7 @@ void Form::close() {
         });
     }
     for (Timer* timer : timers_) timer->set_enabled(false);
+    alone_.reset();
     // A dialog is hidden by its modal loop, after its owner can be activated again.
     if (!modal_) ShowWindow(window_, SW_HIDE);
     PostMessageW(window_, destroy_message, 0, 0);
@@ -352,7 +404,11 @@ void Form::drag() {
 }
 
 void Form::bring_to_foreground() {
-    SetForegroundWindow(window_);
+    if (IsWindowEnabled(window_)) {
+        SetForegroundWindow(window_);
+    } else {
+        application_.modality().bring_usable_to_front();
+    }
 }
 
 void Form::refresh() {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "forms/container.h"
 #include "forms/events.h"
 #include "forms/geometry.h"
+#include "forms/modality.h"
 #include "forms/picture.h"
 #include "forms/tool_tips.h"
 #include "text/window_size.h"
@@ -74,6 +76,9 @@ class Form : public Container, public MouseEvents {
     void set_owner(const Form& owner);
     /// Shows the window as a dialog of `owner` and returns when it has closed.
     void show_modal(Form* owner);
+    /// Keeps the user from all other windows from now until it closes, without waiting for that. What its handlers open
+    /// can be used.
+    void keep_others_waiting() { alone_.emplace(application_, window_); }
     /// Closes the windows it owns, runs `on_unload` unless `on_load` is still running, hides the window and has it
     /// destroyed as soon as no handler of it is running.
     void close();
@@ -152,12 +157,12 @@ class Form : public Container, public MouseEvents {
     ToolTips& tool_tips() { return tool_tips_; }
     /// Gives the dialog keys and key events of a message to where they belong; true when it needs nothing further.
     bool translate(MSG& message);
-    /// Runs what may raise events: no exception gets out to the system, the user sees its description instead; and the
-    /// form stays alive until it is done.
+    /// Runs what may raise events, for a message of the system or for none: no exception gets out to the system, it is
+    /// reported to the user later instead; and the form stays alive until the work is done.
     template <class Work>
-    LRESULT guarded(Work work) {
+    LRESULT guarded(Work work, UINT message = WM_NULL) {
         // Once for every message, so without the memory that a std::function would take.
-        return run_guarded([](void* what) -> LRESULT { return (*static_cast<Work*>(what))(); }, &work);
+        return run_guarded([](void* what) -> LRESULT { return (*static_cast<Work*>(what))(); }, &work, message);
     }
     /// Puts the windows it owns in front of it; for its controls when they have got the focus.
     void keep_owned_in_front();
@@ -170,7 +175,8 @@ class Form : public Container, public MouseEvents {
   private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT run_guarded(LRESULT (*work)(void* what), void* what);
+    LRESULT run_guarded(LRESULT (*work)(void* what), void* what, UINT message);
+    static LRESULT window_destroyed(Form& form, HWND window, WPARAM wparam, LPARAM lparam);
     void timer_has_run(UINT_PTR id);
     /// False when no command has this number.
     bool pick_command(int id);
@@ -188,6 +194,7 @@ class Form : public Container, public MouseEvents {
     void move_focus(bool backwards);
     void restore_focus();
     void destroy_when_idle();
+    void forget_window();
     std::vector<Form*> owned_forms() const;
     RECT outer() const;
 
@@ -207,6 +214,7 @@ class Form : public Container, public MouseEvents {
     HWND last_focus_ = nullptr;
     WindowState state_ = WindowState::Normal;
     PointerShape pointer_ = PointerShape::Default;
+    std::optional<ModalScope> alone_;
     bool modal_ = false;
     bool load_begun_ = false;
     bool loading_ = false;

@@ -73,6 +73,25 @@ class WindowCanvas {
     HDC canvas_;
 };
 
+/// The device context of a window that paints itself. The painting ends, and the area counts as painted, even if an
+/// exception ends it.
+class PaintCanvas {
+  public:
+    explicit PaintCanvas(HWND window) : window_(window), canvas_(BeginPaint(window, &paint_)) {}
+    ~PaintCanvas() { EndPaint(window_, &paint_); }
+    PaintCanvas(const PaintCanvas&) = delete;
+    PaintCanvas& operator=(const PaintCanvas&) = delete;
+
+    HDC get() const { return canvas_; }
+    /// What needs painting, in pixels.
+    const RECT& area() const { return paint_.rcPaint; }
+
+  private:
+    HWND window_;
+    PAINTSTRUCT paint_{};
+    HDC canvas_;
+};
+
 /// The colour as the system wants it, with system colours looked up in the user's theme.
 inline COLORREF resolve(Colour colour) {
     return colour.follows_theme() ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;

@@ -18,6 +18,11 @@ MenuBar::MenuBar(Form& form) : form_(form), handle_(CreateMenu()) {
     form_.set_menu_bar(handle_);
 }
 
+MenuBar::~MenuBar() {
+    if (form_.window()) form_.set_menu_bar(nullptr);
+    DestroyMenu(handle_);
+}
+
 Menu::Menu(MenuBar& bar, std::wstring caption)
     : form_(bar.form()), handle_(CreatePopupMenu()), id_(form_.add_command(*this)), caption_(std::move(caption)) {
     attach(bar.handle());
@@ -35,7 +40,6 @@ Menu::Menu(Menu& parent, std::wstring caption, Ampersands ampersands)
 
 Menu::~Menu() {
     form_.remove_command(id_);
-    // The bar and what hangs from it are gone when the window is.
     const int place = position();
     if (place >= 0) RemoveMenu(container_, static_cast<UINT>(place), MF_BYPOSITION);
     if (handle_) DestroyMenu(handle_);

@@ -22,6 +22,7 @@ enum class Ampersands { MarkAccessKeys, AreShown };
 class MenuBar {
   public:
     explicit MenuBar(Form& form);
+    ~MenuBar();
     MenuBar(const MenuBar&) = delete;
     MenuBar& operator=(const MenuBar&) = delete;
 
@@ -30,7 +31,7 @@ class MenuBar {
 
   private:
     Form& form_;
-    HMENU handle_;  // destroyed with the form's window
+    HMENU handle_;
 };
 
 /// A menu or an entry of one. An entry comes at the end of its parent and leaves it when it is destroyed; with entries

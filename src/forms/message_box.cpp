@@ -1,6 +1,7 @@
 #include "forms/message_box.h"
 
 #include "forms/application.h"
+#include "forms/form.h"
 
 namespace quillomat {
 namespace {
@@ -33,10 +34,15 @@ UINT style_of(MessageIcon icon) {
 
 }  // namespace
 
-MessageAnswer show_message(HWND owner, const Message& message) {
-    // The system disables the owner alone; the other windows must wait too, as a handler is at work behind the
-    // question.
-    const ModalScope modal(owner);
+MessageAnswer show_message(HWND form, const Message& message) {
+    return show_message(Form::from(form)->application(), form, message);
+}
+
+MessageAnswer show_message(Application& application, HWND wanted, const Message& message) {
+    // Without an owner that the user can use, Windows would activate another program's window after the message.
+    const HWND owner = application.modality().owner_for_message(wanted);
+    // Windows disables the owner alone; the other windows must wait too, as a handler is at work behind the question.
+    const ModalScope modal(application, owner);
     const int answer = MessageBoxW(owner, message.text.c_str(), message.title.c_str(),
                                    style_of(message.buttons) | style_of(message.icon));
     switch (answer) {

@@ -6,6 +6,8 @@
 
 namespace quillomat {
 
+class Application;
+
 /// The answers a message box offers.
 enum class MessageButtons { Ok, OkCancel, YesNo };
 /// The sign beside its text.
@@ -21,9 +23,11 @@ struct Message {
     MessageIcon icon = MessageIcon::None;
 };
 
-/// Shows a message above `owner` (which may be null) and waits for the answer; none of the program's windows can be
-/// used meanwhile.
-MessageAnswer show_message(HWND owner, const Message& message);
+/// Shows a message above a form, given by its window, and waits for the answer; none of the program's windows can be
+/// used meanwhile. Above a form that itself waits for a dialog, the message stands over that dialog.
+MessageAnswer show_message(HWND form, const Message& message);
+/// The same for a window that may have gone since, or for none (null).
+MessageAnswer show_message(Application& application, HWND owner, const Message& message);
 
 /// Sounds the system's beep, for a key that does nothing.
 void beep();

@@ -16,7 +16,7 @@ void tell_message_sent(Form& form) {
 }
 
 Sending::Sending(Form& form, Label& please_wait)
-    : please_wait_(please_wait), focused_(Control::from(GetFocus())), hourglass_(form) {
+    : please_wait_(please_wait), focused_(Control::from(GetFocus())), hourglass_(form), modal_(form.application()) {
     please_wait_.set_visible(true);
     please_wait_.refresh();
 }

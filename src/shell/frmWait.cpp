@@ -16,7 +16,11 @@ frmWait::frmWait(Application& application, std::function<void()> show_viewer)
     Label1.set_fore_colour(colours::window_text);
     Label1.set_font({.points = 11});
     Shape1.set_border_colour(colours::grey_text);
-    on_load = [this] { centre_on_screen(); };
+    on_load = [this] {
+        centre_on_screen();
+        // A key typed ahead must not open a dialog on the main screen, which the viewer would then wait for.
+        keep_others_waiting();
+    };
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 

@@ -89,7 +89,7 @@ void frmCtlView::collect_fonts() {
     open_status();
     {
         // Nothing but the progress window can be used: its F10 is what ends the collection.
-        const ModalScope modal(status_->window());
+        const ModalScope modal(application(), status_->window());
         try {
             fill_font_menu(fonts);
         } catch (...) {

@@ -1,5 +1,6 @@
 #include "win/installed_fonts.h"
 
+#include <exception>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -12,15 +13,22 @@ namespace {
 struct FoundFonts {
     std::vector<std::wstring> names;
     std::unordered_set<std::wstring> known;
+    std::exception_ptr failure;
 };
 
 // The system reports a font once for each of its scripts.
 int CALLBACK add_font(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM parameter) {
     auto& found = *reinterpret_cast<FoundFonts*>(parameter);
-    const std::wstring name = font->lfFaceName;
-    // Those with an "@" are others once more, turned for writing downwards.
-    if (!name.empty() && name.front() != L'@' && found.known.insert(name).second) found.names.push_back(name);
-    return 1;
+    try {
+        const std::wstring name = font->lfFaceName;
+        // Those with an "@" are others once more, turned for writing downwards.
+        if (!name.empty() && name.front() != L'@' && found.known.insert(name).second) found.names.push_back(name);
+        return 1;
+    } catch (...) {
+        // An exception must not unwind through the frames of Windows.
+        found.failure = std::current_exception();
+        return 0;
+    }
 }
 
 }  // namespace
@@ -32,6 +40,7 @@ ScreenFonts installed_fonts() {
     const HDC screen = GetDC(nullptr);
     EnumFontFamiliesExW(screen, &any, add_font, reinterpret_cast<LPARAM>(&found), 0);
     ReleaseDC(nullptr, screen);
+    if (found.failure) std::rethrow_exception(found.failure);
     const int count = static_cast<int>(found.names.size());
     return {count, [names = std::move(found.names)](int position) {
                 const auto index = static_cast<std::size_t>(position);

@@ -8,9 +8,11 @@
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/gdi.h"
+#include "forms/menu.h"
 #include "forms/timer.h"
 #include "output/drop_down_list.h"
 #include "support.h"
+#include "text/error.h"
 
 namespace quillomat {
 namespace {
@@ -232,21 +234,95 @@ TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItClosesEvenInAMenu
     show();
     Board other(application);
     other.show();
+    std::unique_ptr<Board> late;
+    Timer opener(other, 1);
+    opener.on_timer = [&] {
+        opener.set_enabled(false);
+        open_in(late);
+        EXPECT_FALSE(IsWindowEnabled(late->window())) << "it was not opened from the dialog";
+        expect_message(L"Late", L"late");
+        show_message(late->window(), {.text = L"late", .title = L"Late"});
+    };
     Board dialog(application);
     Timer closer(dialog, 10);
     bool opened = false;
     closer.on_timer = [&] {
         EXPECT_FALSE(IsWindowEnabled(board.window()) || IsWindowEnabled(other.window()));
+        if (!late || !IsWindowEnabled(dialog.window())) return;
+        EXPECT_FALSE(IsWindowEnabled(late->window())) << "nor after a message of its own";
         if (in_menu() && FindWindowW(L"#32768", nullptr)) {
             SendMessageW(dialog.window(), WM_CLOSE, 0, 0);
         } else if (!opened) {
+            EXPECT_EQ(GetActiveWindow(), dialog.window());
             opened = PostMessageW(dialog.window(), WM_SYSCOMMAND, SC_KEYMENU, ' ');
         }
     };
     dialog.show_modal(&board);
     EXPECT_TRUE(opened && !in_menu());
-    EXPECT_TRUE(IsWindowEnabled(board.window()) && IsWindowEnabled(other.window()));
+    for (const Board* form : {&board, &other, late.get()}) EXPECT_TRUE(IsWindowEnabled(form->window()));
     EXPECT_EQ(GetActiveWindow(), board.window());
+    EXPECT_EQ(application.modality().owner_for_message(nullptr), board.window()) << "no message is without an owner";
+}
+
+TEST_F(FormsTest, AClickOnAWaitingWindowBringsTheDialogToTheFront) {
+    show();
+    Board dialog(application);
+    dialog.on_load = [&] { dialog.set_size(2000, 2000); };
+    Timer clicker(dialog, 10);
+    clicker.on_timer = [&] {
+        clicker.set_enabled(false);
+        SetWindowPos(dialog.window(), board.window(), 0, 0, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+        board.move_to(0, 0);
+        ASSERT_EQ(GetWindow(board.window(), GW_HWNDNEXT), dialog.window());
+        move_pointer(board.window(), 300, 300);
+        click();
+        EXPECT_SOON(GetWindow(dialog.window(), GW_HWNDNEXT) == board.window());
+        dialog.close();
+    };
+    dialog.show_modal(nullptr);
+}
+
+TEST_F(FormsTest, AFaultOfPaintingOrOfATimerIsReportedOnceAndLater) {
+    struct Faulty : Label {
+        using Label::Label;
+        void draw(HDC) const override { throw Error(ErrorCode::DiskFull); }
+    };
+    const Faulty label(board, L"", {3000, 600, 600, 600});
+    expect_message(L"Quillomat", L"Disk full");
+    show();
+    pump();
+    board.refresh();
+    EXPECT_FALSE(GetUpdateRect(board.window(), nullptr, FALSE)) << "painting has ended";
+    expect_message(L"Quillomat", L"Unknown error");
+    Timer timer(board, 1);
+    int ticks = 0;
+    timer.on_timer = [&] {
+        ++ticks;
+        throw 1;
+    };
+    EXPECT_SOON(ticks > 5);
+    timer.set_enabled(false);
+    for (int press = 0; press < 2; ++press) {
+        expect_message(L"Quillomat", L"Unknown error");
+        board.Command1.on_click = [] { throw 1; };
+        SendMessageW(board.Command1.window(), BM_CLICK, 0, 0);
+        pump();
+    }
+}
+
+TEST_F(FormsTest, AWindowThatHasClosedLeavesItsMenusToTheirOwners) {
+    auto form = std::make_unique<Form>(application, FormDesign{.name = L"frmBar", .caption = L"Bar"});
+    auto bar = std::make_unique<MenuBar>(*form);
+    const Menu menu(*bar, L"Menu");
+    form->on_closed = [] { throw 1; };
+    expect_message(L"Quillomat", L"Unknown error");
+    form->close();
+    EXPECT_SOON(!form->window());
+    pump();
+    EXPECT_TRUE(IsMenu(bar->handle()) && IsMenu(menu.handle()));
+    const HMENU handle = bar->handle();
+    bar.reset();
+    EXPECT_FALSE(IsMenu(handle));
 }
 
 TEST_F(FormsTest, ATextKeepsItsColourWhereItCanBeRead) {

@@ -139,6 +139,7 @@ TEST_F(PrintGamesTest, TroubleWithThePrinterIsOneMessageOrNoneAndTheWindowStays)
         printed.failure = failure;
         if (failure != ErrorCode::Cancelled) expect_message(L"Quillomat", L"Printer error");
         press(form->Command1);
+        pump();
         ASSERT_TRUE(form && !form->closed());
         EXPECT_EQ(printed.documents_ended, 0);
         EXPECT_EQ(printed.documents_aborted, 1) << "half a list is not printed";

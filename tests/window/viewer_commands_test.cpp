@@ -54,6 +54,7 @@ TEST_F(ViewerCommandsTest, CopiesAndPrintsTheNameAndTheCheats) {
     };
     expect_message(L"Quillomat", L"No printer.");
     SendMessageW(viewer->window(), WM_COMMAND, static_cast<WPARAM>(viewer->menus.mnuPrint.id()), 0);
+    pump();
     EXPECT_FALSE(viewer->closed());
 }
 
