@@ -19,6 +19,8 @@ WindowTest::WindowTest() : hook_(SetWindowsHookExW(WH_CBT, on_window_event, null
 }
 
 WindowTest::~WindowTest() {
+    // What a handler threw is reported from the message loop.
+    pump();
     UnhookWindowsHookEx(hook_);
     running_ = nullptr;
     for (const Announced& missing : announced_) {
