@@ -11,13 +11,14 @@ namespace quillomat::soak {
 /// what the program holds is counted.
 struct Action {
     enum class Kind { Move, Click, DoubleClick, RightClick, Drag, Wheel, Key, Character, Rest };
-    enum Modifier : unsigned { Shift = 1, Control = 2, Alt = 4 };
+    /// Keys that are held meanwhile; and `Ahead`: the next action follows even if the program is still at work.
+    enum Modifier : unsigned { Shift = 1, Control = 2, Alt = 4, Ahead = 8 };
 
     Kind kind = Kind::Rest;
     POINT at{};              ///< where the mouse does it, in pixels of the screen
     POINT to{};              ///< where a drag ends
     int value = 0;           ///< the virtual key, the character's code unit, or the notches of the wheel
-    unsigned modifiers = 0;  ///< keys held meanwhile, of `Modifier`
+    unsigned modifiers = 0;  ///< of `Modifier`
     int pause = 0;           ///< milliseconds before the next action
 };
 

@@ -78,7 +78,9 @@ Action Player::next(const Scene& scene) {
     Action action = chance(60) || !scene.has_keyboard() ? with_mouse(scene) : with_key(scene);
     if (is_way_out(action, scene) && !chance(5)) action = {.kind = Action::Kind::Key, .value = VK_TAB};
     // Mostly as fast as it goes, and sometimes long enough for what a timer does.
-    action.pause = chance(10) ? number(50, 400) : number(0, 40);
+    action.pause = number(0, 40);
+    if (chance(10)) action.pause = number(50, 400);
+    if (chance(20)) action.modifiers |= Action::Ahead;
     return action;
 }
 

@@ -1,9 +1,22 @@
 #include "soak/scene.h"
 
 #include <algorithm>
+#include <span>
+#include <string_view>
 
 namespace quillomat::soak {
 namespace {
+
+/// The windows that others wait for while they are up.
+constexpr std::wstring_view modal_classes[] = {message_box_class, L"frmAddNew",     L"frmSave",
+                                               L"frmMailCheats",  L"frmPrintGames", L"frmAbout",
+                                               L"Dialog1",        L"frmWait",       L"frmStatus"};
+/// Menus and drop-down lists, which belong to the window they were opened from.
+constexpr std::wstring_view popup_classes[] = {L"#32768", L"ComboLBox"};
+
+bool is_one_of(HWND window, std::span<const std::wstring_view> classes) {
+    return std::ranges::find(classes, class_of(window)) != classes.end();
+}
 
 void add_controls(HWND parent, std::vector<HWND>& controls) {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
@@ -32,6 +45,35 @@ HWND Scene::menu() const {
 HWND Scene::topmost() const {
     const auto window = std::ranges::find_if(windows_, [](HWND it) { return IsWindowEnabled(it); });
     return window == windows_.end() ? nullptr : *window;
+}
+
+std::string class_name(HWND window) {
+    const std::wstring name = class_of(window);
+    return {name.begin(), name.end()};
+}
+
+std::string Scene::input_fault() const {
+    const auto is_usable = [](HWND window) { return IsWindowEnabled(window) != FALSE; };
+    const auto is_modal = [](HWND window) { return is_one_of(window, modal_classes); };
+    std::vector<HWND> windows = windows_;
+    std::erase_if(windows, [](HWND window) { return is_one_of(window, popup_classes); });
+    const bool has_modal = std::ranges::any_of(windows, is_modal);
+    // Parts them, and keeps the order from front to back.
+    const auto unusable = std::ranges::stable_partition(windows, is_usable);
+    const std::span usable(windows.begin(), unusable.begin());
+    const HWND foreground = GetForegroundWindow();
+    bool right = !is_own(foreground) || is_usable(foreground);
+    if (has_modal) {
+        right = right && usable.size() == 1 && is_modal(usable.front());
+    } else {
+        right = right && unusable.empty();
+    }
+    if (right) return {};
+    std::string text = "these windows take input:";
+    for (const HWND window : usable) text.append(" ").append(class_name(window));
+    text += ", and these do not:";
+    for (const HWND window : unusable) text.append(" ").append(class_name(window));
+    return text.append(", in front: ").append(class_name(foreground));
 }
 
 std::vector<HWND> controls_of(HWND window) {

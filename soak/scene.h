@@ -1,10 +1,14 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "support/desktop.h"
 
 namespace quillomat::soak {
+
+/// The class of a window, for the log.
+std::string class_name(HWND window);
 
 /// What of a program is on the screen now.
 class Scene {
@@ -18,6 +22,9 @@ class Scene {
     HWND menu() const;
     /// The topmost window that takes input; null when there is none.
     HWND topmost() const;
+    /// What is wrong about which windows take input; empty if nothing is. While a message box or a dialog is up, no
+    /// other window does, and without one every window does.
+    std::string input_fault() const;
     /// Whether the keys that are pressed now go to the program.
     bool has_keyboard() const { return is_own(GetForegroundWindow()); }
     /// Whether a click at a place of the screen goes to the program.

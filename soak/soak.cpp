@@ -18,12 +18,6 @@ using Clock = std::chrono::steady_clock;
 /// What does not answer for so long never will.
 constexpr std::chrono::duration<double> for_good{60};
 
-/// The class of a window, for the log.
-std::string class_name(HWND window) {
-    const std::wstring name = class_of(window);
-    return {name.begin(), name.end()};
-}
-
 /// The number of records that are a text, each whole; nothing when something else is in it.
 std::optional<std::size_t> whole_records(std::string_view text) {
     constexpr std::string_view marker = "$$$$$$$$$$$$$$$$$$$$ ";
@@ -78,6 +72,7 @@ int Soak::play(const Actions& actions) {
         } else {
             perform(*action);
             Sleep(static_cast<DWORD>(action->pause));
+            if (action->modifiers & Action::Ahead) continue;
         }
         look_after_program();
     }
@@ -127,6 +122,20 @@ void Soak::note(const Action& action, const Scene& scene) {
     log_ << std::endl;
 }
 
+std::string Soak::input_fault() {
+    // A window that opens or closes is in between for a moment.
+    constexpr std::chrono::seconds patience{5};
+    std::string wrong;
+    wait_until(
+        [&] {
+            wrong.clear();
+            if (program_.running()) wrong = Scene(program_.process().dwProcessId).input_fault();
+            return wrong.empty();
+        },
+        patience);
+    return wrong;
+}
+
 double Soak::seconds_without_answer() {
     const Scene scene(program_.process().dwProcessId);
     if (scene.windows().empty()) return 0;
@@ -146,7 +155,7 @@ double Soak::seconds_without_answer() {
 void Soak::look_after_program() {
     if (!program_.running()) return restart();
     // The machine may be busy with something else: one miss is no fault.
-    if (const double seconds = seconds_without_answer(); seconds > 3) {
+    if (const double seconds = seconds_without_answer(); seconds > 10) {
         fault("no answer for " + std::to_string(seconds) + " s");
         if (seconds < for_good.count()) return;
         program_.end();
@@ -155,6 +164,11 @@ void Soak::look_after_program() {
     const DWORD process = program_.process().dwProcessId;
     if (!wait_for_window()) {
         fault(Scene(process).windows().empty() ? "runs without a window" : "no window takes input any more");
+        program_.end();
+        return start_program();
+    }
+    if (const std::string wrong = input_fault(); !wrong.empty()) {
+        fault(wrong);
         program_.end();
         return start_program();
     }
@@ -194,10 +208,12 @@ bool Soak::put_away_windows() {
     return wait_until([this] {
         if (!program_.running()) return true;
         const Scene scene(program_.process().dwProcessId);
-        // The menu loop must end first: it would go on inside the loop of the window that is closed, until the next
-        // key.
-        if (const HWND owner = menu_owner(program_.process().dwThreadId)) {
-            PostMessageW(owner, WM_KEYDOWN, VK_ESCAPE, 0);
+        // The loop of a menu, or of moving a window by keys, must end first: it would hold up the window that is closed
+        // until the next key.
+        const GUITHREADINFO input = input_state(program_.process().dwThreadId);
+        for (const HWND in_loop : {input.hwndMenuOwner, input.hwndMoveSize}) {
+            if (!in_loop) continue;
+            PostMessageW(in_loop, WM_KEYDOWN, VK_ESCAPE, 0);
             return false;
         }
         const HWND window = scene.topmost();

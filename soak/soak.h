@@ -18,8 +18,8 @@ namespace quillomat::soak {
 /// The next action for what is on the screen; nothing when the play is over.
 using Actions = std::function<std::optional<Action>(const Scene&)>;
 
-/// Plays with the program and watches what becomes of it: whether it crashes, hangs, stays without a window, loses
-/// objects of the system, or harms its database.
+/// Plays with the program and watches what becomes of it: whether it crashes, hangs, stays without a window, lets
+/// the wrong windows take input, loses objects of the system, or harms its database.
 class Soak {
   public:
     /// Every action goes to the file `log` before it is done.
@@ -35,6 +35,8 @@ class Soak {
     void note(const Action& action, const Scene& scene);
     /// How long the program has kept a question waiting, in steps of 2 s.
     double seconds_without_answer();
+    /// What has stayed wrong about which windows take input.
+    std::string input_fault();
     void look_after_program();
     void rest();
     bool put_away_windows();

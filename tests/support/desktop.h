@@ -56,17 +56,17 @@ inline void answer_message(HWND box, int button) {
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(box, button)));
 }
 
-/// The window whose menu or menu bar has the keyboard in a thread; null if there is none.
-inline HWND menu_owner(DWORD thread) {
-    GUITHREADINFO information{};
-    information.cbSize = sizeof information;
-    const bool in_menu_mode = GetGUIThreadInfo(thread, &information) && information.flags & GUI_INMENUMODE;
-    return in_menu_mode ? information.hwndMenuOwner : nullptr;
+/// What a thread's windows do with the keyboard and the mouse now.
+inline GUITHREADINFO input_state(DWORD thread) {
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    GetGUIThreadInfo(thread, &state);
+    return state;
 }
 
 /// True while a menu of the thread is open or its menu bar has the keyboard.
 inline bool in_menu(DWORD thread = GetCurrentThreadId()) {
-    return menu_owner(thread) != nullptr;
+    return (input_state(thread).flags & GUI_INMENUMODE) != 0;
 }
 
 }  // namespace quillomat
