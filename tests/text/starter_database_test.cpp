@@ -58,7 +58,7 @@ TEST(StarterDatabase, SaysEachEffectInTheWordsPlayersSearchFor) {
     const std::pair<std::string, std::regex> effects[]{
         {"god mode (invincible)", likewise("no harm|takes? no|vulnerab|invincib|immortal|god mode|^god( 1)? -|^IDDQD")},
         {"no clip (walk through walls)", likewise("no ?clip|through walls")},
-        {"unlimited ammo", likewise("(infinite|endless) ammo|ammo(unition)? without end")},
+        {"unlimited ammo", likewise("(infinite|endless|unlimited)[ _]?ammo|ammo(unition)? without end")},
         {"all weapons", likewise("every weapon|all (the )?(guns|weapons)")},
         {"level skip", likewise("(skips?|wins) the (level|mission)|next (level|mission)|go to (that|a) level")},
         {"money", likewise("[0-9] (gold|dollars|credits|simoleons|florins|caps|coins?)|- (gold|credits|caps)\\s*$")},
