@@ -60,12 +60,13 @@ TEST(Start, ShowsWhatItCanReadAndChangesNothing) {
 
 TEST(Start, WithADatabaseThatIsMissingOrLocked) {
     Program program;
-    expect_start(program, L"Error!: File not found", {});
+    const std::wstring path = L"\r\n" + program.database().wstring();
+    expect_start(program, L"Error!: File not found" + path, {});
     EXPECT_FALSE(std::filesystem::exists(program.database())) << "reading makes no file";
     program.write_database(record("a", "Doom"));
     const HANDLE lock = CreateFileW(program.database().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(lock, INVALID_HANDLE_VALUE);
-    expect_start(program, L"Error!: Permission denied", {});
+    expect_start(program, L"Error!: Permission denied" + path, {});
     CloseHandle(lock);
     EXPECT_EQ(program.read_database(), record("a", "Doom"));
 }
