@@ -9,12 +9,13 @@ namespace quillomat {
 
 frmFind::frmFind(Application& application, FindState& state, Form& searched, TextBox& box)
     : Form(application,
-           {.name = L"frmFind", .caption = L"Find", .width = 5700, .height = 1740, .border = FormBorder::Dialog}),
+           {.name = L"frmFind", .caption = L"Find", .width = 6675, .height = 1380, .border = FormBorder::Dialog}),
       state_(state),
       searched_(searched),
       box_(box) {
     set_owner(searched);
-    set_inner_size(5625, 1350);
+    // Low enough to cover no cheat text below the viewer's title bar, image bar and letters.
+    set_inner_size(6435, 780);
     txtFind.set_tool_tip(L"Text to Find");
     chkCase.set_tool_tip(L"Case Sensitivity");
     optDirection[0].set_tool_tip(L"Search to Beginning of Document");

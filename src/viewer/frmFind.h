@@ -18,14 +18,14 @@ class frmFind final : public Form {
     /// is looked for comes from `state` and is kept there, which must outlive the dialog.
     frmFind(Application& application, FindState& state, Form& searched, TextBox& box);
 
-    StaticLabel Label1{*this, L"Fi&nd What:", {150, 195, 930, 225}};
-    TextBox txtFind{*this, {1110, 150, 3000, 315}};
-    CheckBox chkCase{*this, L"Match &Case", {150, 855, 1410, 255}};
-    Frame Frame1{*this, L"Direction", {2010, 570, 2100, 630}, FrameBorder::Captioned};
-    OptionButton optDirection[2]{{Frame1, L"&Up", {180, 285, 765, 255}, OptionButton::Group::Starts},
-                                 {Frame1, L"&Down", {1035, 285, 915, 255}, OptionButton::Group::Continues}};
-    Button cmdFind{*this, L"&Find", {4305, 135, 1170, 345}};
-    Button cmdcancel{*this, L"C&ancel", {4305, 570, 1170, 345}};
+    StaticLabel Label1{*this, L"Fi&nd What:", {120, 120, 930, 225}};
+    TextBox txtFind{*this, {1065, 75, 2235, 315}};
+    CheckBox chkCase{*this, L"Match &Case", {1065, 450, 1410, 255}};
+    Frame Frame1{*this, L"Direction", {3420, 60, 1695, 660}, FrameBorder::Captioned};
+    OptionButton optDirection[2]{{Frame1, L"&Up", {120, 285, 645, 255}, OptionButton::Group::Starts},
+                                 {Frame1, L"&Down", {780, 285, 855, 255}, OptionButton::Group::Continues}};
+    Button cmdFind{*this, L"&Find", {5235, 60, 1080, 315}};
+    Button cmdcancel{*this, L"C&ancel", {5235, 405, 1080, 315}};
 
     /// One step of the search: shows the next place in the text, or tells that there is none.
     void FindIt();

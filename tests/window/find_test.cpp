@@ -114,6 +114,12 @@ TEST_F(FindTest, TheViewerHasOneAndAsksItAgain) {
     viewer->menus.mnuSelectedFind.pick();
     auto* const first = find_form<frmFind>();
     ASSERT_TRUE(first);
+    RECT dialog{};
+    RECT text{};
+    GetWindowRect(first->window(), &dialog);
+    GetWindowRect(viewer->Text1.window(), &text);
+    EXPECT_LE(dialog.bottom, text.top) << "what is found is not covered";
+    EXPECT_LE(dialog.bottom - dialog.top, 92);
     viewer->Text1.set_focus();
     viewer->menus.mnuTextBoxFind.pick();
     EXPECT_EQ(find_form<frmFind>(), first);
