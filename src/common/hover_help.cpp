@@ -21,6 +21,11 @@ constexpr int ticks_until_asleep = 20;
 
 }  // namespace
 
+void place_help_box(TextBox& help_box, double left, double top) {
+    const double last_left = std::max(0.0, help_box.form().inner_width() - help_box.width());
+    help_box.move({std::clamp(left, 0.0, last_left), std::max(0.0, top), help_box.width(), help_box.height()});
+}
+
 void ShowTip(Control& control, TextBox& help_box, const std::wstring& text) {
     help_box.set_text(text);
     help_box.fit_width_to_text();
@@ -58,6 +63,7 @@ bool is_within(const Item& item, const MouseEvent& event) {
 HoverHelp::HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer)
     : pointer_(pointer), help_box_(help_box), timer_(timer) {
     help_box_.form().on_pointer_moved = [this] { wake(); };
+    help_box_.form().on_key_pressed = [this] { dismiss(); };
 }
 
 void HoverHelp::add(Control& control, std::wstring text) {
@@ -82,11 +88,8 @@ void HoverHelp::keep_above_pointer() {
 
 void HoverHelp::place_above_pointer(const Control& control, const MouseEvent& pointer) const {
     constexpr double above_pointer = 500;
-    const double width = help_box_.width();
-    const double free_width = std::max(0.0, help_box_.form().inner_width() - width);
-    const double left = control.left() + pointer.x - width / 2;
-    const double top = control.top() + pointer.y - above_pointer;
-    help_box_.move({std::clamp(left, 0.0, free_width), std::max(0.0, top), width, help_box_.height()});
+    place_help_box(help_box_, control.left() + pointer.x - help_box_.width() / 2,
+                   control.top() + pointer.y - above_pointer);
 }
 
 void HoverHelp::tick() {
@@ -100,7 +103,7 @@ void HoverHelp::tick() {
         }
     }
     for (Tip& tip : tips_) {
-        if (!tip.shown && pointer_.PointerWindow == tip.control.window()) {
+        if (!tip.shown && !dismissed_at_ && pointer_.PointerWindow == tip.control.window()) {
             tip.shown = true;
             ShowTip(tip.control, help_box_, tip.text);
             raise(on_shown, tip.control, pointer_on(tip.control));
@@ -123,7 +126,24 @@ void HoverHelp::pace() {
     timer_.set_interval(still_ticks_ < ticks_until_asleep ? awake_milliseconds : asleep_milliseconds);
 }
 
+void HoverHelp::dismiss() {
+    POINT position{};
+    GetCursorPos(&position);
+    dismissed_at_ = position;
+    help_box_.set_visible(false);
+    for (const Tip& tip : tips_) {
+        if (tip.shown) HideTip(tip.control, help_box_);
+    }
+}
+
 void HoverHelp::wake() {
+    // Hiding the help box may send a mouse move although the pointer rests.
+    POINT position{};
+    GetCursorPos(&position);
+    if (dismissed_at_ && (position.x != dismissed_at_->x || position.y != dismissed_at_->y)) {
+        dismissed_at_.reset();
+        for (Tip& tip : tips_) tip.shown = false;
+    }
     still_ticks_ = 0;
     timer_.set_interval(awake_milliseconds);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,8 @@ class Item;
 class TextBox;
 class Timer;
 
+/// Places a help box, as far inside its form as it fits.
+void place_help_box(TextBox& help_box, double left, double top);
 /// Shows a help text for a control: in the help box, made as wide as the text, with the control lit up and underlined.
 void ShowTip(Control& control, TextBox& help_box, const std::wstring& text);
 /// Takes the light off the control and hides the help box.
@@ -33,7 +36,7 @@ bool is_within(const Item& item, const MouseEvent& event);
 /// calls `tick`; where the help box stands is the window's business.
 class HoverHelp {
   public:
-    /// Takes over the pointer movements of the help box's form.
+    /// Takes over the pointer movements and key presses of the help box's form.
     HoverHelp(PointerState& pointer, TextBox& help_box, Timer& timer);
     HoverHelp(const HoverHelp&) = delete;
     HoverHelp& operator=(const HoverHelp&) = delete;
@@ -65,6 +68,7 @@ class HoverHelp {
     void place_above_pointer(const Control& control, const MouseEvent& pointer) const;
     void pace();
     void wake();
+    void dismiss();
 
     PointerState& pointer_;
     TextBox& help_box_;
@@ -72,6 +76,7 @@ class HoverHelp {
     std::vector<Tip> tips_;
     POINT last_position_{};
     int still_ticks_ = 0;
+    std::optional<POINT> dismissed_at_;  // where the pointer was when a key hid the help, until it moves
 };
 
 }  // namespace quillomat

@@ -24,6 +24,7 @@ struct ViewerState {
     std::wstring search_keyword;   ///< upper-cased text of the last search
     std::int16_t next_letter = 0;  ///< code of the next letter of the alphabet bar
     std::wstring last_jump;        ///< caption of the alphabet bar's label that was clicked last
+    int text_steps = 0;            ///< points by which the cheat text is larger than other texts
 };
 
 /// What outlives the windows of a run. Owned by the entry and handed down.

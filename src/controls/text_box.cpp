@@ -15,6 +15,9 @@ constexpr WPARAM no_limit = 0x7FFFFFFE;
 // long as this can still be shown at once.
 constexpr std::size_t longest_broken_line = 2000;
 
+// The largest size in which all help texts fit boxes of a given width, such as those of the viewer's image bar.
+constexpr double help_points = 7.5;
+
 DWORD style_of(TextBoxKind kind, bool breaks_lines) {
     constexpr DWORD multi_line = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL | WS_TABSTOP | WS_GROUP;
     const DWORD unbroken = breaks_lines ? 0 : ES_AUTOHSCROLL | WS_HSCROLL;
@@ -63,6 +66,7 @@ TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
                                                           : colours::window);
     if (help) {
         set_fore_colour(colours::tip_text);
+        set_font({.points = help_points});
         set_visible(false);
     }
     send(EM_SETLIMITTEXT, no_limit);
@@ -117,16 +121,6 @@ void TextBox::fit_width_to_text() {
     set_width(to_twips(text_width() + frame, dpi()));
 }
 
-void TextBox::fit_font_to_width() {
-    constexpr double smallest = 6;
-    constexpr double step = 0.25;
-    FontSpec fitting = font();
-    for (fitting.points = FontSpec{}.points; fitting.points >= smallest; fitting.points -= step) {
-        set_font(fitting);
-        if (text_width() <= room()) return;
-    }
-}
-
 int TextBox::text_width() const {
     // One more pixel than the text, or the box scrolls to make room for the caret.
     return text_extent(form().application().fonts().get(font(), dpi()).get(), text()).cx + 1;
@@ -160,6 +154,21 @@ LRESULT TextBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
                 kind_ != TextBoxKind::Writing) {
                 CharacterEvent event{.character = static_cast<wchar_t>(wparam)};
                 raise(on_key_press, event);
+                return 0;
+            }
+            break;
+        case WM_CONTEXTMENU:
+            if (on_context_menu) {
+                raise(on_context_menu);
+                return 0;
+            }
+            break;
+        case WM_MOUSEWHEEL:
+            if (on_control_wheel && (GET_KEYSTATE_WPARAM(wparam) & MK_CONTROL)) {
+                wheel_delta_ += GET_WHEEL_DELTA_WPARAM(wparam);
+                const int notches = wheel_delta_ / WHEEL_DELTA;
+                wheel_delta_ %= WHEEL_DELTA;
+                raise(on_control_wheel, notches);
                 return 0;
             }
             break;

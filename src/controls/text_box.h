@@ -31,6 +31,11 @@ class TextBox : public Control {
 
     /// The text has changed, by the user or by the program.
     std::function<void()> on_change;
+    /// The user asks for a menu by the right mouse button. Without a handler the system shows the menu of its own.
+    std::function<void()> on_context_menu;
+    /// The user turns the wheel with Ctrl held, by a number of notches; positive is away from the user. Without a
+    /// handler the box scrolls.
+    std::function<void(int notches)> on_control_wheel;
 
     std::wstring text() const { return window_text(); }
     /// Sets the text, in which a NUL becomes a blank, and raises the change.
@@ -46,8 +51,6 @@ class TextBox : public Control {
 
     /// Makes the box as wide as its text needs. For help boxes.
     void fit_width_to_text();
-    /// Makes the font as large as the box's width lets the text be, up to the size of other texts.
-    void fit_font_to_width();
 
     void notified(WORD code) override;
 
@@ -62,6 +65,7 @@ class TextBox : public Control {
     TextBoxKind kind_;
     bool breaks_lines_;
     bool program_changes_ = false;
+    int wheel_delta_ = 0;  // of turns that have not made a whole notch yet
 };
 
 }  // namespace quillomat

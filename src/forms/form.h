@@ -58,6 +58,8 @@ class Form : public Container, public MouseEvents {
     std::function<void()> on_resize;
     /// The pointer has moved over the form or over anything on it.
     std::function<void()> on_pointer_moved;
+    /// A key goes down while the form or anything on it has the focus, before the control hears of it.
+    std::function<void()> on_key_pressed;
     /// A key while no control has the focus.
     std::function<void(KeyEvent&)> on_key_down;
     /// After the window has gone and no handler of the form is running any more: its owner may destroy the object.

@@ -39,6 +39,7 @@ bool Form::translate(MSG& message) {
     bool handled = false;
     guarded([&] {
         if (message.message == WM_MOUSEMOVE) raise(on_pointer_moved);
+        if (is_key_down(message.message)) raise(on_key_pressed);
         Control* control = is_key_down(message.message) ? Control::from(message.hwnd) : nullptr;
         if (control) handled = control->preview_key(message);
         if (message.hwnd == window_ && is_key_down(message.message)) {

@@ -77,6 +77,7 @@ void frmCtlView::bind() {
         control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
     }
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
+    Text1.on_control_wheel = [this](int notches) { set_text_size(session_.viewer.text_steps + notches); };
     Text1.set_tool_tip(L"Double-click a word to search for it");
     List2.on_click = [this] { List2_Click(); };
 }
@@ -109,8 +110,7 @@ void frmCtlView::place_help_box(const Control& control, const MouseEvent& event)
     // That of the two modes stands above them, or it would cover the keyword that the user types after a click.
     const double top =
         in_panel ? Frame2.top() + control.top() + event.y + 500 : control.top() - Text4.height() - help_above_mode;
-    Text4.move(
-        {std::clamp(left, 0.0, std::max(0.0, inner_width() - Text4.width())), top, Text4.width(), Text4.height()});
+    quillomat::place_help_box(Text4, left, top);
 }
 
 void frmCtlView::show_game(int number) {
@@ -152,14 +152,46 @@ void frmCtlView::Form_KeyDown(KeyEvent& event) {
     } else if (event.key == keys::f && event.modifiers.only_control()) {
         event.handled = true;
         raise(windows_.find);
+    } else if (event.modifiers.control && !event.modifiers.alt) {
+        change_text_size(event);
     }
+}
+
+void frmCtlView::change_text_size(KeyEvent& event) {
+    const int steps = session_.viewer.text_steps;
+    event.handled = true;
+    switch (event.key) {
+        case VK_OEM_PLUS:
+        case VK_ADD:
+            set_text_size(steps + 1);
+            break;
+        case VK_OEM_MINUS:
+        case VK_SUBTRACT:
+            set_text_size(steps - 1);
+            break;
+        case '0':
+        case VK_NUMPAD0:
+            set_text_size(0);
+            break;
+        default:
+            event.handled = false;
+    }
+}
+
+void frmCtlView::set_text_size(int steps) {
+    constexpr int fewest = -2;
+    constexpr int most = 24;
+    session_.viewer.text_steps = std::clamp(steps, fewest, most);
+    FontSpec font = Text1.font();
+    font.points = FontSpec{}.points + session_.viewer.text_steps;
+    Text1.set_font(font);
 }
 
 void frmCtlView::Text1_KeyDown(KeyEvent& event) {
     Form_KeyDown(event);
-    // With nothing to search for, the box shows the menu that the system has for it.
-    if (event.handled || !asks_for_menu(event) || !offer_search_for_selection()) return;
+    if (event.handled || !asks_for_menu(event)) return;
     event.handled = true;
+    offer_search_for_selection();
     pop_up_at_corner(menus.mnuTextBox, Text1);
 }
 

@@ -10,12 +10,12 @@
 #include "controls/button.h"
 #include "controls/frame.h"
 #include "controls/graphics.h"
-#include "controls/list_box.h"
 #include "controls/option_button.h"
 #include "controls/static_label.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
+#include "viewer/game_list_box.h"
 #include "viewer/viewer_menus.h"
 #include "viewer/viewer_windows.h"
 
@@ -39,7 +39,7 @@ class frmCtlView final : public Form {
     OptionButton Option1{
         *this, L"&List", {120, 825, 1140, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set};
     OptionButton Option2{*this, L"&Search", {1320, 825, 1200, 255}, OptionButton::Group::Continues};
-    ListBox List2{*this, {120, 1140, 2490, 4545}};
+    GameListBox List2{*this, {120, 1140, 2490, 4545}};
     Frame Frame2{*this, L"Search", {2655, 1140, 2490, 4545}, FrameBorder::None};
     StaticLabel KeywordLabel{Frame2, L"Keyword:", {0, 15, 1700, 225}};
     TextBox Text3{Frame2, {0, 255, 1725, 315}};
@@ -48,7 +48,7 @@ class frmCtlView final : public Form {
     OptionButton Option3{
         Frame1, L"G&ame", {120, 255, 1050, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set};
     OptionButton Option4{Frame1, L"&Cheats", {1230, 255, 1050, 255}, OptionButton::Group::Continues};
-    ListBox List1{Frame2, {0, 1315, 2490, 3230}};
+    GameListBox List1{Frame2, {0, 1315, 2490, 3230}};
     TextBox Text1{*this, {2680, 780, 5945, 4905}, TextBoxKind::Reading};
     TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Shape Shape1{*this, {0, 0, 420, 420}};
@@ -93,7 +93,8 @@ class frmCtlView final : public Form {
     void Command1_Click();
     void Text1_DblClick();
     void Text1_KeyDown(KeyEvent& event);
-    /// Makes the text box's menu offer a search for what is selected; false when that is nothing to search for.
+    /// Makes the text box's menu offer a search for the selected text. Returns false if no text to search for is
+    /// selected; the menu's search is disabled then.
     bool offer_search_for_selection();
     void List1_Click();
     void List2_Click();
@@ -119,7 +120,10 @@ class frmCtlView final : public Form {
     std::wstring fonts_file() const;
     void open_status();
     void fill_font_menu(const ScreenFonts& fonts);
+    void slide(Control& panel, double left, std::optional<double> (*next_left)(double));
     void show_slide_step();
+    void change_text_size(KeyEvent& event);
+    void set_text_size(int steps);
 
     // The steps of opening the window, in their order.
     void start_up();

@@ -179,7 +179,6 @@ void frmCtlView::show_image_help(const Image& image, const wchar_t* text, Bounds
         hovered_ = &image;
         Label1_reset();
         Text4.set_text(text);
-        Text4.fit_font_to_width();
     }
     Text4.bring_to_front();
     Text4.set_visible(true);
@@ -197,7 +196,6 @@ void frmCtlView::hide_image_help() {
 void frmCtlView::tidy_image_bar() {
     hovered_ = nullptr;
     hide_image_help();
-    Text4.set_font({});
     Label1_reset();
 }
 

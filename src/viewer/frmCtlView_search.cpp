@@ -8,6 +8,7 @@
 #include "text/search_text.h"
 #include "text/viewer_animation.h"
 #include "viewer/frmCtlView.h"
+#include "win/animation_setting.h"
 #include "win/upper_case.h"
 
 namespace quillomat {
@@ -16,6 +17,10 @@ void frmCtlView::bind_search() {
     Option1.on_click = [this] { Option1_Click(); };
     Option2.on_click = [this] { Option2_Click(); };
     Text1.on_double_click = [this] { Text1_DblClick(); };
+    Text1.on_context_menu = [this] {
+        offer_search_for_selection();
+        pop_up(menus.mnuTextBox);
+    };
     menus.mnuTextBoxInGames.on_click = [this] { SearchFor(SearchScope::Names); };
     menus.mnuTextBoxInCheats.on_click = [this] { SearchFor(SearchScope::Cheats); };
     menus.mnuSelectedSearch.on_click = [this] {
@@ -80,7 +85,12 @@ void frmCtlView::Text1_DblClick() {
 
 bool frmCtlView::offer_search_for_selection() {
     const auto caption = search_menu_caption(Text1.selected_text());
-    if (caption) menus.mnuTextBoxSearch.set_caption(without_access_keys(*caption));
+    menus.mnuTextBoxSearch.set_enabled(caption.has_value());
+    if (caption) {
+        menus.mnuTextBoxSearch.set_caption(without_access_keys(*caption));
+    } else {
+        menus.mnuTextBoxSearch.set_caption(L"&Search for");
+    }
     return caption.has_value();
 }
 
@@ -132,11 +142,7 @@ void frmCtlView::ShowFrame() {
     Frame2.bring_to_front();
     Text1.bring_to_front();
     Text4.bring_to_front();
-    while (const auto next = next_search_panel_left(Frame2.left())) {
-        Frame2.set_left(*next);
-        show_slide_step();
-    }
-    Frame2.set_left(panel_resting_left);
+    slide(Frame2, search_panel_start_left, next_search_panel_left);
     // The panel covers the list; nothing of it is to be reached by the keyboard.
     List2.set_visible(false);
 }
@@ -146,12 +152,17 @@ void frmCtlView::ShowList() {
     List2.set_visible(true);
     List2.bring_to_front();
     Text4.bring_to_front();
-    while (const auto next = next_game_panel_left(List2.left())) {
-        List2.set_left(*next);
+    slide(List2, game_panel_start_left, next_game_panel_left);
+    Frame2.set_visible(false);
+}
+
+void frmCtlView::slide(Control& panel, double left, std::optional<double> (*next_left)(double)) {
+    // The steps go by the exact position: read back from the panel, it is rounded to whole pixels.
+    for (auto next = next_left(left); next && animations_wanted(); next = next_left(*next)) {
+        panel.set_left(*next);
         show_slide_step();
     }
-    List2.set_left(panel_resting_left);
-    Frame2.set_visible(false);
+    panel.set_left(panel_resting_left);
 }
 
 void frmCtlView::show_slide_step() {

@@ -63,6 +63,7 @@ void frmCtlView::restore_settings() {
     FontSpec font = Text1.font();
     font.name = stored.read(settings::Font);
     Text1.set_font(font);
+    set_text_size(session_.viewer.text_steps);
     menus.mnuColour.set_checked(stored.read(settings::Colour));
     menus.mnuAutoSelect.set_checked(stored.read(settings::AutoSelect));
     set_window_state(window_state_of(stored.read(settings::FrmCtlViewWindowState)));

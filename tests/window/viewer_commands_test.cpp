@@ -81,8 +81,11 @@ TEST_F(ViewerCommandsTest, MenusAndImagesShareTheirCommands) {
         EXPECT_EQ(viewer->Text1.back_colour(), coloured ? rgb(255, 192, 255) : colours::white);
     }
 
-    press_in_menus({VK_ESCAPE, VK_ESCAPE, VK_ESCAPE}, [this] {
+    int finds = 0;
+    viewer_windows.find = [&] { ++finds; };
+    press_in_menus({VK_ESCAPE, VK_ESCAPE, 'S', 'F', VK_ESCAPE}, [this] {
         for (const std::size_t image : {4u, 6u}) click_on(viewer->Image2[image]);
+        SendMessageW(viewer->Text1.window(), WM_CONTEXTMENU, 0, 0);  // nothing is selected to be searched for
         // A word that is double-clicked names the entry of a menu as it is: its ampersand is no access key.
         viewer->Text1.set_text(L"R&D code");
         viewer->Text1.select(0, 4);
@@ -91,6 +94,7 @@ TEST_F(ViewerCommandsTest, MenusAndImagesShareTheirCommands) {
     wchar_t shown[40]{};
     GetMenuStringW(menus.mnuTextBox.handle(), 0, shown, 40, MF_BYPOSITION);
     EXPECT_STREQ(shown, L"Search for R&&D ");
+    EXPECT_EQ(finds, 1);
 
     click_on(viewer->Image2[0]);
     EXPECT_SOON(!viewer) << "the first image leads home";
@@ -120,17 +124,13 @@ TEST_F(ViewerCommandsTest, AnImageIsPressedAndComesBack) {
     EXPECT_TRUE(is_at_rest()) << "another window has taken the mouse away";
     mouse(WM_LBUTTONUP, image);
     EXPECT_TRUE(is_at_rest()) << "a release without its press changes nothing";
-    const auto look = [this](const Image& shown) {
-        std::vector<COLORREF> colours;
+    const auto look = [&] {
         viewer->refresh();
-        const WindowCanvas canvas(viewer->window());
-        for (LONG x = shown.pixels().left; x < shown.pixels().right; ++x)
-            colours.push_back(GetPixel(canvas.get(), x, shown.pixels().top + 14));
-        return colours;
+        return colours_from(viewer->window(), {resting.left, resting.top + 14}, 28);
     };
-    const auto enabled = look(image);
+    const auto enabled = look();
     image.set_enabled(false);
-    EXPECT_NE(look(image), enabled);
+    EXPECT_NE(look(), enabled);
 }
 
 TEST_F(ViewerCommandsTest, HelpGoesWithThePointerWhereverItGoes) {
@@ -149,6 +149,8 @@ TEST_F(ViewerCommandsTest, HelpGoesWithThePointerWhereverItGoes) {
                viewer->Option2.font().underline;
     }));
     EXPECT_FALSE(viewer->Shape1.visible());
+    press_key(VK_SHIFT);
+    EXPECT_SOON(!viewer->Text4.visible() && !viewer->Option2.font().underline) << "the user types";
     ASSERT_TRUE(point_until(viewer->window(), image.left + 9, image.top + 9, is_shown));
     EXPECT_SOON(!viewer->Option2.font().underline);
     SendMessageW(viewer->window(), WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(viewer->menus.mnuOptions.handle()), 1);

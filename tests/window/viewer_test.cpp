@@ -1,5 +1,7 @@
 // The cheat viewer as a player meets it: opening, selecting, searching, closing.
 
+#include <algorithm>
+
 #include "common/window_settings.h"
 #include "output/frmAddNew.h"
 #include "shown_viewer.h"
@@ -215,6 +217,100 @@ TEST_F(ViewerTest, CallsForTheKeywordHoweverTheSearchIsOpened) {
     viewer->Text1.select(0, 5);
     viewer->menus.mnuTextBoxInGames.pick();
     EXPECT_TRUE(is_typed_over(L"warps")) << "from the text";
+}
+
+/// Watches a panel move: where it goes, and what the viewer shows of it before it goes on.
+struct SlideWatch {
+    const ShownViewerTest& test;
+    const Control& panel;
+    std::vector<LONG> lefts;
+    std::vector<LONG> shown;
+
+    SlideWatch(const ShownViewerTest& viewer_test, const Control& sliding) : test(viewer_test), panel(sliding) {
+        SetWindowSubclass(panel.window(), procedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    ~SlideWatch() { RemoveWindowSubclass(panel.window(), procedure, 1); }
+
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                      DWORD_PTR data) {
+        auto& watch = *reinterpret_cast<SlideWatch*>(data);
+        const auto* place = reinterpret_cast<const WINDOWPOS*>(lparam);
+        if (message == WM_WINDOWPOSCHANGING && !(place->flags & SWP_NOMOVE)) {
+            // On a line on which the panel that is behind, or slides in, is an empty list, and the other one is bare.
+            const auto colours = watch.test.colours_from(watch.test.viewer->window(), {10, 117}, 160);
+            const auto edge = std::ranges::find(colours, resolve(colours::button_face));
+            watch.shown.push_back(static_cast<LONG>(edge - colours.begin()) + 10);
+            watch.lefts.push_back(place->x);
+        }
+        return DefSubclassProc(window, message, wparam, lparam);
+    }
+};
+
+TEST_F(ViewerTest, ThePanelsSlideInEqualStepsThatAreAllShown) {
+    open_viewer();
+    viewer->List2.clear();
+    viewer->refresh();
+    SlideWatch frame(*this, viewer->Frame2);
+    viewer->Option2.set_value(true);
+    ASSERT_EQ(frame.lefts.size(), 27u);
+    for (int step = 1; step <= 26; ++step) {
+        const auto at = static_cast<std::size_t>(step) - 1;
+        EXPECT_EQ(frame.lefts[at], to_pixels(2655 - 100 * step, 96));
+        if (step > 2) {
+            EXPECT_EQ(frame.shown[at], std::max(10L, frame.lefts[at - 1])) << step;
+        }
+    }
+    SlideWatch list(*this, viewer->List2);
+    viewer->Option1.set_value(true);
+    EXPECT_EQ(list.lefts.size(), 29u);
+    viewer->Option2.set_value(true);
+    frame.lefts.clear();
+    SystemParametersInfoW(SPI_SETCLIENTAREAANIMATION, 0, nullptr, 0);
+    viewer->Option1.set_value(true);
+    viewer->Option2.set_value(true);
+    SystemParametersInfoW(SPI_SETCLIENTAREAANIMATION, 0, reinterpret_cast<void*>(TRUE), 0);
+    EXPECT_EQ(frame.lefts.size(), 2u) << "at its start and at rest, for a user who wants no animations";
+}
+
+TEST_F(ViewerTest, ShowsTheEndsOfLongNamesAndNoRowInPart) {
+    std::string games;
+    for (int i = 0; i < 60; ++i) {
+        games += "$$$$$$$$$$$$$$$$$$$$ A name that is a lot wider than the list, part " + std::to_string(i) + "\r\n";
+    }
+    open_viewer(games);
+    viewer->set_height(6750);
+    viewer->refresh();
+    const HWND list = viewer->List2.window();
+    const auto row = [&](int y) { return colours_from(list, {0, y}, 140); };
+    EXPECT_NE(row(6), row(6 + static_cast<int>(SendMessageW(list, LB_GETITEMHEIGHT, 0, 0))));
+    EXPECT_EQ(viewer->List2.item(1), L"A name that is a lot wider than the list, part 1");
+    RECT client{};
+    GetClientRect(list, &client);
+    for (const WPARAM top : {0u, 3u}) {
+        SendMessageW(list, LB_SETTOPINDEX, top, 0);
+        UpdateWindow(list);
+        const auto last = row(client.bottom - 1);
+        EXPECT_EQ(std::ranges::count(last, last[0]), 140) << "the row that the edge would cut is left out";
+    }
+}
+
+TEST_F(ViewerTest, TheCheatTextCanBeMadeLarger) {
+    open_viewer();
+    const auto points = [this] { return viewer->Text1.font().points; };
+    const double usual = points();
+    for (const WORD key : std::initializer_list<WORD>{VK_OEM_PLUS, VK_ADD, VK_OEM_MINUS}) {
+        press_key(key, {VK_CONTROL});
+    }
+    EXPECT_SOON(points() == usual + 1);
+    for (int half_notch = 0; half_notch < 4; ++half_notch) {
+        SendMessageW(viewer->Text1.window(), WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, WHEEL_DELTA / 2), 0);
+    }
+    EXPECT_EQ(points(), usual + 3);
+    close_viewer();
+    open_viewer();
+    EXPECT_EQ(points(), usual + 3) << "for as long as the program runs";
+    press_key('0', {VK_CONTROL});
+    EXPECT_SOON(points() == usual);
 }
 
 TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised) {
