@@ -23,7 +23,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t* arguments, int) {
         }
         return application.run();
     } catch (...) {
-        // What fails before there is a window to report it, such as a first window that cannot be made.
+        // Failures before any window exists to report them, such as a first window that cannot be created.
         application.report_current_exception();
         return EXIT_FAILURE;
     }

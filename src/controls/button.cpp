@@ -54,7 +54,7 @@ void Button::draw_face(HDC canvas, RECT& area, bool pressed) const {
 }
 
 COLORREF Button::caption_colour() const {
-    if (!enabled()) return resolve(colours::grey_text);
+    if (!enabled()) return resolve(disabled_fore_colour_);
     // A background whose colour runs through the rainbow must not swallow the caption.
     return legible(fore_colour(), back_colour());
 }

@@ -15,6 +15,8 @@ class Button : public Control {
     /// The text on the button; "&" stands before the access key.
     std::wstring caption() const { return window_text(); }
     void set_caption(const std::wstring& caption);
+    /// The colour of the caption while the button is disabled: the system's grey unless it is set.
+    void set_disabled_fore_colour(Colour colour) { disabled_fore_colour_ = colour; }
     /// Does what a press of the button does.
     void click();
 
@@ -31,6 +33,7 @@ class Button : public Control {
     COLORREF caption_colour() const;
     void draw_face(HDC canvas, RECT& area, bool pressed) const;
 
+    Colour disabled_fore_colour_ = colours::grey_text;
     bool hot_ = false;
 };
 

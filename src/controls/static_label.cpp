@@ -7,6 +7,10 @@ namespace quillomat {
 StaticLabel::StaticLabel(Container& container, std::wstring_view caption, Bounds bounds)
     : Control(container, bounds, L"STATIC", caption, SS_LEFT | WS_GROUP) {}
 
+void StaticLabel::set_caption(const std::wstring& caption) {
+    SetWindowTextW(window(), caption.c_str());
+}
+
 HBRUSH StaticLabel::prepare_colours(HDC canvas) {
     set_default_back_colour(container().back_colour());
     return Control::prepare_colours(canvas);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "forms/control.h"
 
 namespace quillomat {
@@ -9,6 +11,8 @@ namespace quillomat {
 class StaticLabel : public Control {
   public:
     StaticLabel(Container& container, std::wstring_view caption, Bounds bounds);
+
+    void set_caption(const std::wstring& caption);
 
     HBRUSH prepare_colours(HDC canvas) override;
 

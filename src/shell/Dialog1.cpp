@@ -108,7 +108,7 @@ void Dialog1::Contract() {
     if (cmdButton[1].has_focus()) cmdButton[0].set_focus();
     cmdButton[1].set_visible(false);
     resize(next_contracted_height);
-    // Out of sight they are out of reach of the keyboard too.
+    // Links below the edge of the window must not take the focus.
     set_links_visible(false);
 }
 

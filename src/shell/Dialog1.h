@@ -22,11 +22,11 @@ class Dialog1 final : public Form {
 
     /// Grows the window to show the links.
     void Expand();
-    /// Shrinks it to hide them.
+    /// Shrinks the window to hide the links.
     void Contract();
 
     const Picture picSpin;
-    const Picture Picture1[3];  ///< they take turns as the window's icon
+    const Picture Picture1[3];  ///< shown in turn as the window's icon
     PictureBox picCopy;
     StaticLabel Label1;
     StaticLabel Label2{*this, L"I wrote Quillomat and I collect the cheats in it.", {2835, 1275, 2835, 450}};
@@ -58,8 +58,7 @@ class Dialog1 final : public Form {
     void Timer4_Timer();
 
     void set_links_visible(bool visible);
-    /// Takes the window through the heights of an animation to the last one, or there at once if the user wants no
-    /// animations.
+    /// Gives the window each height of an animation up to the last, or only the last if the user wants no animations.
     void resize(std::optional<double> (*next_height)(double));
 
     PointerState& pointer_;

@@ -6,8 +6,8 @@
 namespace quillomat {
 
 /// A painted picture of many colours that fills its bounds: a bitmap among the program's resources, drawn for 96, 120,
-/// 144 and 192 dots per inch, each under the number `resource` plus its resolution. The mouse meets what lies behind
-/// it.
+/// 144 and 192 dots per inch, each under the number `resource` plus its resolution. Mouse events go to whatever lies
+/// behind the picture.
 class Backdrop : public Graphic {
   public:
     Backdrop(Container& container, int resource, Bounds bounds);
@@ -18,7 +18,7 @@ class Backdrop : public Graphic {
 
   private:
     int resource_;
-    mutable GdiObject<HBITMAP> bitmap_;  // loaded when it is first drawn
+    mutable GdiObject<HBITMAP> bitmap_;  // loaded by the first draw
 };
 
 }  // namespace quillomat

@@ -23,7 +23,7 @@ void EmbossLabel(Label& main, Label& shadow, Label& highlight, const std::wstrin
         label->set_caption(caption);
         label->set_back_style(BackStyle::Transparent);
     }
-    // On a background on which the text would be lost, edges of a fixed colour would only blur it.
+    // If the text colour itself is illegible on the background, edges of a fixed colour would only blur the text.
     const bool plain = legible(text_colour, main.container().back_colour()) != resolve(text_colour);
     main.set_fore_colour(plain ? colours::button_text : text_colour);
     shadow.set_fore_colour(shadow_colour);
@@ -31,7 +31,7 @@ void EmbossLabel(Label& main, Label& shadow, Label& highlight, const std::wstrin
     const double offset = to_twips(style == EmbossStyle::Raised ? depth : -depth, main.form().dpi());
     place_copy(shadow, main, offset);
     place_copy(highlight, main, -offset);
-    // The three are painted together when the program is idle, so nothing is seen in between.
+    // Windows paints the three labels together when the message queue is empty, so no state in between is seen.
     for (Label* edge : {&shadow, &highlight}) edge->set_visible(!plain);
     main.set_visible(true);
     main.bring_to_front();

@@ -12,7 +12,7 @@
 namespace quillomat {
 namespace {
 
-// Of what is inside of the border.
+// The size inside the border.
 constexpr double design_width = 5910;
 constexpr double design_height = 3945;
 
@@ -81,6 +81,7 @@ void frmAbout::Form_Load() {
     centre_on_screen();
     lblTitle.set_caption(application().title());
     Label4.set_caption(L"You have run Quillomat " + std::to_wstring(StartUpTimes) + L" times.");
+    SpokenRunCount.set_caption(Label4.caption());
     CenterMouseOn(cmdButton[0].window());
     emboss(EmbossStyle::Raised);
     if (!animations_wanted()) Timer2.set_enabled(false);

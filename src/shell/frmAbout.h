@@ -17,19 +17,19 @@
 
 namespace quillomat {
 
-/// The about box: version, run count, the author's addresses, and the way to the system's information tool.
+/// The about box: version, run count, the author's addresses, and a button for the System Information tool.
 class frmAbout final : public Form {
   public:
-    /// What is to be shown once the box has closed.
+    /// The window to show after the box has closed.
     enum class Next { MainScreen, MessageToAuthor };
 
     /// `pointer` must outlive the form.
     frmAbout(Application& application, PointerState& pointer, std::int16_t start_up_times);
 
-    /// What the user left the box for.
+    /// Returns the window that the user asked for on leaving.
     Next next() const { return next_; }
 
-    std::int16_t StartUpTimes;  ///< how often the program has been run
+    std::int16_t StartUpTimes;  ///< number of runs of the program
 
     PictureBox picIcon;
     Label lblTitle{*this, L"Quillomat", {1230, 165, 3000, 600}};
@@ -39,6 +39,8 @@ class frmAbout final : public Form {
     Label Label3{*this, {}, {240, 1785, 5430, 330}};
     Label Label1{*this, {}, {240, 1785, 5430, 330}};
     Label Label4{*this, L"You have run Quillomat 10 times.", {240, 1785, 5430, 330}};
+    /// The run count for screen readers, which do not find painted text. A label without a size shows nothing.
+    StaticLabel SpokenRunCount{*this, {}, {}};
     Line Line2{*this, {240, 2250, 5430, 30}};
     Link Label2;
     Link lblDisclaimer;

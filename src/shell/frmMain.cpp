@@ -16,7 +16,8 @@ constexpr Colour band_colour = rgb(36, 21, 90);
 constexpr Colour subtitle_colour = rgb(189, 180, 247);
 constexpr Colour stripe_colour = rgb(47, 167, 160);
 
-// Where on a button the help box stops standing above the pointer and stands to the left of it, and how far above.
+// From this far right on a button, the help box stands to the left of the pointer; otherwise centred above it, by the
+// second distance.
 constexpr double help_box_turn = 1290;
 constexpr double help_box_rise = 500;
 
@@ -50,12 +51,14 @@ void frmMain::dress() {
     for (Button* button : {&Command6, &Command8, &Command5, &Command3, &Command1, &Command2}) {
         button->set_font({.points = 10});
     }
+    // While the button asks "Are you sure?", it is disabled, but its question must be readable.
+    Command3.set_disabled_fore_colour(colours::button_text);
     hide_answers();
 }
 
 void frmMain::bind() {
     on_load = [this] { Form_Load(); };
-    // A new resolution brings borders of another size.
+    // Another resolution changes the thickness of the border.
     on_resize = [this] {
         if (window_state() == WindowState::Normal) set_inner_size(design_width, design_height);
     };
@@ -99,7 +102,7 @@ void frmMain::bind_exit() {
     Timer2.on_timer = [this] { Timer2_Timer(); };
     Timer3.on_timer = [this] { Timer3_Timer(); };
     Timer4.on_timer = [this] { Command3.set_back_colour(colours::button_face); };
-    // It goes on for as long as the window lives: the colour of the exit button is reset once, at the beginning.
+    // Timer5 is never disabled, so Timer4 resets the colour of the exit button only in the first milliseconds.
     Timer5.on_timer = [this] { Timer4.set_enabled(false); };
 }
 
@@ -145,14 +148,14 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::count_run() {
-    // The highest count stays: nobody is kept from the program by its being popular.
+    // The count stops at its highest value; an overflow error would keep the main screen from opening.
     const std::int16_t count = session_.settings.read(settings::Counter);
     session_.StartUpTimes = count == std::numeric_limits<std::int16_t>::max() ? count : checked_add_16(count, 1);
     session_.settings.write(settings::Counter, session_.StartUpTimes);
 }
 
 void frmMain::Command3_Click() {
-    // What is left of an answer from before must not work against the question.
+    // An earlier answer may still be animated; its timers would move the buttons back.
     Timer1.set_enabled(false);
     Timer3.set_enabled(false);
     Timer2.set_enabled(true);
@@ -160,7 +163,7 @@ void frmMain::Command3_Click() {
     Timer5.set_enabled(true);
     set_caption(L"Exit?");
     set_default_button(&Command1);
-    // The answers have the focus before the button that had it is disabled, so that no key is lost.
+    // Focus moves before the focused button is disabled: a disabled window swallows the keys typed ahead.
     show_answers();
     Command1.set_focus();
     enable_what_leads_away(false);
@@ -221,7 +224,7 @@ void frmMain::Timer2_Timer() {
     if (next != before) {
         place(next);
     } else if (Command1.top() != Command3.top()) {
-        // By the rounding to pixels they have come to rest a little above or below the exit button.
+        // Rounding to pixels has let the answers come to rest a little above or below the exit button.
         Command1.set_top(Command3.top());
         Command2.set_top(Command3.top());
     }
@@ -235,9 +238,9 @@ void frmMain::Timer3_Timer() {
     place(next_withdrawing(before));
     if (!withdrawing_is_complete(Command3.width()) && exit_confirmation() != before) return;
     Timer3.set_enabled(false);
-    // By the rounding to pixels it may have grown out of the window.
+    // Rounding to pixels may have let the exit button grow beyond its former width.
     Command3.set_width(exit_width_resting);
-    // Below the edge of the window the answers are to be reached by no key either.
+    // Answers below the edge of the window must not take the focus.
     hide_answers();
 }
 

@@ -38,8 +38,8 @@ struct MainMenus {
     Menu mnuHelpAbout{mnuHelp, L"&About "};
 };
 
-/// The main screen: it counts the program's runs, leads everywhere, and asks before it lets the user leave. Everything
-/// else closes with it.
+/// The main screen: counts the program's runs, opens the other windows, and asks before the user leaves. Closing it
+/// closes every other window.
 class frmMain final : public Form {
   public:
     /// `session` and `windows` must outlive the form.
@@ -54,7 +54,7 @@ class frmMain final : public Form {
     Label Name{Frame1, product::title, {1170, 150, 3400, 540}};
     Label Subtitle{Frame1, L"Cheat codes for computer games", {1185, 690, 3400, 240}};
     Image Image1{Frame1, Picture(PICTURE_AUTHOR_MAIL), {4695, 90, 960, 960}};
-    // Painted stripes above and below the buttons that lead somewhere.
+    // Painted stripes above and below the buttons that open something.
     Label Command7{*this, {}, {0, 1140, design_width, 60}};
     Label Command9{*this, {}, {240, 3405, 5415, 15}};
 
@@ -95,7 +95,7 @@ class frmMain final : public Form {
     void enable_what_leads_away(bool enabled);
     void show_answers();
     void hide_answers();
-    /// Moves the buttons of the exit question to where a timer's steps take them.
+    /// Calls the handler of one of the exit question's timers until the buttons no longer move.
     void take_all_steps(void (frmMain::*step)());
     ExitConfirmation exit_confirmation() const;
     void place(const ExitConfirmation& confirmation);

@@ -25,7 +25,7 @@ constexpr const wchar_t* mottoes[] = {
 
 constexpr Colour letter_colour{0x808080};
 
-// The middle of the sheet of paper that the background has for the name.
+// The centre of the sheet of paper in the background, on which the name is written.
 constexpr double name_centre_x = 2685;
 constexpr double name_centre_y = 1245;
 
@@ -91,7 +91,7 @@ void frmSplash::place_letters() {
 
 void frmSplash::go_on_when_clicked(MouseEvents& item) {
     item.on_click = [this] {
-        // The main screen opens with the pointer on its largest button, which the second press would press.
+        // The main screen puts the pointer on its largest button; a second press would press that.
         application().drop_second_press();
         Proceed();
     };
@@ -108,6 +108,7 @@ void frmSplash::Form_Load() {
     }
     Label2.set_left(version_left_);
     Label6.set_caption(mottoes[motto_number(random_fraction()) - 1]);
+    Spoken.set_caption(L"Version " + Label2.caption() + L". " + Label6.caption());
     band_step_ = 0;
     centre_on_screen();
 }
@@ -119,7 +120,7 @@ void frmSplash::Timer1_Timer() {
 }
 
 void frmSplash::Timer2_Timer() {
-    // From the exact position: Label2 would give it back rounded to pixels, and every step with it.
+    // Label2 reports its position rounded to pixels, which would round every step.
     if (const auto left = next_version_left(version_left_)) {
         version_left_ = *left;
         Label2.set_left(version_left_);

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "controls/graphics.h"
+#include "controls/static_label.h"
 #include "forms/form.h"
 #include "forms/timer.h"
 #include "resources/pictures.h"
@@ -13,11 +14,11 @@
 
 namespace quillomat {
 
-/// The first window: the product's name with a band of light sweeping over it, the version sliding in, and a motto. It
-/// stays until the user clicks on it or presses a key.
+/// The first window: a band of light sweeps over the product's name, the version slides in, and a motto is shown. The
+/// splash stays until the user clicks on it or presses a key.
 class frmSplash final : public Form {
   public:
-    /// `show_main_screen` opens what follows.
+    /// `show_main_screen` opens the window that follows the splash.
     frmSplash(Application& application, std::function<void()> show_main_screen);
 
     static constexpr double design_width = 7005;
@@ -30,6 +31,8 @@ class frmSplash final : public Form {
     Label Label3{*this, L"By Tobin Ferrand (Tob)", {540, 2070, 3300, 360}};
     Label Label4{*this, L"Click screen to continue ", {660, 3915, 2700, 270}};
     Label Label6{*this, L"What's the point if you can't cheat?", {540, 2475, 4500, 540}};
+    /// Version and motto for screen readers, which do not find painted text. A label without a size shows nothing.
+    StaticLabel Spoken{*this, {}, {}};
     Timer Timer1{*this, 75};
     Timer Timer2{*this, 35};
 

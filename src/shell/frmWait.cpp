@@ -6,7 +6,7 @@ namespace quillomat {
 
 frmWait::frmWait(Application& application, std::function<void()> show_viewer)
     : Form(application, {.name = L"frmWait",
-                         // Without a title bar nobody sees it, but screen readers say it.
+                         // Not visible without a title bar, but screen readers announce it.
                          .caption = L"Please wait... loading...",
                          .width = 4500,
                          .height = 1200,
@@ -26,7 +26,7 @@ frmWait::frmWait(Application& application, std::function<void()> show_viewer)
 
 void frmWait::Timer1_Timer() {
     Timer1.set_enabled(false);
-    // Nothing is painted while the viewer loads.
+    // Loading the viewer blocks the message loop, so nothing is painted meanwhile.
     refresh();
     try {
         show_viewer_();

@@ -9,7 +9,7 @@
 
 namespace quillomat {
 
-/// Stands between the main screen and the viewer while that reads the database.
+/// The loading window, shown while the viewer opens and reads the database.
 class frmWait final : public Form {
   public:
     /// `show_viewer` opens the viewer and returns when it has loaded.

@@ -5,16 +5,16 @@
 
 namespace quillomat {
 
-/// What the main screen opens without knowing it. What is not bound does nothing.
+/// What the main screen opens. Unbound members do nothing.
 struct MainWindows {
-    /// Opens the viewer, by way of the loading window.
+    /// Shows the loading window, which opens the viewer.
     std::function<void()> cheats;
     std::function<void()> about;
     std::function<void()> about_author;
     std::function<void()> mail_author;
-    /// Opens a web or mail address in the user's own program.
+    /// Opens a web or mail address in the user's browser or mail program.
     std::function<void(const std::wstring& address)> link;
-    /// The main screen closes, and every other window with it.
+    /// Closes every other window; called while the main screen closes.
     std::function<void()> close_all;
 };
 

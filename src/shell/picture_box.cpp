@@ -33,7 +33,7 @@ void PictureBox::draw(const DRAWITEMSTRUCT& request) {
     const Selection selected(source.get(), bitmap_.get());
     const int width = static_cast<int>(std::lrint(size * width_factor_));
     int left = (area.left + area.right - width) / 2;
-    // StretchBlt mirrors onto the columns up to and including the one it is given.
+    // With a negative width, StretchBlt draws to the left of `left`, including that column itself.
     if (width < 0) --left;
     const int top = (area.top + area.bottom - size) / 2;
     SetStretchBltMode(canvas, HALFTONE);

@@ -24,7 +24,7 @@ class PictureBox : public Control {
   private:
     Picture picture_;
     Edge edge_;
-    GdiObject<HBITMAP> bitmap_;  // the picture on its background, for the size and the colour below
+    GdiObject<HBITMAP> bitmap_;  // the picture on its background, in this size and colour:
     int bitmap_size_ = 0;
     COLORREF bitmap_background_ = 0;
     double width_factor_ = 1;

@@ -6,7 +6,7 @@ namespace quillomat {
 
 class frmCtlView;
 
-/// Shows the output windows what they need of a viewer that is open.
+/// Gives the output windows access to an open viewer.
 class OpenViewer final : public ViewerLink {
   public:
     explicit OpenViewer(frmCtlView& viewer) : viewer_(viewer) {}

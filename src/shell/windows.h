@@ -17,8 +17,8 @@ class frmMain;
 class frmSplash;
 class frmWait;
 
-/// The one place that knows every window of the program: it opens them, owns those that stay open beside others, and
-/// ends the program with the last one.
+/// The only class that knows every window of the program. Opens the windows, owns the modeless ones, and ends the
+/// program when the last of them has closed.
 class Windows {
   public:
     Windows(Application& application, Session& session);
@@ -26,27 +26,27 @@ class Windows {
     Windows(const Windows&) = delete;
     Windows& operator=(const Windows&) = delete;
 
-    // Each opens its window, or brings the open one to the front.
+    // Each function opens its window, or brings the window to the front if it is open.
     void open_splash();
     void open_main_screen();
-    /// The loading window, which opens the viewer.
+    /// Opens the loading window, which opens the viewer.
     void open_loading_window();
     void open_viewer();
-    /// Opens the viewer with the answer to a question: see `frmCtlView::look_up`.
+    /// Opens the viewer and has it answer a question, as described at `frmCtlView::look_up`.
     void open_viewer_for(const std::wstring& question);
-    /// Opens the message to the author, or brings the open one to the front.
+    /// Opens the message to the author.
     void open_author_mail();
 
   private:
     template <class Window, class... Arguments>
     void open(std::unique_ptr<Window>& place, Arguments&&... arguments);
-    // Dialogs of the main screen: they return when they have closed.
+    // Modal dialogs of the main screen: each call returns when its dialog has closed.
     void open_about();
     void open_author();
     void restore_main_screen();
     void open_add_game();
     void open_save();
-    /// Opens the find dialog for the viewer's text, or brings it to the front.
+    /// Opens the find dialog for the viewer's text.
     void open_find();
     void quit_after_last();
     void mail_cheats();

@@ -7,7 +7,7 @@ namespace quillomat::product {
 inline constexpr wchar_t title[] = L"Quillomat";
 /// The version that windows show.
 inline constexpr wchar_t version[] = L"" QUILLOMAT_VERSION;
-/// The version with the number of the update, as the system and the packages show it.
+/// The version with its update number, as Windows and the packages show it.
 inline constexpr wchar_t release[] = L"" QUILLOMAT_RELEASE;
 inline constexpr wchar_t author[] = L"Tobin Ferrand";
 
@@ -16,7 +16,7 @@ inline constexpr wchar_t web_site[] = L"www.tobferrand.example";
 inline constexpr wchar_t guestbook_path[] = L"/cgi-bin/guestex.cgi";
 inline constexpr wchar_t downloads_path[] = L"/downloads.htm";
 inline constexpr wchar_t mail_address[] = L"tob@tobferrand.example";
-/// Where one joins the mailing list, a site of others.
+/// The page to join the mailing list, on a third party's site.
 inline constexpr wchar_t mailing_list_page[] = L"http://lists.allvb.example/subscribe/allvb";
 
 }  // namespace quillomat::product

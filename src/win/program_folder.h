@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// The folder of the running program, without a separator at its end.
+/// Returns the folder of the running program, without a trailing separator. Throws `Error` if Windows fails.
 std::wstring program_folder();
 
 }  // namespace quillomat

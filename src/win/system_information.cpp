@@ -6,7 +6,7 @@
 #include "win/handle.h"
 #include "win/system_function.h"
 #include "win/text_file.h"
-// Need the system's header.
+// These need <windows.h> before them.
 #include <shellapi.h>
 
 namespace quillomat {
@@ -18,7 +18,7 @@ std::wstring hexadecimal(std::uint32_t number) {
     return digits;
 }
 
-/// A path in which the system's variables, such as the program folder, have their values.
+// Returns a path with its environment variables replaced by their values.
 std::wstring expanded(const std::wstring& text) {
     std::wstring result(ExpandEnvironmentStringsW(text.c_str(), nullptr, 0), L'\0');
     const DWORD length = ExpandEnvironmentStringsW(text.c_str(), result.data(), static_cast<DWORD>(result.size()));
@@ -44,7 +44,7 @@ std::optional<std::wstring> GetKeyValue(HKEY root, const std::wstring& key, cons
         return L"&h" + hexadecimal(number);
     }
     if (type != REG_SZ && type != REG_EXPAND_SZ) return std::nullopt;
-    // Whoever stored it may have left the terminating zero out.
+    // The stored text need not end with a zero.
     const std::wstring stored(buffer, bytes / sizeof(wchar_t));
     const std::wstring text = stored.substr(0, stored.find(L'\0'));
     return type == REG_EXPAND_SZ ? expanded(text) : text;
@@ -62,7 +62,7 @@ std::optional<std::wstring> system_information_tool() {
 bool start_program(const std::wstring& path) {
     SHELLEXECUTEINFOW request{};
     request.cbSize = sizeof request;
-    // A failure is the caller's to report, once.
+    // The caller reports a failure.
     request.fMask = SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
     request.lpFile = path.c_str();
     request.nShow = SW_SHOWNORMAL;

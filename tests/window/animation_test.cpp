@@ -97,6 +97,8 @@ TEST_F(AnimationTest, ABandOfLightSweepsOverTheLetters) {
         }
     }
     EXPECT_GT(ShownPixels(splash->window()).count(splash->Label6.pixels(), 0xFFFFFF), 100) << "the motto";
+    const std::wstring spoken = L"Version 5.0. " + splash->Label6.caption();
+    EXPECT_TRUE(FindWindowExW(splash->window(), nullptr, L"Static", spoken.c_str())) << "for screen readers";
 }
 
 TEST_F(AnimationTest, TheButtonUnderThePointerShowsEveryColourInOrder) {
@@ -144,6 +146,7 @@ TEST_F(AnimationTest, TheExitButtonShrinksForTheAnswersAndGrowsBack) {
 
 TEST_F(AnimationTest, TheAboutTitleShowsEverySize) {
     show(about, session.pointer, std::int16_t{1});
+    EXPECT_TRUE(FindWindowExW(about->window(), nullptr, L"Static", L"You have run Quillomat 1 times."));
     const auto area = about->lblTitle.pixels();
     about->lblTitle.set_visible(false);
     const ShownPixels empty(about->window());
