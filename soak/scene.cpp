@@ -47,9 +47,9 @@ HWND Scene::topmost() const {
     return window == windows_.end() ? nullptr : *window;
 }
 
-std::string class_name(HWND window) {
-    const std::wstring name = class_of(window);
-    return {name.begin(), name.end()};
+std::string narrow(std::wstring text) {
+    std::erase_if(text, [](wchar_t character) { return character < L' '; });
+    return {text.begin(), text.end()};
 }
 
 std::string Scene::input_fault() const {
@@ -57,6 +57,8 @@ std::string Scene::input_fault() const {
     const auto is_modal = [](HWND window) { return is_one_of(window, modal_classes); };
     std::vector<HWND> windows = windows_;
     std::erase_if(windows, [](HWND window) { return is_one_of(window, popup_classes); });
+    // Wine: the system menu offers a box about Wine, which makes only its owner wait.
+    if (std::ranges::any_of(windows, [](HWND window) { return text_of(window).starts_with(L"About Wine"); })) return {};
     const bool has_modal = std::ranges::any_of(windows, is_modal);
     // Parts them, and keeps the order from front to back.
     const auto unusable = std::ranges::stable_partition(windows, is_usable);
@@ -70,10 +72,10 @@ std::string Scene::input_fault() const {
     }
     if (right) return {};
     std::string text = "these windows take input:";
-    for (const HWND window : usable) text.append(" ").append(class_name(window));
+    for (const HWND window : usable) text.append(" ").append(narrow(class_of(window)));
     text += ", and these do not:";
-    for (const HWND window : unusable) text.append(" ").append(class_name(window));
-    return text.append(", in front: ").append(class_name(foreground));
+    for (const HWND window : unusable) text.append(" ").append(narrow(class_of(window)));
+    return text.append(", in front: ").append(narrow(class_of(foreground) + L" " + message_of(foreground)));
 }
 
 std::vector<HWND> controls_of(HWND window) {

@@ -7,8 +7,8 @@
 
 namespace quillomat::soak {
 
-/// The class of a window, for the log.
-std::string class_name(HWND window);
+/// The text for the log, without control characters.
+std::string narrow(std::wstring text);
 
 /// What of a program is on the screen now.
 class Scene {

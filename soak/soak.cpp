@@ -48,12 +48,6 @@ ObjectCounts fewest(std::span<const ObjectCounts> all) {
     return {of(&ObjectCounts::gdi), of(&ObjectCounts::user)};
 }
 
-void press_button(HWND box) {
-    for (const int button : {IDCANCEL, IDNO, IDOK}) {
-        if (GetDlgItem(box, button)) return answer_message(box, button);
-    }
-}
-
 }  // namespace
 
 Soak::Soak(std::string database, const std::string& log) : original_(std::move(database)), log_(log) {
@@ -113,11 +107,11 @@ void Soak::fault(const std::string& what) {
 void Soak::note(const Action& action, const Scene& scene) {
     ++actions_;
     const HWND front = scene.topmost();
-    const std::string name = front ? class_name(front) : "none";
+    const std::string name = front ? narrow(class_of(front)) : "none";
     ++seen_[name];
     log_ << to_line(action) << " # " << actions_ << ' ' << name;
     if (const HWND hit = WindowFromPoint(action.at); hit && action.at.x + action.at.y > 0)
-        log_ << ' ' << class_name(hit);
+        log_ << ' ' << narrow(class_of(hit));
     // At once, for it may be the last one.
     log_ << std::endl;
 }
@@ -193,7 +187,7 @@ void Soak::put_away(HWND window, const Scene& scene) {
     if (class_of(window) == L"frmSplash") {
         PostMessageW(window, WM_KEYDOWN, VK_SPACE, 0);
     } else if (class_of(window) == message_box_class) {
-        press_button(window);
+        answer_message(window, refusing_button(window));
     } else if (class_of(window) == main_screen_class) {
         // In front of the others, or behind as an icon.
         for (const HWND other : scene.windows()) {
@@ -230,7 +224,7 @@ void Soak::rest() {
     if (!put_away_windows()) {
         std::string classes;
         const Scene scene(program_.process().dwProcessId);
-        for (const HWND window : scene.windows()) classes.append(" ").append(class_name(window));
+        for (const HWND window : scene.windows()) classes.append(" ").append(narrow(class_of(window)));
         return fault("these windows do not go:" + classes);
     }
     if (!program_.running()) return;

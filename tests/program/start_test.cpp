@@ -107,24 +107,6 @@ TEST(Start, WithAQuestionShowsTheViewerWithItsAnswer) {
     EXPECT_TRUE(wait_until([&] { return program.find(L"frmSplash"); }));
 }
 
-TEST(Start, WithADatabaseOfOneGigabyte) {
-    Program program;
-    program.write_database(record("a", "Doom"));
-    std::filesystem::resize_file(program.database(), std::uintmax_t{1} << 30);
-    program.start();
-    ASSERT_TRUE(program.reach_viewer());
-    if (program.message().empty()) {
-        EXPECT_TRUE(wait_until([&] { return games_of(program.viewer()) == Games{L"Doom"}; }));
-    } else {
-        // Less memory than the file needs is no fault of the program.
-        EXPECT_EQ(program.message(), L"Error!: Out of memory");
-        ASSERT_TRUE(program.dismiss_message());
-    }
-    program.close();
-    EXPECT_EQ(program.exit_code(), 0U);
-    EXPECT_EQ(std::filesystem::file_size(program.database()), std::uintmax_t{1} << 30);
-}
-
 }  // namespace
 }  // namespace quillomat
 

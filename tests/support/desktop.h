@@ -51,6 +51,14 @@ inline std::wstring message_of(HWND box) {
     return text_of(text ? text : FindWindowExW(box, nullptr, L"Static", nullptr));
 }
 
+/// The button of a message box that agrees to nothing.
+inline int refusing_button(HWND box) {
+    for (const int button : {IDCANCEL, IDNO}) {
+        if (GetDlgItem(box, button)) return button;
+    }
+    return IDOK;
+}
+
 /// Answers a message box by the button with this identifier, as soon as its process handles messages.
 inline void answer_message(HWND box, int button) {
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(box, button)));
