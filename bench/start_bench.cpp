@@ -1,106 +1,46 @@
-// From process start to a window that is painted and answers, in turns with an empty window: start_bench FOLDER
-// FOLDER is where the database of the viewer lies.
+// From the start of a process until its first window is painted and answers: start_bench FOLDER, which holds a
+// database.
 
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <string>
-#include <vector>
 
-#include "measure.h"
+#include "bench.h"
 #include "win/api.h"
 
 namespace {
 
-double seconds() {
-    LARGE_INTEGER count{};
-    LARGE_INTEGER frequency{};
-    QueryPerformanceCounter(&count);
-    QueryPerformanceFrequency(&frequency);
-    return static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-class Program {
-  public:
-    Program(std::wstring command, const wchar_t* window_class) : started_(seconds()) {
-        STARTUPINFOW startup{};
-        startup.cb = sizeof startup;
-        if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                            &process_)) {
-            std::printf("cannot start %ls\n", command.c_str());
-            std::exit(1);
-        }
-        do {
-            Sleep(0);
-            window_ = FindWindowW(window_class, nullptr);
-        } while (!window_ || !IsWindowVisible(window_));
-        do {
-            SendMessageW(window_, WM_NULL, 0, 0);
-        } while (GetUpdateRect(window_, nullptr, FALSE));
-        shown_ = seconds();
-    }
-    ~Program() {
-        TerminateProcess(process_.hProcess, 0);
-        WaitForSingleObject(process_.hProcess, INFINITE);
-        CloseHandle(process_.hThread);
-        CloseHandle(process_.hProcess);
-    }
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-
-    double milliseconds_to_window() const { return (shown_ - started_) * 1000; }
-
-  private:
-    PROCESS_INFORMATION process_{};
-    HWND window_ = nullptr;
-    double started_;
-    double shown_ = 0;
-};
-
-/// What the first window of a program is compared with an empty one.
-struct Start {
-    std::string name;
-    std::wstring command;
-    const wchar_t* window_class;
-    double at_most_times;
-    std::vector<double> milliseconds;
-};
-
-std::wstring quoted(const std::filesystem::path& path) {
-    return L"\"" + path.wstring() + L"\"";
+void start(const std::wstring& command, const wchar_t* window_class, double& milliseconds) {
+    const auto begin = std::chrono::steady_clock::now();
+    STARTUPINFOW startup{};
+    PROCESS_INFORMATION process{};
+    std::wstring line = command;
+    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+        std::exit(1);
+    HWND window = nullptr;
+    do {
+        Sleep(0);
+        window = FindWindowW(window_class, nullptr);
+    } while (!window || !IsWindowVisible(window));
+    do {
+        SendMessageW(window, WM_NULL, 0, 0);
+    } while (GetUpdateRect(window, nullptr, FALSE));
+    milliseconds = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+    TerminateProcess(process.hProcess, 0);
+    WaitForSingleObject(process.hProcess, INFINITE);
 }
 
 }  // namespace
 
-int wmain(int count, wchar_t** arguments) {
-    if (count != 2) {
-        std::printf("usage: start_bench FOLDER\n");
-        return 2;
+int wmain(int, wchar_t** arguments) {
+    const std::filesystem::path here = std::filesystem::path(_wpgmptr).parent_path();
+    const std::wstring viewer = (here / L"open_window.exe").wstring() + L" viewer " + arguments[1];
+    std::vector<double> times[3]{};
+    for (int round = 0; round < 41; ++round) {
+        start((here / L"empty_window.exe").wstring(), L"EmptyWindow", times[0].emplace_back());
+        start((here.parent_path() / L"src" / L"Quillomat.exe").wstring(), L"frmSplash", times[1].emplace_back());
+        start(viewer, L"frmCtlView", times[2].emplace_back());
     }
-    wchar_t own_path[MAX_PATH]{};
-    GetModuleFileNameW(nullptr, own_path, MAX_PATH);
-    const std::filesystem::path folder = std::filesystem::path(own_path).parent_path();
-    const std::wstring empty_window = quoted(folder / L"empty_window.exe");
-    Start starts[] = {
-        {"start to splash", quoted(folder.parent_path() / L"src" / L"Quillomat.exe"), L"frmSplash", 1.2, {}},
-        {"start to viewer with its games",
-         quoted(folder / L"open_window.exe") + L" viewer " + quoted(arguments[1]),
-         L"frmCtlView",
-         1.5,
-         {}},
-    };
-    constexpr int rounds = 41;
-    std::vector<double> empty;
-    for (int round = 0; round < rounds; ++round) {
-        empty.push_back(Program(empty_window, L"EmptyWindow").milliseconds_to_window());
-        for (Start& start : starts) {
-            start.milliseconds.push_back(Program(start.command, start.window_class).milliseconds_to_window());
-        }
-    }
-    using namespace quillomat::bench;
-    for (const Start& start : starts) {
-        print({start.name, median(start.milliseconds), "ms", "empty window", median(empty),
-               start.at_most_times * median(empty)});
-    }
+    const double empty = quillomat::bench::median(times[0]);
+    quillomat::bench::print("start to splash", quillomat::bench::median(times[1]), "ms", "empty window", empty, 1.2);
+    quillomat::bench::print("start to viewer", quillomat::bench::median(times[2]), "ms", "empty window", empty, 1.75);
     return 0;
 }

@@ -7,7 +7,6 @@
 #include "common/pointer.h"
 #include "common/settings.h"
 #include "database/catalogue.h"
-#include "database/search_texts.h"
 #include "text/find_in_text.h"
 #include "win/installed_fonts.h"
 #include "win/printer.h"
@@ -33,8 +32,7 @@ struct Session {
     Settings settings;
     std::int16_t StartUpTimes = 0;  ///< runs of the program by this user, this one included
     TextFileSlot text_file;
-    Catalogue catalogue;
-    SearchTexts search_texts{catalogue, upper_case};
+    Catalogue catalogue{upper_case};
     PointerState pointer;
     std::function<ScreenFonts()> screen_fonts = installed_fonts;
     ViewerState viewer;

@@ -1,75 +1,69 @@
 #include "database/catalogue.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <type_traits>
 #include <utility>
 
 #include "database/record.h"
 #include "text/error.h"
+#include "text/keyword_search.h"
 #include "text/line_end.h"
 
 namespace quillomat {
 namespace {
 
-/// As wide as a character, so that the compiler tests as many characters at once as fit into a vector register.
-using CharacterMask = std::conditional_t<sizeof(wchar_t) == 2, std::uint16_t, std::uint32_t>;
+/// A line without its end.
+struct Line {
+    std::wstring_view text{};
+    bool has_lone_return = false;  ///< ended by a CR without LF
+};
 
-bool is_lone_carriage_return(std::wstring_view text, std::size_t position) {
-    return text[position] == L'\r' && (position + 1 == text.size() || text[position + 1] != L'\n');
+/// Removes the first line from a text.
+Line take_line(std::wstring_view& text) {
+    Line line{.text = text.substr(0, text.find(L'\r'))};
+    text.remove_prefix(line.text.size());
+    line.has_lone_return = !text.empty() && !text.starts_with(line_end);
+    text.remove_prefix(std::min(text.size(), line.has_lone_return ? 1 : line_end.size()));
+    return line;
 }
 
-bool has_lone_carriage_return(std::wstring_view text) {
-    constexpr std::size_t block_size = 4096;
-    std::size_t position = 0;
-    for (; text.size() - position > block_size; position += block_size) {
-        // No branch for a single character: a whole block costs a few hundred vector instructions.
-        const wchar_t* block = text.data() + position;
-        CharacterMask lone = 0;
-        for (std::size_t i = 0; i < block_size; ++i) {
-            lone |= static_cast<CharacterMask>((block[i] == L'\r') & (block[i + 1] != L'\n'));
+bool is_name_line(std::wstring_view line) {
+    return line.starts_with(record_marker_character) &&
+           std::min(line.find_first_not_of(record_marker_character), line.size()) >= record_marker_length;
+}
+
+/// The lines of a game and the name line that closes them, which is empty at the end of the text.
+struct Record {
+    std::wstring_view lines{};
+    bool has_lone_returns = false;
+    std::wstring_view name_line{};
+};
+
+/// Removes the first record from a text.
+Record take_record(std::wstring_view& text) {
+    Record record{.lines = text};
+    while (!text.empty()) {
+        const std::size_t length = record.lines.size() - text.size();
+        const Line line = take_line(text);
+        if (is_name_line(line.text)) {
+            record.lines = record.lines.substr(0, length);
+            record.name_line = line.text;
+            break;
         }
-        if (lone != 0) return true;
+        record.has_lone_returns |= line.has_lone_return;
     }
-    for (; position < text.size(); ++position) {
-        if (is_lone_carriage_return(text, position)) return true;
-    }
-    return false;
+    return record;
 }
 
-/// The text with every lone CR made a CR LF. Files of this program have none, so the text usually comes back as it is.
-DecodedText with_whole_line_ends(DecodedText text) {
-    const std::wstring_view old = text.view();
-    if (!has_lone_carriage_return(old)) return text;
-
-    std::size_t lone_count = 0;
-    for (std::size_t i = 0; i < old.size(); ++i) lone_count += is_lone_carriage_return(old, i) ? 1 : 0;
-
-    DecodedText whole;
-    whole.characters = std::make_unique_for_overwrite<wchar_t[]>(old.size() + lone_count);
-    for (std::size_t i = 0; i < old.size(); ++i) {
-        whole.characters[whole.length++] = old[i];
-        if (is_lone_carriage_return(old, i)) whole.characters[whole.length++] = L'\n';
+/// The lines with every CR made a CR LF.
+std::wstring with_whole_line_ends(std::wstring_view lines) {
+    std::wstring whole;
+    while (!lines.empty()) {
+        const std::size_t old_length = lines.size();
+        const std::wstring_view line = take_line(lines).text;
+        whole += line;
+        if (line.size() < old_length) whole += line_end;
     }
     return whole;
-}
-
-bool starts_line(std::wstring_view text, std::size_t position) {
-    return position == 0 || text.substr(0, position).ends_with(line_end);
-}
-
-/// The position of the first name line in a text that begins with a line, or its length when there is none.
-std::size_t find_name_line(std::wstring_view text) {
-    // A run as long as the marker holds a character of every such stride, so nothing between two probes is looked at.
-    for (std::size_t probe = record_marker_length - 1; probe < text.size(); probe += record_marker_length) {
-        if (text[probe] != record_marker_character) continue;
-        std::size_t start = probe;
-        while (start > 0 && text[start - 1] == record_marker_character) --start;
-        const std::size_t end = std::min(text.find_first_not_of(record_marker_character, probe), text.size());
-        if (end - start >= record_marker_length && starts_line(text, start)) return start;
-        probe = end;
-    }
-    return text.size();
 }
 
 /// The lines of a record joined: empty lines at the beginning are dropped, and the line end of the last one.
@@ -85,26 +79,26 @@ void check_number(int number) {
 
 }  // namespace
 
-void Catalogue::load(DecodedText text, const ListName& list_name) {
+void Catalogue::load(std::wstring text, const ListName& list_name) {
     names_.assign(slot_count, {});
     cheats_.assign(slot_count, {});
-    added_.clear();
-    text_ = with_whole_line_ends(std::move(text));
+    own_games_.clear();
+    upper_cased_ = {};
+    text_ = std::move(text);
 
-    std::wstring_view rest = text_.view();
+    std::wstring_view rest = text_;
     for (int number = 0; !rest.empty(); ++number) {
         check_number(number);
-        const std::size_t name_line_start = find_name_line(rest);
-        cheats_[number] = joined_lines(rest.substr(0, name_line_start));
-        rest.remove_prefix(name_line_start);
-        if (rest.empty()) return;
-
-        const std::wstring_view name_line = rest.substr(0, rest.find(L'\r'));
+        const Record record = take_record(rest);
+        cheats_[number] = joined_lines(record.lines);
+        if (record.has_lone_returns) {
+            cheats_[number] = own_games_[number].cheats = joined_lines(with_whole_line_ends(record.lines));
+        }
+        if (record.name_line.empty()) return;
         // The separator is missing altogether, so there is nothing a name could stand behind.
-        if (name_line.size() == record_marker_length) throw Error(ErrorCode::InvalidArgument);
-        names_[number] = name_line.substr(record_marker_length + 1);
+        if (record.name_line.size() == record_marker_length) throw Error(ErrorCode::InvalidArgument);
+        names_[number] = record.name_line.substr(record_marker_length + 1);
         list_name(names_[number]);
-        rest.remove_prefix(std::min(name_line.size() + line_end.size(), rest.size()));
     }
 }
 
@@ -124,9 +118,32 @@ std::wstring_view Catalogue::cheats(int number) const {
 
 void Catalogue::store(int number, std::wstring name, std::wstring cheats) {
     check_number(number);
-    const Game& game = added_[number] = Game{std::move(name), std::move(cheats)};
+    const Game& game = own_games_[number] = Game{std::move(name), std::move(cheats)};
     names_[number] = game.name;
     cheats_[number] = game.cheats;
+    for (auto& texts : upper_cased_) {
+        if (!texts.empty()) texts[number].clear();
+    }
+}
+
+void Catalogue::search(SearchScope scope, std::wstring_view keyword, int game_count,
+                       const std::function<void(int number)>& on_match) {
+    for (int number = 0; number < game_count; ++number) {
+        if (occurs_in(upper_cased(scope, number), keyword)) on_match(number);
+    }
+}
+
+std::wstring_view Catalogue::upper_cased(SearchScope scope, int number) {
+    check_number(number);
+    std::vector<std::wstring>& texts = upper_cased_[static_cast<std::size_t>(scope)];
+    texts.resize(slot_count);
+    if (texts[number].empty()) {
+        std::wstring text(line_end);
+        text += scope == SearchScope::Names ? names_[number] : cheats_[number];
+        upper_case_(text.data(), text.size());
+        texts[number] = std::move(text);
+    }
+    return texts[number];
 }
 
 }  // namespace quillomat

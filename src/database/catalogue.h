@@ -1,37 +1,33 @@
 #pragma once
 
-#include <cstddef>
+#include <array>
 #include <functional>
 #include <map>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "text/letter_case.h"
+
 namespace quillomat {
 
-/// The decoded characters of a whole file. Not a string, because a string would fill its memory once more before the
-/// decoder does.
-struct DecodedText {
-    std::unique_ptr<wchar_t[]> characters;
-    std::size_t length = 0;
-
-    std::wstring_view view() const { return {characters.get(), length}; }
-};
+/// What of the games is searched.
+enum class SearchScope { Names, Cheats };
 
 /// The games and their cheat texts: two parallel tables of `slot_count` slots. Slot k of both is game number k, which
 /// is also the game's place in the list a player sees.
 ///
-/// A loaded database is kept as one block of text that the slots point into, so that it costs no more memory than its
+/// A loaded database is kept as one text that the slots point into, so that it takes no more memory than its
 /// characters; only a game added later owns its strings.
 class Catalogue {
   public:
     static constexpr int slot_count = 2501;
 
-    /// Told of each game name as it is listed, in order.
+    /// Called with the name of each game as it is listed, in order.
     using ListName = std::function<void(std::wstring_view name)>;
 
-    Catalogue() = default;
+    /// `upper_case` makes the texts that are searched.
+    explicit Catalogue(UpperCase upper_case) : upper_case_(upper_case) {}
     Catalogue(const Catalogue&) = delete;
     Catalogue& operator=(const Catalogue&) = delete;
 
@@ -42,7 +38,7 @@ class Catalogue {
     /// Whatever was held before is forgotten first.
     /// Throws `Error` with SubscriptOutOfRange for anything behind the last slot's name line, and with InvalidArgument
     /// for a name line of exactly 20 characters; what was read before it stays in the tables and listed.
-    void load(DecodedText text, const ListName& list_name);
+    void load(std::wstring text, const ListName& list_name);
 
     /// Lists the names held already, up to the first empty one. Throws `Error` with SubscriptOutOfRange, after listing
     /// them, when all slots are taken.
@@ -56,17 +52,29 @@ class Catalogue {
     /// Puts a game into slot `number`, over whatever was there. Throws as `name` does, before anything is changed.
     void store(int number, std::wstring name, std::wstring cheats);
 
+    /// Calls `on_match`, in order, with the number of each game below `game_count` whose upper-cased name or cheats,
+    /// after a line end, contain `keyword`, which must be in upper case already. An empty keyword matches every game.
+    /// Throws as `name` does if `game_count` is beyond the slots.
+    void search(SearchScope scope, std::wstring_view keyword, int game_count,
+                const std::function<void(int number)>& on_match);
+
   private:
     struct Game {
         std::wstring name;
         std::wstring cheats;
     };
 
-    // Both tables only point: into the loaded text, or at a game of `added_`, whose strings stay where they are.
+    std::wstring_view upper_cased(SearchScope scope, int number);
+
+    UpperCase upper_case_;
+    std::wstring text_;
+    /// Games that own their strings: those added, and loaded ones whose text has lone CRs.
+    std::map<int, Game> own_games_;
+    // Both tables only point: into the loaded text, or at a game of `own_games_`, whose strings stay where they are.
     std::vector<std::wstring_view> names_ = std::vector<std::wstring_view>(slot_count);
     std::vector<std::wstring_view> cheats_ = std::vector<std::wstring_view>(slot_count);
-    DecodedText text_;
-    std::map<int, Game> added_;
+    /// By scope and number, the text that is searched; empty until it is needed, and again when the game changes.
+    std::array<std::vector<std::wstring>, 2> upper_cased_;
 };
 
 }  // namespace quillomat

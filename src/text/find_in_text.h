@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "text/letter_case.h"
+
 namespace quillomat {
 
 /// What is looked for and where the search stands. It outlives the dialog that asks for it.
@@ -15,9 +17,6 @@ struct FindState {
     std::size_t gCurPos = 0;      ///< where the caret was after the last step
     bool gFirstTime = false;      ///< what to look for has changed since the last step
 };
-
-/// Converts characters to upper case where they stand; their number stays the same.
-using UpperCase = void (*)(wchar_t* characters, std::size_t length);
 
 /// One step of a search from the caret: the position of the next place that holds what is looked for, or nothing.
 ///

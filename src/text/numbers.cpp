@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "text/error.h"
+#include "text/letter_case.h"
 
 namespace quillomat {
 namespace {
@@ -68,11 +69,8 @@ std::optional<Integer> to_integer(std::wstring_view text) {
     return static_cast<Integer>(value);
 }
 
-bool equals_ignoring_case(std::wstring_view text, std::wstring_view lower_case_word) {
-    const auto same = [](wchar_t character, wchar_t lower_case) {
-        return character == lower_case || character == lower_case - L'a' + L'A';
-    };
-    return std::equal(text.begin(), text.end(), lower_case_word.begin(), lower_case_word.end(), same);
+bool equals_ignoring_case(std::wstring_view text, std::wstring_view upper_case_word) {
+    return std::ranges::equal(text, upper_case_word, {}, ascii_upper_case);
 }
 
 }  // namespace
@@ -87,8 +85,8 @@ std::optional<std::int32_t> to_int32(std::wstring_view text) {
 
 std::optional<bool> to_boolean(std::wstring_view text) {
     text = without_surrounding_blanks(text);
-    if (equals_ignoring_case(text, L"true")) return true;
-    if (equals_ignoring_case(text, L"false")) return false;
+    if (equals_ignoring_case(text, L"TRUE")) return true;
+    if (equals_ignoring_case(text, L"FALSE")) return false;
     return std::nullopt;
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/letter_case.h"
+
 namespace quillomat {
 namespace {
 
@@ -15,10 +17,6 @@ std::size_t root_length(std::wstring_view path) {
         if (end != std::wstring_view::npos) end = path.find(separator, end + 1);
     }
     return end == std::wstring_view::npos ? path.size() : end + 1;
-}
-
-wchar_t lower_case(wchar_t letter) {
-    return letter >= L'A' && letter <= L'Z' ? static_cast<wchar_t>(letter - L'A' + L'a') : letter;
 }
 
 }  // namespace
@@ -45,7 +43,7 @@ std::wstring path_in(std::wstring_view folder, std::wstring_view name) {
 bool has_extension(std::wstring_view name, std::wstring_view extension) {
     return name.size() >= extension.size() &&
            std::equal(extension.begin(), extension.end(), name.end() - static_cast<std::ptrdiff_t>(extension.size()),
-                      [](wchar_t a, wchar_t b) { return lower_case(a) == lower_case(b); });
+                      [](wchar_t a, wchar_t b) { return ascii_upper_case(a) == ascii_upper_case(b); });
 }
 
 }  // namespace quillomat

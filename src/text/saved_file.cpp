@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "text/letter_case.h"
+
 namespace quillomat {
 namespace {
 
@@ -20,10 +22,8 @@ std::wstring without_colons(std::wstring_view text) {
 }
 
 std::wstring upper_case(std::wstring_view text) {
-    std::wstring result(text);
-    for (wchar_t& letter : result) {
-        if (letter >= L'a' && letter <= L'z') letter = static_cast<wchar_t>(letter - L'a' + L'A');
-    }
+    std::wstring result(text.size(), L' ');
+    std::ranges::transform(text, result.begin(), ascii_upper_case);
     return result;
 }
 

@@ -35,10 +35,10 @@ void frmCtlView::list_cached_fonts() {
     const std::wstring path = fonts_file();
     if (!file_exists(path)) return;
     session_.text_file.open_for_reading(path);
-    const DecodedText text = session_.text_file.read_all();
+    const std::wstring text = session_.text_file.read_all();
     session_.text_file.close();
     menus.remove_fonts();
-    for (const std::wstring& name : font_names(text.view())) menus.add_font(name);
+    for (const std::wstring& name : font_names(text)) menus.add_font(name);
 }
 
 std::wstring frmCtlView::fonts_file() const {

@@ -55,9 +55,9 @@ void frmCtlView::Command1_Click() {
         session_.viewer.search_keyword = upper_cased(Text3.text());
         const ListBox::Filling filling(List1);
         List1.clear();
-        session_.search_texts.find(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
-                                   session_.viewer.search_keyword, session_.viewer.game_count,
-                                   [this](int number) { List1.add(session_.catalogue.name(number)); });
+        session_.catalogue.search(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
+                                  session_.viewer.search_keyword, session_.viewer.game_count,
+                                  [this](int number) { List1.add(session_.catalogue.name(number)); });
         // For all hits at once: nothing is painted between two of them, and telling the system of each took longer than
         // the search.
         if (List1.count() > 0) Line1.invalidate();

@@ -1,11 +1,8 @@
 #include "win/code_page.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <iterator>
 #include <limits>
-#include <memory>
-#include <utility>
 
 #include "win/errors.h"
 
@@ -14,18 +11,8 @@ namespace {
 
 static_assert(system_code_page == CP_ACP);
 
-/// Bytes that are decoded in one call: so few that the processor still has them at hand, and the system can count them.
-constexpr std::size_t block_size = std::size_t{1} << 18;
 /// Characters whose bytes can surely be counted in an int.
 constexpr std::size_t most_encoded = std::numeric_limits<int>::max() / 4;
-
-/// How many bytes at the beginning can be decoded on their own without cutting a character in two.
-std::size_t whole_characters(std::string_view bytes) {
-    // Line ends, blanks and all others before the digits are no part of a longer character in any code page. Where none
-    // of them comes for so long it is no text, and there is no harm in cutting anywhere.
-    const auto last = std::find_if(bytes.rbegin(), bytes.rend(), [](char byte) { return byte >= '\0' && byte < '0'; });
-    return last == bytes.rend() ? bytes.size() : static_cast<std::size_t>(bytes.rend() - last);
-}
 
 bool holds_every_character(unsigned code_page) {
     constexpr unsigned gb_18030 = 54936;
@@ -80,33 +67,15 @@ void refuse_first_lacking(std::wstring_view text, unsigned code_page) {
 
 }  // namespace
 
-// No code page has more characters than bytes, so there is no pass for counting them first.
-Decoder::Decoder(std::size_t most_bytes, unsigned code_page)
-    : code_page_(code_page), text_{std::make_unique_for_overwrite<wchar_t[]>(most_bytes)} {}
-
-void Decoder::decode(std::string_view bytes) {
-    if (bytes.empty()) return;
+std::wstring decode(std::string_view bytes, unsigned code_page) {
+    if (bytes.empty()) return {};
+    // No code page has more characters than bytes, so there is no pass to count them first.
+    std::wstring text(bytes.size(), L'\0');
     const auto length = static_cast<int>(bytes.size());
-    const int decoded =
-        MultiByteToWideChar(code_page_, 0, bytes.data(), length, text_.characters.get() + text_.length, length);
+    const int decoded = MultiByteToWideChar(code_page, 0, bytes.data(), length, text.data(), length);
     if (decoded == 0) throw_last_error();
-    text_.length += static_cast<std::size_t>(decoded);
-}
-
-std::size_t Decoder::add(std::string_view bytes) {
-    const std::size_t length = whole_characters(bytes.substr(0, block_size));
-    decode(bytes.substr(0, length));
-    return length;
-}
-
-DecodedText Decoder::finish(std::string_view bytes) {
-    while (bytes.size() > block_size) bytes.remove_prefix(add(bytes));
-    decode(bytes);
-    return std::move(text_);
-}
-
-DecodedText decode(std::string_view bytes, unsigned code_page) {
-    return Decoder(bytes.size(), code_page).finish(bytes);
+    text.resize(static_cast<std::size_t>(decoded));
+    return text;
 }
 
 std::string encode(std::wstring_view text, unsigned code_page) {

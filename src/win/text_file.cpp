@@ -1,6 +1,5 @@
 #include "win/text_file.h"
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <new>
@@ -13,9 +12,6 @@ namespace {
 
 /// Bytes of the largest file that is read. No text is larger, and its characters take twice as much memory.
 constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
-
-/// Bytes that are read at once.
-constexpr DWORD block_size = 1 << 18;
 
 LONGLONG size_of(HANDLE file) {
     LARGE_INTEGER size{};
@@ -136,28 +132,13 @@ void TextFileSlot::open_for_reading(const std::wstring& path) {
     open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
 }
 
-DecodedText TextFileSlot::read_all() try {
-    const LONGLONG file_size = size_of(file_.get());
-    if (file_size > largest_file) {
-        throw Error(ErrorCode::OutOfMemory, L"The file is too large: at most 2 GB can be read");
-    }
-    auto left = static_cast<std::size_t>(file_size);
-    Decoder decoder(left);
-    // A block at a time: the whole file in memory beside its text would cost more time than decoding it.
-    const auto block = std::make_unique_for_overwrite<char[]>(block_size);
-    std::size_t length = 0;  // of what is in the block
-    for (;;) {
-        DWORD read = 0;
-        const auto wanted = static_cast<DWORD>(std::min<std::size_t>(left, block_size - length));
-        if (!ReadFile(file_.get(), block.get() + length, wanted, &read, nullptr)) throw_last_error();
-        length += read;
-        left -= read;
-        // The file has come to its end, or another program has shortened it.
-        if (left == 0 || read == 0) return decoder.finish({block.get(), length});
-        const std::size_t decoded = decoder.add({block.get(), length});
-        std::copy(block.get() + decoded, block.get() + length, block.get());
-        length -= decoded;
-    }
+std::wstring TextFileSlot::read_all() try {
+    const LONGLONG size = size_of(file_.get());
+    if (size > largest_file) throw Error(ErrorCode::OutOfMemory, L"The file is too large: at most 2 GB can be read");
+    const auto bytes = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(size));
+    DWORD read = 0;
+    if (!ReadFile(file_.get(), bytes.get(), static_cast<DWORD>(size), &read, nullptr)) throw_last_error();
+    return decode({bytes.get(), read});
 } catch (const std::bad_alloc&) {
     throw Error(ErrorCode::OutOfMemory);
 }

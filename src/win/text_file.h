@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "database/catalogue.h"
 #include "win/handle.h"
 
 namespace quillomat {
@@ -22,7 +21,7 @@ class TextFileSlot {
     /// PermissionDenied, ...).
     void open_for_reading(const std::wstring& path);
     /// The whole file that is open. Throws `Error`, OutOfMemory for one of 2 GB and more, and leaves the slot open.
-    DecodedText read_all();
+    std::wstring read_all();
     void close() { file_.close(); }
 
     /// Appends a text to a file, which is created if there is none. Exactly the text's bytes are written, in place, in

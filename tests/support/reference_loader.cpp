@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "support/decoded_text.h"
 #include "text/error.h"
 
 namespace quillomat {
@@ -43,7 +42,7 @@ std::optional<std::string> difference_from_reference(std::wstring_view text, Cat
     Loaded expected = load_by_lines(text);
     Loaded actual;
     try {
-        catalogue.load(decoded(text), [&](std::wstring_view name) { actual.names.emplace_back(name); });
+        catalogue.load(std::wstring(text), [&](std::wstring_view name) { actual.names.emplace_back(name); });
     } catch (const Error& error) {
         actual.error = error.code();
     }

@@ -6,8 +6,6 @@
 
 #include "database/catalogue.h"
 #include "database/record.h"
-#include "database/search_texts.h"
-#include "support/decoded_text.h"
 #include "support/upper_case.h"
 #include "text/error.h"
 #include "text/find_in_text.h"
@@ -22,18 +20,17 @@ struct Library {
     explicit Library(const std::vector<Game>& games) {
         std::wstring text;
         for (const auto& [name, cheats] : games) text += record_text(name, cheats);
-        catalogue.load(decoded(text), [](std::wstring_view) {});
+        catalogue.load(text, [](std::wstring_view) {});
         count = static_cast<int>(games.size());
     }
 
     std::vector<int> find(SearchScope scope, std::wstring_view keyword) {
         std::vector<int> found;
-        texts.find(scope, keyword, count, [&](int number) { found.push_back(number); });
+        catalogue.search(scope, keyword, count, [&](int number) { found.push_back(number); });
         return found;
     }
 
-    Catalogue catalogue;
-    SearchTexts texts{catalogue, upper_case};
+    Catalogue catalogue{upper_case};
     int count = 0;
 };
 
@@ -59,15 +56,17 @@ TEST(Search, FindsNamesAndCheatsInCatalogueOrder) {
     }
 }
 
-TEST(Search, LooksAtTheGamesCountedAndAtThoseAddedSinceTheLastSearch) {
+TEST(Search, LooksAtTheGamesAsTheyAreNow) {
     Library library({{L"one", L"same"}, {L"two", L"same"}});
     EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), (Numbers{0, 1}));
     library.count = 1;
     EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), Numbers{0});
-    library.count = 2;
-    for (const wchar_t* name : {L"three", L"two again"}) library.catalogue.store(library.count++, name, L"same");
-    EXPECT_EQ(library.find(SearchScope::Names, L"TWO"), (Numbers{1, 3}));
-    EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), (Numbers{0, 1, 2, 3}));
+    for (const wchar_t* name : {L"again two", L"three"}) library.catalogue.store(library.count++, name, L"new");
+    EXPECT_EQ(library.find(SearchScope::Names, L"TWO"), Numbers{1});
+    EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), Numbers{0});
+    EXPECT_EQ(library.find(SearchScope::Cheats, L"NEW"), (Numbers{1, 2}));
+    library.catalogue.load(L"other\r\n$$$$$$$$$$$$$$$$$$$$ one", [](std::wstring_view) {});
+    EXPECT_EQ(library.find(SearchScope::Cheats, L"SAME"), Numbers{});
     library.count = 2502;
     EXPECT_THROW(library.find(SearchScope::Cheats, L"SAME"), Error);
 }

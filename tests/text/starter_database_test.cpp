@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "database/catalogue.h"
-#include "support/decoded_text.h"
 #include "support/files.h"
 #include "support/upper_case.h"
 #include "text/error.h"
@@ -26,7 +25,7 @@ std::size_t count_of(const std::string& text, const std::string& part) {
 TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
     const std::string bytes = bytes_of(QUILLOMAT_STARTER_DATABASE);
     std::vector<std::wstring> names;
-    Catalogue catalogue;
+    Catalogue catalogue{upper_case};
     catalogue.load(widened(bytes), [&](std::wstring_view name) { names.emplace_back(name); });
     EXPECT_GE(names.size(), 400U);
     EXPECT_EQ(names.size(), count_of("\r\n" + bytes, "\r\n$$$$$$$$$$$$$$$$$$$$ "));

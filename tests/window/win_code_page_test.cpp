@@ -14,39 +14,25 @@ constexpr unsigned western = 1252;
 constexpr unsigned japanese = 932;
 constexpr unsigned utf_8 = 65001;
 
-std::wstring decoded(std::string_view bytes, unsigned code_page) {
-    return std::wstring(decode(bytes, code_page).view());
-}
-
 TEST(CodePage, TextsComeBackInEveryKindOfCodePage) {
     std::string bytes;
     for (int byte = 0; byte < 256; ++byte) bytes.push_back(static_cast<char>(byte));
-    EXPECT_EQ(decoded(bytes, western)[0x80], L'\u20AC');
-    EXPECT_EQ(encode(decoded(bytes, western), western), bytes);
+    EXPECT_EQ(decode(bytes, western)[0x80], L'\u20AC');
+    EXPECT_EQ(encode(decode(bytes, western), western), bytes);
     const std::pair<unsigned, const wchar_t*> cases[] = {
         {japanese, L"\u65E5\u672C ABC"},
         {utf_8, L"Pok\u00E9mon \u65E5 \U0001F600"},
         {system_code_page, L"Level 1: $$$ ~\\?\t\r\n"},
         {western, L""},
     };
-    for (const auto& [code_page, text] : cases) EXPECT_EQ(decoded(encode(text, code_page), code_page), text);
-}
-
-TEST(CodePage, NoCharacterIsCutWhereABlockEnds) {
-    for (const unsigned code_page : {japanese, utf_8}) {
-        // The blocks end at another byte of a character in every line.
-        std::wstring text;
-        while (text.size() < 1'000'000) text += L"\u65E5\u672C\u8A9E \u65E5\u672C\u8A9E!\r\n";
-        const std::string bytes = encode(text, code_page);
-        EXPECT_TRUE(decoded(bytes, code_page) == text) << code_page;
-    }
+    for (const auto& [code_page, text] : cases) EXPECT_EQ(decode(encode(text, code_page), code_page), text);
 }
 
 TEST(CodePage, BytesThatMeanNothingStillDecode) {
     const std::pair<unsigned, std::string_view> cases[] = {
         {japanese, "\x81"}, {japanese, "a\xFD\xFE\xFFz"}, {utf_8, "\xFF\xC3"}, {utf_8, "a\xED\xA0\x80\xF0\x9F"}};
     for (const auto& [code_page, bytes] : cases) {
-        const std::wstring text = decoded(bytes, code_page);
+        const std::wstring text = decode(bytes, code_page);
         EXPECT_TRUE(!text.empty() && text.size() <= bytes.size());
         EXPECT_EQ(text[0] == L'a', bytes[0] == 'a');
     }

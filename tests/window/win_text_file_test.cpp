@@ -58,7 +58,7 @@ TEST_F(TextFile, ReadsTheWholeFileAndKeepsNobodyFromWriting) {
     const std::string line(100'000, 'x');
     const std::wstring file = make(L"a.txt", line + "\r\n\0end"s);
     slot_.open_for_reading(file);
-    EXPECT_EQ(slot_.read_all().view(), std::wstring(100'000, L'x') + L"\r\n\0end"s);
+    EXPECT_EQ(slot_.read_all(), std::wstring(100'000, L'x') + L"\r\n\0end"s);
     folder_.write(L"a.txt", "new");
     EXPECT_EQ(folder_.read(file), "new");
     // Only the one slot is taken, not the file.
@@ -92,7 +92,7 @@ TEST_F(TextFile, AppendingWritesInPlaceAndReplacingDoesNot) {
         slot_.replace(file, text);
         EXPECT_EQ(folder_.read(file), std::string(text, text + std::wcslen(text)));
     }
-    EXPECT_EQ(reader.read_all().view(), L"no line end here\r\nlast\r\n") << "never half of the old and half of the new";
+    EXPECT_EQ(reader.read_all(), L"no line end here\r\nlast\r\n") << "never half of the old and half of the new";
 }
 
 TEST_P(TextFileWriting, MakesItsFileAndTouchesNoOther) {
