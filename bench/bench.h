@@ -11,7 +11,6 @@
 namespace quillomat::bench {
 
 constexpr int game_count = 2501;
-
 /// A database of `game_count` games and about `bytes` bytes, made of everyday words. Of the first 2460 games, 2368 hold
 /// the word "level".
 inline std::string database(std::size_t bytes) {
@@ -35,15 +34,10 @@ inline std::string database(std::size_t bytes) {
     return text;
 }
 
-inline double median(std::vector<double> values) {
-    std::ranges::nth_element(values, values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2));
-    return values[values.size() / 2];
-}
-
 /// The median milliseconds of actions that take turns, so that whatever else the machine does hits all alike.
 inline std::vector<double> medians(const std::vector<std::function<void()>>& actions) {
     constexpr int rounds = 31;
-    std::vector<std::vector<double>> times(actions.size());
+    std::vector times(actions.size(), std::vector<double>());
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t index = 0; index < actions.size(); ++index) {
             const auto start = std::chrono::steady_clock::now();
@@ -53,7 +47,10 @@ inline std::vector<double> medians(const std::vector<std::function<void()>>& act
         }
     }
     std::vector<double> result;
-    for (const auto& time : times) result.push_back(median(time));
+    for (auto& time : times) {
+        std::ranges::nth_element(time, time.begin() + rounds / 2);
+        result.push_back(time[rounds / 2]);
+    }
     return result;
 }
 
@@ -62,7 +59,6 @@ inline void print(const std::string& figure, double value, const char* unit, con
                   double at_most) {
     std::printf("%s\t%.3g %s\t%s\t%.3g %s\t%.3f\t%g\n", figure.c_str(), value, unit, baseline_name, baseline, unit,
                 value / baseline, at_most);
-    std::fflush(stdout);
 }
 
 }  // namespace quillomat::bench

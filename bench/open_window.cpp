@@ -1,7 +1,7 @@
-// One of the program's windows as the first one, to be looked at from outside: open_window WINDOW FOLDER
-// FOLDER holds the database. Prints a line when the window is shown.
+// Opens one of the program's windows and prints a line when it is shown: open_window WINDOW FOLDER_OF_THE_DATABASE
 
 #include <cstdio>
+#include <memory>
 
 #include "common/session.h"
 #include "forms/application.h"
@@ -17,10 +17,10 @@ int wmain(int, wchar_t** arguments) {
     session.program_folder = arguments[2];
     session.settings = Settings(L"QuillomatBench");
     Windows windows(application, session);
-    frmAbout about(application, session.pointer, 10);
-    Dialog1 author(application, session.pointer);
-    if (name == L"about") about.show();
-    if (name == L"author") author.show();
+    std::unique_ptr<Form> dialog;
+    if (name == L"about") dialog = std::make_unique<frmAbout>(application, session.pointer, 10);
+    if (name == L"author") dialog = std::make_unique<Dialog1>(application, session.pointer);
+    if (dialog) dialog->show();
     if (name == L"viewer") windows.open_viewer();
     if (name == L"main") windows.open_main_screen();
     if (name == L"splash") windows.open_splash();

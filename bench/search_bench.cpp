@@ -1,5 +1,5 @@
-// The search natively: search_bench GREP_MILLISECONDS, where that is what `grep -i` takes for the database.
-//   search_bench database BYTES    writes the database instead
+// The search natively: search_bench GREP_MILLISECONDS, where that is what `grep -i` takes for the database, which
+// search_bench database BYTES writes.
 
 #include <cstring>
 #include <iostream>
@@ -23,18 +23,15 @@ int main(int count, char** arguments) {
         catalogue.search(SearchScope::Cheats, keyword, bench::game_count, [&](int number) { checksum += number; });
     };
     search(L"");  // the first search makes the texts
-    double worst = 0;
-    double pass = 0;
+    std::vector<double> worst{0, 1};
     // No character has this byte, so the pass goes to the end.
     const auto scan = [&] { checksum += std::memchr(all.data(), 0x7F, all.size() * sizeof(wchar_t)) == nullptr; };
     for (const wchar_t* keyword : {L"ZQX", L"#", L"ES T", L"THE LEVELS", L"ETERNAL", L"E#", L"HOLD ALL THE MONEYS"}) {
         const auto times = bench::medians({[&] { search(keyword); }, scan});
-        if (times[0] < worst) continue;
-        worst = times[0];
-        pass = times[1];
+        if (times[0] > worst[0]) worst = times;
     }
-    bench::print("search 3 MB, worst keyword", worst, "ms", "memchr", pass, 5);
-    bench::print("search 3 MB, worst keyword", worst, "ms", "grep -i", std::stod(arguments[1]), 1);
+    bench::print("search 3 MB, worst keyword", worst[0], "ms", "memchr", worst[1], 5);
+    bench::print("search 3 MB, worst keyword", worst[0], "ms", "grep -i", std::stod(arguments[1]), 1);
     std::cerr << "(checksum " << checksum << ")\n";
     return 0;
 }

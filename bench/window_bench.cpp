@@ -1,8 +1,5 @@
-// What the program does with its windows and files, in its own process.
-//   window_bench memory FILE    the memory that a database takes
-//   window_bench FILE ...       all the rest; every FILE is loaded
-
-#include <filesystem>
+// Files and windows of the program in their own process: window_bench FILE ... loads every FILE and uses the first,
+// window_bench memory FILE measures the memory that a database takes.
 
 #include "bench.h"
 #include "common/session.h"
@@ -13,6 +10,7 @@
 #include "support/files.h"
 #include "viewer/frmCtlView.h"
 #include "viewer/frmFind.h"
+#include "win/code_page.h"
 #include "win/database_file.h"
 // Needs the above.
 #include <psapi.h>
@@ -28,17 +26,17 @@ double megabytes_in_use() {
     return static_cast<double>(counters.WorkingSetSize) / 1e6;
 }
 
-void measure_memory(const std::filesystem::path& file) {
+int measure_memory(const std::filesystem::path& file) {
     const double size = static_cast<double>(file_size(file)) / 1e6;
     const double before = megabytes_in_use();
     TextFileSlot slot;
     Catalogue catalogue(upper_case);
     load_catalogue(slot, file, catalogue, ignore);
     print("memory of " + file.stem().string(), megabytes_in_use() - before, "MB", "the file", size, 2.2);
-    for (const SearchScope scope : {SearchScope::Names, SearchScope::Cheats}) {
-        catalogue.search(scope, L"", game_count, ignore);
-    }
+    catalogue.search(SearchScope::Names, L"", game_count, ignore);
+    catalogue.search(SearchScope::Cheats, L"", game_count, ignore);
     print("memory of " + file.stem().string() + ", searched", megabytes_in_use() - before, "MB", "the file", size, 4.2);
+    return 0;
 }
 
 void measure_loading(const std::filesystem::path& file) {
@@ -83,16 +81,14 @@ void print_frame(const std::string& figure, const std::function<void()>& action,
     print(figure, medians({before, action})[1], "ms", "a frame", 17, 1);
 }
 
-void measure_viewer(OpenedViewer& open) {
+void measure_frames(OpenedViewer& open) {
     TextBox& box = open.viewer.Text1;
-    std::wstring text;
-    while (text.size() < 1'000'000) text += L"Hold the menu key, then go for the money of the other.\r\n";
-    box.set_text(text + L"The Money Of Nobody");
+    box.set_text(decode(database(1'000'000)) + L"The Money Of Nobody");
     open.session.find = {.gFindString = L"the money of nobody", .gFindDirection = true, .gFirstTime = true};
     frmFind dialog(open.application, open.session.find, open.viewer, box);
     dialog.show();
-    print_frame(
-        "find in 1 MB until selected", [&] { dialog.FindIt(); }, [&] { box.select(0, 0); });
+    const auto find = [&] { dialog.FindIt(); };
+    print_frame("find in 1 MB until selected", find, [&] { box.select(0, 0); });
 
     open.viewer.Option2.set_value(true);
     open.viewer.Option4.set_value(true);
@@ -103,9 +99,7 @@ void measure_viewer(OpenedViewer& open) {
     };
     search();
     print_frame("search with " + std::to_string(open.viewer.List1.count()) + " hits", search, [] {});
-}
 
-void measure_picking(OpenedViewer& open) {
     frmMailCheats form(open.application, open.session, {std::vector<std::wstring>(2500, L"A game"), 0});
     form.show();
     const HWND list = form.List1.window();
@@ -119,34 +113,28 @@ void measure_picking(OpenedViewer& open) {
 }
 
 /// Presses the button of every message box that appears.
-LRESULT CALLBACK on_window_event(int code, WPARAM window, LPARAM parameter) {
-    wchar_t name[16]{};
-    GetClassNameW(reinterpret_cast<HWND>(window), name, 16);
-    if (code == HCBT_ACTIVATE && std::wstring_view(name) == L"#32770") {
-        PostMessageW(reinterpret_cast<HWND>(window), WM_COMMAND, IDOK, 0);
-    }
-    return CallNextHookEx(nullptr, code, window, parameter);
+LRESULT CALLBACK on_window_event(int code, WPARAM wparam, LPARAM lparam) {
+    const auto window = reinterpret_cast<HWND>(wparam);
+    constexpr DWORD dialog_class = 32770;
+    if (code == HCBT_ACTIVATE && GetClassLongW(window, GCW_ATOM) == dialog_class)
+        PostMessageW(window, WM_COMMAND, IDOK, 0);
+    return CallNextHookEx(nullptr, code, wparam, lparam);
 }
 
 }  // namespace
 }  // namespace quillomat::bench
 
 int wmain(int count, wchar_t** arguments) {
-    using namespace quillomat;
     using namespace quillomat::bench;
     const std::vector<std::wstring> files(arguments + 1, arguments + count);
-    if (files.at(0) == L"memory") {
-        measure_memory(files.at(1));
-        return 0;
-    }
+    if (files.at(0) == L"memory") return measure_memory(files.at(1));
     for (const std::wstring& file : files) measure_loading(file);
     SetWindowsHookExW(WH_CBT, on_window_event, nullptr, GetCurrentThreadId());
-    Application application(L"Quillomat");
-    const std::string games = bytes_of(files[0]);
+    quillomat::Application application(L"Quillomat");
+    const std::string games = quillomat::bytes_of(files[0]);
     OpenedViewer large(application, games.substr(0, games.find("Game number 2459") + 18));  // with room for more
     OpenedViewer small(application, "");
-    measure_viewer(large);
-    measure_picking(large);
+    measure_frames(large);
     const auto times = medians({[&] { large.add_game(); }, [&] { small.add_game(); }});
     print("adding a game to 2460", times[0], "ms", "to none", times[1], 1.1);
     return 0;

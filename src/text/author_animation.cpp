@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "text/letter_case.h"
+
 namespace quillomat {
 namespace {
 
@@ -27,8 +29,7 @@ std::wstring with_capital(std::wstring_view caption, int position, std::size_t a
     if (capital >= caption.size()) return std::wstring(caption);
     const std::size_t tail = address_length - std::min(address_length, capital + 1);
     std::wstring result(caption.substr(0, capital + 1));
-    wchar_t& letter = result.back();
-    if (letter >= L'a' && letter <= L'z') letter = static_cast<wchar_t>(letter - L'a' + L'A');
+    result.back() = ascii_upper_case(result.back());
     return result.append(caption.substr(capital + 1, tail));
 }
 
