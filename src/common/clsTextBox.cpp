@@ -2,8 +2,8 @@
 
 #include <limits>
 
+#include "common/copied_text.h"
 #include "controls/text_box.h"
-#include "win/clipboard.h"
 
 namespace quillomat {
 namespace {
@@ -93,7 +93,7 @@ void clsTextBox::KeyDown(KeyEvent& event) {
     } else if (event.key == 'Y') {
         event.handled = true;
         const int line = GetLineFromChar(static_cast<int>(box_->selection_start()));
-        put_on_clipboard(box_->window(), GetLine(line));
+        CopyText(box_->form(), GetLine(line));
         DelLine(line);
     }
 }

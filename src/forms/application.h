@@ -46,6 +46,11 @@ class Application {
     /// Drops the second press of a double-click, if the mouse click that is being handled turns out to be one: what
     /// opens under the pointer instead of the clicked window is not meant.
     void drop_second_press();
+    /// Runs `work` on a thread of its own and returns true when the work has ended. Meanwhile the windows repaint, but
+    /// none of them takes input, even if a library that the work calls enables one. The work must not touch a window.
+    /// Returns false after `milliseconds`, and the work then goes on by itself; and at once if a work is running
+    /// already. Rethrows the exception that leaves the work; throws `Error` with Crashed if the work crashes.
+    bool run_without_blocking(std::function<void()> work, DWORD milliseconds = INFINITE);
     /// Closes every form that is open, dialogs before the windows below them.
     void close_all_forms();
     /// Ends the outermost `run`.
@@ -78,6 +83,7 @@ class Application {
     Faults faults_{*this};
     HWND handling_ = nullptr;
     int forced_dpi_ = 0;
+    bool working_ = false;              // by `run_without_blocking`
     std::optional<DWORD> first_click_;  // the time of the click whose second press is dropped
 };
 

@@ -74,6 +74,12 @@ bool ModalScope::holds(HWND window) const {
     return std::find(waiting_.begin(), waiting_.end(), window) != waiting_.end();
 }
 
+void ModalScope::hold() const {
+    for (const HWND window : waiting_) {
+        if (IsWindowEnabled(window)) EnableWindow(window, FALSE);
+    }
+}
+
 void ModalScope::end() {
     std::erase(modality_.scopes_, this);
     for (const HWND window : std::exchange(waiting_, {})) {

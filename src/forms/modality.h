@@ -42,6 +42,8 @@ class ModalScope {
     ModalScope(const ModalScope&) = delete;
     ModalScope& operator=(const ModalScope&) = delete;
 
+    /// Makes the windows wait again that a library of another program has enabled.
+    void hold() const;
     /// Enables the windows again that wait for nothing else. Must run before the dialog's window is destroyed, or
     /// Windows activates another program's window instead of the owner.
     void end();

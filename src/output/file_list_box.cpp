@@ -3,17 +3,16 @@
 #include <utility>
 
 #include "text/paths.h"
-#include "win/folders.h"
 
 namespace quillomat {
 
 FileListBox::FileListBox(Container& container, Bounds bounds, std::wstring extension)
     : ListBox(container, bounds), extension_(std::move(extension)) {}
 
-void FileListBox::set_path(const std::wstring& path) {
+void FileListBox::show(const std::vector<std::wstring>& files) {
     const Filling filling(*this);
     clear();
-    for (const std::wstring& name : list_folder(path).files) {
+    for (const std::wstring& name : files) {
         if (has_extension(name, extension_)) add(name);
     }
 }

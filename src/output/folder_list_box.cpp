@@ -1,9 +1,12 @@
 #include "output/folder_list_box.h"
 
 #include <algorithm>
+#include <memory>
 
+#include "forms/application.h"
+#include "forms/form.h"
+#include "text/error.h"
 #include "text/paths.h"
-#include "win/folders.h"
 
 namespace quillomat {
 namespace {
@@ -32,7 +35,7 @@ void FolderListBox::resolution_changed() {
 
 void FolderListBox::set_path(const std::wstring& path) {
     const std::vector<FolderStep> steps = folder_steps(path);
-    const FolderContent content = list_folder(steps.back().path);
+    content_ = look_into(steps.back().path);
     path_ = steps.back().path;
     steps_ = static_cast<int>(steps.size());
     entries_.clear();
@@ -43,7 +46,7 @@ void FolderListBox::set_path(const std::wstring& path) {
             entries_.push_back({step.path, static_cast<int>(entries_.size())});
             add(step.name);
         }
-        for (const std::wstring& name : content.folders) {
+        for (const std::wstring& name : content_.folders) {
             entries_.push_back({path_in(path_, name), steps_});
             add(name);
         }
@@ -54,11 +57,28 @@ void FolderListBox::set_path(const std::wstring& path) {
     raise(on_change);
 }
 
-void FolderListBox::open_selected() {
+FolderContent FolderListBox::look_into(const std::wstring& path) {
+    if (answers_at_once(path)) return list_folder(path);
+    constexpr DWORD patience = 5000;  // milliseconds
+    const Hourglass hourglass(form());
+    // Shared with the thread, which goes on alone if the drive takes longer.
+    const auto content = std::make_shared<FolderContent>();
+    const auto look = [content, path] { *content = list_folder(path); };
+    if (!form().application().run_without_blocking(look, patience)) throw Error(ErrorCode::DiskNotReady);
+    return *content;
+}
+
+std::wstring FolderListBox::selected_path() const {
     const auto index = selected_index();
-    if (!index) return;
-    const std::wstring path = entries_[static_cast<std::size_t>(*index)].path;
-    if (path != path_) set_path(path);
+    return index ? entries_[static_cast<std::size_t>(*index)].path : path_;
+}
+
+bool FolderListBox::enter_opens() const {
+    return focused_ && selected_path() != path_;
+}
+
+void FolderListBox::open_selected() {
+    if (const std::wstring path = selected_path(); path != path_) set_path(path);
 }
 
 void FolderListBox::open_parent() {
@@ -71,10 +91,14 @@ void FolderListBox::notified(WORD code) {
 }
 
 LRESULT FolderListBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_GETDLGCODE && wparam == VK_RETURN) {
+    if (message == WM_GETDLGCODE && wparam == VK_RETURN && enter_opens()) {
         return ListBox::handle_message(message, wparam, lparam) | DLGC_WANTALLKEYS;
     }
     const LRESULT result = ListBox::handle_message(message, wparam, lparam);
+    if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+        focused_ = message == WM_SETFOCUS;
+        raise(on_focus_changed);
+    }
     if (message == WM_KEYDOWN && wparam == VK_RETURN) open_selected();
     if (message == WM_KEYDOWN && wparam == VK_BACK) open_parent();
     return result;

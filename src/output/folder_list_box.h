@@ -6,11 +6,12 @@
 
 #include "controls/list_box.h"
 #include "output/folder_icon.h"
+#include "win/folders.h"
 
 namespace quillomat {
 
-/// Shows the folders that lead to the current one, and those in it. A double-click or Enter opens a folder, Backspace
-/// the one above.
+/// Shows the folders that lead to the current one, and those in it. A double-click or Enter opens the selected folder,
+/// Backspace the one above.
 class FolderListBox : public ListBox {
   public:
     FolderListBox(Container& container, Bounds bounds);
@@ -18,9 +19,18 @@ class FolderListBox : public ListBox {
     /// Another folder has become the current one.
     std::function<void()> on_change;
 
+    /// The list has got the focus or lost it.
+    std::function<void()> on_focus_changed;
+    /// True while Enter opens a folder: the list has the focus, and another folder than the current one is selected.
+    /// Otherwise Enter presses the form's default button.
+    bool enter_opens() const;
+
     /// The whole path of the current folder; empty before the first one is set.
     const std::wstring& path() const { return path_; }
-    /// Makes a folder the current one and raises the change. Throws `Error` for one that cannot be looked into, and
+    /// The names of the files in the current folder.
+    const std::vector<std::wstring>& files() const { return content_.files; }
+    /// Makes a folder the current one and raises the change. While its drive does not answer, the windows repaint but
+    /// take no input. Throws `Error` for a folder that cannot be looked into, DiskNotReady after some seconds, and
     /// stays where it is.
     void set_path(const std::wstring& path);
 
@@ -37,13 +47,17 @@ class FolderListBox : public ListBox {
         int depth;
     };
 
+    FolderContent look_into(const std::wstring& path);
     void fit_items();
+    std::wstring selected_path() const;
     void open_selected();
     void open_parent();
 
     std::wstring path_;
     std::vector<Entry> entries_;
     int steps_ = 0;  // how many of the entries lead to the current folder
+    FolderContent content_;
+    bool focused_ = false;
     FolderIcon closed_folder_;
     FolderIcon open_folder_;
 };

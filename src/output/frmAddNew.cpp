@@ -24,6 +24,9 @@ namespace {
 constexpr std::size_t add_button = 0;
 constexpr std::size_t cancel_button = 1;
 
+constexpr WindowKeys window_keys{settings::frmAddNewWindowState, settings::frmAddNewWidth, settings::frmAddNewHeight,
+                                 settings::frmAddNewHeight};
+
 constexpr const wchar_t* help_texts[] = {L"Click here to add the game!",
                                          L"Click here to leave without adding the game!"};
 
@@ -85,12 +88,8 @@ void frmAddNew::bind_hover_help() {
 }
 
 void frmAddNew::Form_Load() {
-    const Settings& stored = session_.settings;
-    set_window_state(window_state_of(stored.read(settings::frmAddNewWindowState)));
-    set_height(stored.read(settings::frmAddNewHeight));
-    set_width(stored.read(settings::frmAddNewWidth));
-    while (restore_minimum_size(*this, add_game_minimum_size)) {
-    }
+    restore_window_state(*this, session_.settings, window_keys);
+    restore_window_size(*this, session_.settings, window_keys, add_game_minimum_size);
     centre_over_viewer();
     Text1.set_focus();
 }
@@ -101,11 +100,7 @@ void frmAddNew::centre_over_viewer() {
 }
 
 void frmAddNew::Form_Unload() {
-    const Settings& store = session_.settings;
-    store.write(settings::frmAddNewWindowState, static_cast<std::int32_t>(window_state()));
-    if (window_state() != WindowState::Normal) return;
-    store.write(settings::frmAddNewHeight, stored_size(height()));
-    store.write(settings::frmAddNewWidth, stored_size(width()));
+    store_window(*this, session_.settings, window_keys);
 }
 
 void frmAddNew::Form_Resize() {
@@ -211,7 +206,9 @@ void frmAddNew::store(const std::wstring& name, const std::wstring& cheats) {
     show_message(window(), {.text = L"The cheat codes for " + name + L" have been successfully added!",
                             .title = application().title()});
     viewer_.select_game(name);
-    session_.text_file.append(session_.program_folder + L"\\Cheats.dat", record);
+    const Hourglass hourglass(*this);
+    application().run_without_blocking(
+        [&] { session_.text_file.append(session_.program_folder + L"\\Cheats.dat", record); });
 }
 
 void frmAddNew::report(const Error& error) {

@@ -40,20 +40,21 @@ void attach(std::optional<TemporaryTextFile>& file, TextFileSlot& slot, const st
 
 }  // namespace
 
-frmMailCheats::frmMailCheats(Application& application, Session& session, GamesToPick games)
+frmMailCheats::frmMailCheats(Application& application, Session& session, ViewerLink& viewer)
     : Form(application, {.name = L"frmMailCheats",
                          .caption = L"Mail Cheat Codes to a friend",
                          .width = 9600,
                          .height = 6900,
                          .minimum = minimum_size}),
       session_(session),
-      games_(std::move(games)) {
+      viewer_(viewer) {
     List2.set_visible(false);
     Label6.set_visible(false);
     set_cancel_button(&Command2);
     bind();
     bind_inputs();
     bind_hover_help();
+    UpdateSendButton();
 }
 
 void frmMailCheats::bind() {
@@ -100,12 +101,15 @@ void frmMailCheats::Form_Load() {
     tell_mail_requirements(*this);
     {
         const ListBox::Filling filling(List1);
-        for (const std::wstring& name : games_.names) List1.add(name);
+        for (int number = 0; number < viewer_.game_count(); ++number) {
+            names_.push_back(viewer_.game_name(number));
+            List1.add(names_.back());
+        }
         List1.fit_scroll_range();
     }
-    if (games_.selected) {
-        List1.select_index(*games_.selected);
-        List1.set_picked(*games_.selected, true);
+    if (const auto selected = viewer_.selected_game()) {
+        List1.select_index(*selected);
+        List1.set_picked(*selected, true);
     }
     const Settings& stored = session_.settings;
     Option1.set_value(stored.read(settings::MailOption));
@@ -164,14 +168,14 @@ void frmMailCheats::lay_out_letter(double left) {
     Text3.move({left, top, width, options_top - top - margin / 2});
     Option1.move({left, options_top, width, 255});
     Option2.move({left, options_top + 270, width, 255});
-    Command1.move({right - 2 * button_width - margin, buttons_top, button_width, button_height});
-    Command2.move({right - button_width, buttons_top, button_width, button_height});
-    Label6.move({left, buttons_top + 75, Command1.left() - left - margin, one_line});
+    Command2.move({right - 2 * button_width - margin, buttons_top, button_width, button_height});
+    Command1.move({right - button_width, buttons_top, button_width, button_height});
+    Label6.move({left, buttons_top + 75, Command2.left() - left - margin, one_line});
 }
 
 void frmMailCheats::List1_Click() {
     std::vector<std::wstring> names;
-    for (const int index : List1.picked_indexes()) names.push_back(games_.names[static_cast<std::size_t>(index)]);
+    for (const int index : List1.picked_indexes()) names.push_back(names_[static_cast<std::size_t>(index)]);
     {
         const ListBox::Filling filling(List2);
         List2.clear();
@@ -222,27 +226,24 @@ std::wstring frmMailCheats::picked_cheats() const {
 
 void frmMailCheats::SendCheats() {
     Text5.set_visible(false);
-    {
-        const Sending sending(*this, Label6);
-        const std::wstring cheats = picked_cheats();
-        const bool attached = Option2.value();
-        // Deleted after the session has ended, whichever way.
-        std::optional<TemporaryTextFile> attachment;
-        MailSession mail_session(window());
-        Mail mail{.address = Text4.text(),
-                  .name = Text2.text(),
-                  .subject = cheats_mail_subject(Text1.text(), Text2.text()),
-                  .text = attached ? cheats_mail_body(Text3.text()) : cheats_mail_body(Text3.text(), cheats),
-                  .attachment = {}};
-        if (attached) {
-            mail.attachment = session_.program_folder + L"\\Cheats.txt";
-            attach(attachment, session_.text_file, mail.attachment, cheats);
-        }
+    const std::wstring cheats = picked_cheats();
+    const bool attached = Option2.value();
+    const std::wstring path = attached ? session_.program_folder + L"\\Cheats.txt" : std::wstring();
+    const Mail mail{.address = Text4.text(),
+                    .name = Text2.text(),
+                    .subject = cheats_mail_subject(Text1.text(), Text2.text()),
+                    .text = attached ? cheats_mail_body(Text3.text()) : cheats_mail_body(Text3.text(), cheats),
+                    .attachment = path};
+    // Deleted after the session has ended, even if the mail program has crashed.
+    std::optional<TemporaryTextFile> attachment;
+    const bool sent = send_mail(*this, Label6, [&, owner = window()] {
+        MailSession mail_session(owner);
+        if (attached) attach(attachment, session_.text_file, path, cheats);
         mail_session.send(mail);
         mail_session.end();
-    }
-    tell_message_sent(*this);
-    close();
+    });
+    attachment.reset();
+    if (sent) close_after_sending(*this);
 }
 
 }  // namespace quillomat

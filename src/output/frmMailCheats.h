@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,20 +14,15 @@
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
+#include "output/viewer_link.h"
 
 namespace quillomat {
-
-/// The games to pick from, as the viewer lists them, and the one that is selected there.
-struct GamesToPick {
-    std::vector<std::wstring> names;
-    std::optional<int> selected;
-};
 
 /// Sends the cheats of picked games to a friend, in a mail or in a file attached to it.
 class frmMailCheats final : public Form {
   public:
-    /// `session` must outlive the form.
-    frmMailCheats(Application& application, Session& session, GamesToPick games);
+    /// `session` and `viewer` must outlive the form.
+    frmMailCheats(Application& application, Session& session, ViewerLink& viewer);
 
     StaticLabel Label1{*this, L"Select the games whose cheat codes you want to include.", {}};
     ListBox List1{*this, {}, ListBox::Picking::Several};
@@ -45,8 +39,8 @@ class frmMailCheats final : public Form {
     TextBox Text3{*this, {}, TextBoxKind::Writing};
     OptionButton Option1{*this, L"Include cheats in e-mail", {}, OptionButton::Group::Starts};
     OptionButton Option2{*this, L"Include cheats in an attached text file", {}, OptionButton::Group::Continues};
-    Button Command1{*this, L"&Send!", {}};
     Button Command2{*this, L"&Cancel", {}};
+    Button Command1{*this, L"&Send!", {}};
     Label Label6{*this, L"Please wait...", {}};
     TextBox Text5{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Timer Timer1{*this, 1};
@@ -71,7 +65,8 @@ class frmMailCheats final : public Form {
     void lay_out_letter(double left);
 
     Session& session_;
-    GamesToPick games_;
+    ViewerLink& viewer_;
+    std::vector<std::wstring> names_;  // of all games; faster to get at than the list's items
     clsTextBox lines_{Text3};
     HoverHelp hover_help_{session_.pointer, Text5, Timer1};
 };

@@ -14,6 +14,8 @@ namespace quillomat {
 namespace {
 
 constexpr WindowSize minimum_size{5715, 3960};
+constexpr WindowKeys window_keys{settings::frmMailMeWindowState, settings::frmMailMeWidth, settings::frmMailMeHeght,
+                                 settings::frmMailMeHeight};
 
 }  // namespace
 
@@ -56,21 +58,15 @@ void frmMailMe::bind_hover_help() {
 
 void frmMailMe::Form_Load() {
     tell_mail_requirements(*this);
-    const Settings& stored = session_.settings;
-    set_window_state(window_state_of(stored.read(settings::frmMailMeWindowState)));
-    set_size(stored.read(settings::frmMailMeWidth), stored.read(settings::frmMailMeHeght));
-    Form_Resize();
+    restore_window_state(*this, session_.settings, window_keys);
+    restore_window_size(*this, session_.settings, window_keys, minimum_size);
     centre_on_screen();
     for (const wchar_t* subject : canned_subjects) Combo1.add(subject);
     CenterMouseOn(Command1.window());
 }
 
 void frmMailMe::Form_Unload() {
-    const Settings& store = session_.settings;
-    store.write(settings::frmMailMeWindowState, static_cast<std::int32_t>(window_state()));
-    if (window_state() != WindowState::Normal) return;
-    store.write(settings::frmMailMeHeight, stored_size(height()));
-    store.write(settings::frmMailMeWidth, stored_size(width()));
+    store_window(*this, session_.settings, window_keys);
 }
 
 void frmMailMe::Form_Resize() {
@@ -108,18 +104,17 @@ void frmMailMe::propose_message(const std::wstring& text) {
 }
 
 void frmMailMe::SendToAuthor() {
-    {
-        const Sending sending(*this, Label6);
-        MailSession mail_session(window());
-        mail_session.send({.address = product::mail_address,
-                           .name = product::author,
-                           .subject = author_mail_subject(Combo1.text()),
-                           .text = Text1.text(),
-                           .attachment = {}});
+    const Mail mail{.address = product::mail_address,
+                    .name = product::author,
+                    .subject = author_mail_subject(Combo1.text()),
+                    .text = Text1.text(),
+                    .attachment = {}};
+    const bool sent = send_mail(*this, Label6, [&mail, owner = window()] {
+        MailSession mail_session(owner);
+        mail_session.send(mail);
         mail_session.end();
-    }
-    tell_message_sent(*this);
-    close();
+    });
+    if (sent) close_after_sending(*this);
 }
 
 }  // namespace quillomat

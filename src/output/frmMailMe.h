@@ -25,8 +25,8 @@ class frmMailMe final : public Form {
     ComboBox Combo1{*this, {60, 270, 6780, 315}};
     StaticLabel Label2{*this, L"Message", {60, 630, 3000, 210}};
     TextBox Text1{*this, {60, 840, 6780, 4185}, TextBoxKind::Writing};
-    Button Command1{*this, L"&Send!", {5550, 5130, 1290, 300}};
     Button Command2{*this, L"&Cancel", {3810, 5130, 1290, 300}};
+    Button Command1{*this, L"&Send!", {5550, 5130, 1290, 300}};
     Label Label6{*this, L"Please wait...", {60, 5130, 1800, 225}};
     TextBox Text2{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Timer Timer1{*this, 1};

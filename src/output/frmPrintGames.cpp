@@ -24,14 +24,14 @@ constexpr int rule_width = 3;
 
 }  // namespace
 
-frmPrintGames::frmPrintGames(Application& application, Session& session, ListedGames games)
+frmPrintGames::frmPrintGames(Application& application, Session& session, ViewerLink& viewer)
     : Form(application, {.name = L"frmPrintGames",
                          .caption = L"Number of Games",
                          .width = 4830,
                          .height = 3660,
                          .border = FormBorder::Dialog}),
       session_(session),
-      games_(std::move(games)) {
+      viewer_(viewer) {
     bind();
     bind_number_box(Text1, [this] { SelectAllText(Text2); });
     bind_number_box(Text2, [this] { Command1.set_focus(); });
@@ -78,7 +78,7 @@ void frmPrintGames::bind_hover_help() {
 
 void frmPrintGames::Form_Load() {
     // One past the last game: the user is meant to choose where the range ends.
-    const auto beyond_last = static_cast<std::int16_t>(games_.count() + 1);
+    const auto beyond_last = static_cast<std::int16_t>(viewer_.game_count() + 1);
     Text2.set_text(std::to_wstring(session_.settings.read(settings::UpperLimit, beyond_last)));
     Text1.set_text(session_.settings.read(settings::LowerLimit));
     Total();
@@ -110,11 +110,12 @@ void frmPrintGames::enable_range(bool enabled) {
 }
 
 void frmPrintGames::Command1_Click() {
-    const int count = games_.count();
+    const int count = viewer_.game_count();
+    const auto name = [this](int index) { return viewer_.game_name(index); };
     if (Option1.value()) {
-        print(all_game_names(count, games_.name));
+        print(all_game_names(count, name));
     } else if (const auto range = typed_range(Text1.text(), Text2.text(), count)) {
-        print(game_names_in_range(range->first, range->last, games_.name));
+        print(game_names_in_range(range->first, range->last, name));
     } else {
         show_message(window(), {.text = typed_range_hint(count), .title = L"Error!", .icon = MessageIcon::Information});
         return;

@@ -11,21 +11,15 @@
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
-#include "text/game_list.h"
+#include "output/viewer_link.h"
 
 namespace quillomat {
-
-/// The list of games as the viewer shows it, of which the names are printed.
-struct ListedGames {
-    std::function<int()> count;
-    ItemText name;
-};
 
 /// Prints the names of all games or of a range of them.
 class frmPrintGames final : public Form {
   public:
-    /// `session` must outlive the form.
-    frmPrintGames(Application& application, Session& session, ListedGames games);
+    /// `session` and `viewer` must outlive the form.
+    frmPrintGames(Application& application, Session& session, ViewerLink& viewer);
 
     OptionButton Option1{*this, L"&All Games", {240, 180, 2400, 255}, OptionButton::Group::Starts};
     OptionButton Option2{*this, L"&Selected Number", {240, 495, 2400, 255}, OptionButton::Group::Continues};
@@ -36,8 +30,8 @@ class frmPrintGames final : public Form {
     TextBox Text2{Frame1, {2475, 345, 1050, 315}};
     StaticLabel Label3{Frame1, L"No. of Games : -", {195, 870, 1350, 225}};
     TextBox Text3{Frame1, {1575, 825, 1950, 315}, TextBoxKind::Result};
-    Button Command1{*this, L"&OK", {1050, 2400, 1215, 375}};
-    Button Command2{*this, L"&Cancel", {2475, 2400, 1215, 375}};
+    Button Command2{*this, L"&Cancel", {1050, 2400, 1215, 375}};
+    Button Command1{*this, L"&OK", {2475, 2400, 1215, 375}};
     TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Timer Timer1{*this, 1};
 
@@ -59,7 +53,7 @@ class frmPrintGames final : public Form {
     void print(const std::vector<std::wstring>& names);
 
     Session& session_;
-    ListedGames games_;
+    ViewerLink& viewer_;
     HoverHelp hover_help_{session_.pointer, Text4, Timer1};
 };
 

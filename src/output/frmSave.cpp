@@ -50,6 +50,9 @@ void frmSave::bind() {
     drag_by(*this);
     Drive1.on_change = [this] { Drive1_Change(); };
     Dir1.on_change = [this] { Dir1_Change(); };
+    // The mark of the default button tells what Enter does.
+    Dir1.on_click = [this] { set_default_button(Dir1.enter_opens() ? nullptr : &Command1); };
+    Dir1.on_focus_changed = Dir1.on_click;
     File1.set_spoken_name(L"Files");
     File1.on_click = [this] { File1_Click(); };
     File1.on_double_click = [this] { Command1.click(); };
@@ -66,7 +69,7 @@ void frmSave::bind_hover_help() {
 }
 
 void frmSave::Form_Load() {
-    const std::wstring game = viewer_.game_name();
+    const std::wstring game = viewer_.shown_game();
     set_caption(L"Save cheat codes of " + game);
     Combo1.add(L"Text Files (*.txt)");
     Combo1.select_index(0);
@@ -119,7 +122,6 @@ void frmSave::Drive1_Change() {
     // The folder the program was started in may have its drive in a small letter.
     if (upper_cased(Dir1.path()).starts_with(drive)) return;
     try {
-        const Hourglass hourglass(*this);
         Dir1.set_path(drive);
     } catch (const Error& error) {
         show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
@@ -130,7 +132,7 @@ void frmSave::Drive1_Change() {
 void frmSave::Dir1_Change() {
     Label3.set_caption(Dir1.path());
     Drive1.select_drive_of(Dir1.path());
-    File1.set_path(Dir1.path());
+    File1.show(Dir1.files());
 }
 
 void frmSave::File1_Click() {
@@ -150,18 +152,26 @@ void frmSave::Command1_Click() {
         return;
     }
     chosen_path_ = Label3.caption() + L"\\" + name;
-    if (!may_be_written()) return;
     try {
-        const std::wstring text = export_text(viewer_.game_name(), viewer_.cheats()).append(line_end);
-        session_.text_file.replace(chosen_path_, text);
-        close();
+        if (may_be_written() && write()) close();
     } catch (const Error& error) {
         show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
     }
 }
 
-bool frmSave::may_be_written() const {
-    if (!file_exists(chosen_path_)) return true;
+bool frmSave::write() {
+    const Hourglass hourglass(*this);
+    const std::wstring text = export_text(viewer_.shown_game(), viewer_.shown_cheats()).append(line_end);
+    return application().run_without_blocking([&] { session_.text_file.replace(chosen_path_, text); });
+}
+
+bool frmSave::may_be_written() {
+    bool exists = false;
+    {
+        const Hourglass hourglass(*this);
+        if (!application().run_without_blocking([&] { exists = file_exists(chosen_path_); })) return false;
+    }
+    if (!exists) return true;
     return show_message(window(), {.text = L"The cheat codes for " + chosen_path_ +
                                            L" already exist in this directory.\r\nDo you want to overwrite them?",
                                    .title = L"Overwrite?",

@@ -55,7 +55,10 @@ class frmSave final : public Form {
 
     void place_help_box(const Control& button);
     void open_first_folder();
-    bool may_be_written() const;
+    /// Asks before a file is overwritten.
+    bool may_be_written();
+    /// False if nothing was written, because the same is under way.
+    bool write();
 
     Session& session_;
     ViewerLink& viewer_;

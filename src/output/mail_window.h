@@ -1,32 +1,22 @@
 #pragma once
 
-#include "forms/application.h"
-#include "forms/form.h"
+#include <functional>
 
 namespace quillomat {
 
-class Control;
+class Form;
 class Label;
 
 /// Tells the user of a window that opens what is needed for sending mails.
 void tell_mail_requirements(Form& form);
-/// Tells the user that all went well.
-void tell_message_sent(Form& form);
 
-/// While it lives, a mail is on its way: the window says so, and the user can change nothing. What the mail program
-/// asks meanwhile, it asks in windows of its own.
-class Sending {
-  public:
-    Sending(Form& form, Label& please_wait);
-    ~Sending();
-    Sending(const Sending&) = delete;
-    Sending& operator=(const Sending&) = delete;
+/// Runs `send`, from signing on to signing off, on a thread of its own. Meanwhile the form shows the hourglass and
+/// `please_wait`, and no window takes input; the mail program asks its questions in windows of its own. Returns false
+/// if nothing was sent because a mail is on its way already. Throws `Error` with a sentence for the user if it is not
+/// certain that the message was sent.
+bool send_mail(Form& form, Label& please_wait, const std::function<void()>& send);
 
-  private:
-    Label& please_wait_;
-    Control* focused_;
-    Hourglass hourglass_;
-    ModalScope modal_;
-};
+/// Tells the user that the message was sent, and closes the form.
+void close_after_sending(Form& form);
 
 }  // namespace quillomat

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -7,24 +8,31 @@ namespace quillomat {
 
 class Form;
 
-/// What the output windows need of the viewer: its window, the game it shows, and its full list, in which a game's
-/// position is its number.
+/// What the output windows need of the viewer: its window, the game it shows, and its full list. A game's position in
+/// the list is its number.
 class ViewerLink {
   public:
     virtual ~ViewerLink() = default;
 
-    /// The window, for dialogs to stand over.
+    /// The viewer's window, for dialogs to stand over.
     virtual Form& window() = 0;
-    /// The name of the game that is shown.
-    virtual std::wstring game_name() const = 0;
-    /// Its cheats, as they are shown.
-    virtual std::wstring cheats() const = 0;
+    /// The name of the game that the viewer shows.
+    virtual std::wstring shown_game() const = 0;
+    /// The cheats of that game, as the viewer shows them.
+    virtual std::wstring shown_cheats() const = 0;
 
-    /// Selects and shows game `number`. Throws `Error` with SubscriptOutOfRange when the list has no such game.
+    /// The number of games in the list.
+    virtual int game_count() const = 0;
+    /// The name of a game in the list. Throws `Error` with SubscriptOutOfRange if the list has no such game, as
+    /// `select_game` does.
+    virtual std::wstring game_name(int number) const = 0;
+    /// The number of the selected game, or nothing.
+    virtual std::optional<int> selected_game() const = 0;
+    /// Selects and shows a game.
     virtual void select_game(int number) = 0;
     /// Selects and shows the first game that has exactly this name.
     virtual void select_game(std::wstring_view name) = 0;
-    /// Adds a name at the end of the full list.
+    /// Adds a name at the end of the list.
     virtual void list_game(std::wstring_view name) = 0;
 };
 

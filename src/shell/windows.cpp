@@ -14,7 +14,7 @@
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
-#include "shell/viewer_link.h"
+#include "shell/open_viewer.h"
 #include "viewer/frmCtlView.h"
 #include "viewer/frmFind.h"
 
@@ -93,10 +93,8 @@ void Windows::open_author_mail() {
 }
 
 void Windows::mail_cheats() {
-    GamesToPick games{.names = {}, .selected = viewer_->List2.selected_index()};
-    for (int index = 0; index < viewer_->List2.count(); ++index) games.names.push_back(viewer_->List2.item(index));
-    frmMailCheats form(application_, session_, std::move(games));
-    form.show_modal(viewer_.get());
+    OpenViewer link(*viewer_);
+    frmMailCheats(application_, session_, link).show_modal(viewer_.get());
 }
 
 void Windows::open_add_game() {
@@ -120,11 +118,8 @@ void Windows::open_author() {
 }
 
 void Windows::show_print_list() {
-    const ListBox& list = viewer_->List2;
-    frmPrintGames form(
-        application_, session_,
-        {.count = [&list] { return list.count(); }, .name = [&list](int index) { return list.item(index); }});
-    form.show_modal(viewer_.get());
+    OpenViewer link(*viewer_);
+    frmPrintGames(application_, session_, link).show_modal(viewer_.get());
 }
 
 void Windows::open_find() {

@@ -35,6 +35,8 @@ const wchar_t* standard_description(ErrorCode code) {
             return L"Can't open Clipboard";
         case ErrorCode::MailFailure:
             return L"The message could not be sent";
+        case ErrorCode::Crashed:
+            return L"The program that was called has stopped working";
         case ErrorCode::Cancelled:
             return L"Cancel was selected";
     }

@@ -21,6 +21,8 @@ enum class ErrorCode {
     PrinterError = 482,
     ClipboardError = 521,
     MailFailure = 32002,
+    /// A library of another program has crashed.
+    Crashed = 32003,
     /// The user has changed their mind; no message tells them so.
     Cancelled = 32755,
 };

@@ -40,8 +40,9 @@ const wchar_t* reason(MailResult result) {
             return L"the network cannot be reached. Check the connection and try again";
         case MailResult::NotSupported:
         case MailResult::TypeNotSupported:
-            return L"your mail program cannot send messages for other programs. Make another one, such as Thunderbird "
-                   L"or Outlook, your default mail program";
+            return L"your mail program cannot send messages for 64-bit programs such as this one. Make another one, "
+                   L"such "
+                   L"as a 64-bit Thunderbird or Outlook, your default mail program";
         case MailResult::UnicodeNotSupported:
             return L"your mail program cannot send some of the characters in it";
         default:
@@ -63,6 +64,12 @@ std::wstring sign_off_failure_description(MailResult result) {
     return L"Your mail program took the message, but could not end the connection (number " +
            std::to_wstring(static_cast<unsigned>(result)) +
            L"). Look into its outbox before you send the message again.";
+}
+
+std::wstring mail_crash_description() {
+    return L"Your mail program has stopped working, so that it is not known whether the message was sent. Look into "
+           L"its "
+           L"outbox before you send the message again.";
 }
 
 std::wstring no_mail_program_description() {

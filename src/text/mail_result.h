@@ -38,6 +38,9 @@ std::wstring mail_failure_description(MailResult result);
 /// What to tell the user when a mail program took a mail, but then failed to sign off.
 std::wstring sign_off_failure_description(MailResult result);
 
+/// What to tell the user when a mail program has crashed while it had the message.
+std::wstring mail_crash_description();
+
 /// What to tell a user whose computer has no program to send mails with.
 std::wstring no_mail_program_description();
 

@@ -2,12 +2,12 @@
 
 #include <utility>
 
+#include "common/copied_text.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/game_list.h"
 #include "text/printout.h"
 #include "viewer/frmCtlView.h"
-#include "win/clipboard.h"
 
 namespace quillomat {
 namespace {
@@ -97,7 +97,7 @@ void frmCtlView::bind_alphabet_bar() {
 
 void frmCtlView::copy_cheats() {
     const std::wstring name = caption();
-    put_on_clipboard(window(), export_text(name, Text1.text()));
+    CopyText(*this, export_text(name, Text1.text()));
     show_message(window(), {.text = L"The cheat codes for " + name + L" have been copied to the clipboard.",
                             .title = application().title()});
 }

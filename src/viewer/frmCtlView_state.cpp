@@ -1,7 +1,5 @@
 // Opening and closing the viewer: the database, the settings, and what is built from them.
 
-#include <algorithm>
-
 #include "common/window_settings.h"
 #include "forms/message_box.h"
 #include "text/error.h"
@@ -11,6 +9,13 @@
 #include "win/database_file.h"
 
 namespace quillomat {
+namespace {
+
+constexpr WindowKeys window_keys{settings::FrmCtlViewWindowState, settings::FrmCtlViewWidth, settings::FrmCtlViewHeight,
+                                 settings::FrmCtlViewHeight};
+
+}  // namespace
+
 void frmCtlView::Form_Load() {
     List2.set_focus();
     try {
@@ -66,7 +71,7 @@ void frmCtlView::restore_settings() {
     set_text_size(session_.viewer.text_steps);
     menus.mnuColour.set_checked(stored.read(settings::Colour));
     menus.mnuAutoSelect.set_checked(stored.read(settings::AutoSelect));
-    set_window_state(window_state_of(stored.read(settings::FrmCtlViewWindowState)));
+    restore_window_state(*this, stored, window_keys);
     Text1.set_text(stored.read(settings::Text1));
     Text3.set_text(stored.read(settings::SearchText));
     if (const std::wstring game = stored.read(settings::DefaultGame); !game.empty()) List2.select_text(game);
@@ -75,9 +80,7 @@ void frmCtlView::restore_settings() {
 
 void frmCtlView::restore_size() {
     if (window_state() != WindowState::Normal) return;
-    // Never below the smallest size: the window would grow to it only after it was put in the middle of the screen.
-    set_size(std::max<double>(session_.settings.read(settings::FrmCtlViewWidth), viewer_minimum_size.width),
-             std::max<double>(session_.settings.read(settings::FrmCtlViewHeight), viewer_minimum_size.height));
+    restore_window_size(*this, session_.settings, window_keys, viewer_minimum_size);
 }
 
 void frmCtlView::build_alphabet_bar() {
@@ -107,14 +110,11 @@ void frmCtlView::save_settings() {
     store.write(settings::Font, Text1.font().name);
     store.write(settings::Colour, menus.mnuColour.checked());
     store.write(settings::AutoSelect, menus.mnuAutoSelect.checked());
-    store.write(settings::FrmCtlViewWindowState, static_cast<std::int32_t>(window_state()));
     store.write(settings::Text1, Text1.text());
     store.write(settings::SearchText, Text3.text());
     store.write(settings::DefaultGame, List2.text());
     store.write(settings::FrmCtlViewCaption, caption());
-    if (window_state() != WindowState::Normal) return;
-    store.write(settings::FrmCtlViewHeight, stored_size(height()));
-    store.write(settings::FrmCtlViewWidth, stored_size(width()));
+    store_window(*this, store, window_keys);
 }
 
 }  // namespace quillomat

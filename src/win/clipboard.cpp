@@ -9,20 +9,13 @@
 namespace quillomat {
 namespace {
 
-// Programs that watch the clipboard open it for a moment whenever it changes.
-constexpr int attempts = 10;
-constexpr DWORD pause_between_attempts = 50;  // milliseconds
-
 /// The clipboard while this program has it open.
 class OpenClipboardScope {
   public:
     explicit OpenClipboardScope(HWND owner) {
-        for (int attempt = 1; !OpenClipboard(owner); ++attempt) {
-            if (attempt == attempts) {
-                throw Error(ErrorCode::ClipboardError,
-                            L"The clipboard is being used by another program. Nothing was copied; please try again.");
-            }
-            Sleep(pause_between_attempts);
+        if (!OpenClipboard(owner)) {
+            throw Error(ErrorCode::ClipboardError,
+                        L"The clipboard is being used by another program. Nothing was copied; please try again.");
         }
     }
     ~OpenClipboardScope() { CloseClipboard(); }
@@ -43,7 +36,22 @@ GlobalMemory global_copy(std::wstring_view text) {
     return memory;
 }
 
+bool clipboard_is_free() {
+    if (!OpenClipboard(nullptr)) return false;
+    CloseClipboard();
+    return true;
+}
+
 }  // namespace
+
+void wait_for_clipboard() {
+    // Programs that watch the clipboard open it for a moment whenever it changes.
+    constexpr DWORD milliseconds = 3000;
+    constexpr DWORD between_attempts = 20;
+    for (DWORD waited = 0; waited < milliseconds && !clipboard_is_free(); waited += between_attempts) {
+        Sleep(between_attempts);
+    }
+}
 
 void put_on_clipboard(HWND owner, std::wstring_view text) {
     // All that can fail for want of memory comes before the clipboard is touched.

@@ -6,9 +6,12 @@
 
 namespace quillomat {
 
-/// Puts a text on the clipboard, in the place of what is there, for every program to paste; `owner` is the program's
-/// window that has put it there. A NUL, at which readers would stop, becomes a blank. Throws `Error`: ClipboardError
-/// when another program keeps the clipboard open for longer than a moment, OutOfMemory.
+/// Returns as soon as no program has the clipboard open, at the latest after some seconds.
+void wait_for_clipboard();
+
+/// Replaces what is on the clipboard by a text; `owner` is the program's window that has put it there. A NUL, at which
+/// readers would stop, becomes a blank. Throws `Error`: ClipboardError if another program has the clipboard open,
+/// OutOfMemory.
 void put_on_clipboard(HWND owner, std::wstring_view text);
 
 }  // namespace quillomat

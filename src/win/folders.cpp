@@ -1,19 +1,12 @@
 #include "win/folders.h"
 
 #include <algorithm>
-#include <chrono>
-#include <future>
-#include <memory>
-#include <thread>
 
 #include "text/paths.h"
 #include "win/errors.h"
 
 namespace quillomat {
 namespace {
-
-/// How long a drive that may be far away or asleep has to answer.
-constexpr std::chrono::seconds patience{5};
 
 DriveKind kind_of(UINT type) {
     switch (type) {
@@ -68,7 +61,28 @@ bool comes_before(const std::wstring& a, const std::wstring& b) {
                            static_cast<int>(b.size()), nullptr, nullptr, 0) == CSTR_LESS_THAN;
 }
 
-FolderContent read_folder(const std::wstring& path) {
+}  // namespace
+
+std::vector<Drive> drives() {
+    const QuietDrives quiet;
+    std::vector<Drive> found;
+    const DWORD letters = GetLogicalDrives();
+    for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
+        if (!(letters >> (letter - L'A') & 1)) continue;
+        Drive drive;
+        drive.root = std::wstring(1, letter) + L":\\";
+        drive.kind = kind_of(GetDriveTypeW(drive.root.c_str()));
+        wchar_t label[MAX_PATH + 1]{};
+        if (drive.kind == DriveKind::Fixed &&
+            GetVolumeInformationW(drive.root.c_str(), label, MAX_PATH, nullptr, nullptr, nullptr, nullptr, 0)) {
+            drive.label = label;
+        }
+        found.push_back(std::move(drive));
+    }
+    return found;
+}
+
+FolderContent list_folder(const std::wstring& path) {
     const QuietDrives quiet;
     FolderContent content;
     WIN32_FIND_DATAW found{};
@@ -97,38 +111,6 @@ FolderContent read_folder(const std::wstring& path) {
 bool answers_at_once(const std::wstring& path) {
     const UINT type = GetDriveTypeW(folder_steps(path).front().path.c_str());
     return type == DRIVE_FIXED || type == DRIVE_RAMDISK;
-}
-
-}  // namespace
-
-std::vector<Drive> drives() {
-    const QuietDrives quiet;
-    std::vector<Drive> found;
-    const DWORD letters = GetLogicalDrives();
-    for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
-        if (!(letters >> (letter - L'A') & 1)) continue;
-        Drive drive;
-        drive.root = std::wstring(1, letter) + L":\\";
-        drive.kind = kind_of(GetDriveTypeW(drive.root.c_str()));
-        wchar_t label[MAX_PATH + 1]{};
-        if (drive.kind == DriveKind::Fixed &&
-            GetVolumeInformationW(drive.root.c_str(), label, MAX_PATH, nullptr, nullptr, nullptr, nullptr, 0)) {
-            drive.label = label;
-        }
-        found.push_back(std::move(drive));
-    }
-    return found;
-}
-
-FolderContent list_folder(const std::wstring& path) {
-    if (answers_at_once(path)) return read_folder(path);
-    // The system waits half a minute and more for a computer that has gone, and the call cannot be taken back. So
-    // another thread waits, and is left behind if it takes too long; it shares nothing but its own result.
-    auto task = std::make_shared<std::packaged_task<FolderContent()>>([path] { return read_folder(path); });
-    std::future<FolderContent> content = task->get_future();
-    std::thread([task] { (*task)(); }).detach();
-    if (content.wait_for(patience) != std::future_status::ready) throw Error(ErrorCode::DiskNotReady);
-    return content.get();
 }
 
 std::wstring current_folder() {

@@ -27,9 +27,12 @@ struct FolderContent {
     std::vector<std::wstring> files;
 };
 
-/// Looks into a folder. Throws `Error`: PathNotFound, PermissionDenied, DiskNotReady for a drive that is empty, gone or
-/// does not answer within some seconds, ...
+/// Looks into a folder. Throws `Error`: PathNotFound, PermissionDenied, DiskNotReady, ... Takes half a minute and more
+/// where a computer or a drive has gone.
 FolderContent list_folder(const std::wstring& path);
+
+/// False for a folder on a drive that may be far away or asleep.
+bool answers_at_once(const std::wstring& path);
 
 /// The folder the program was started in, or that it was led to since.
 std::wstring current_folder();

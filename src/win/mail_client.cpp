@@ -94,10 +94,7 @@ HMODULE load_library() {
     // Without any mail program the system's library would show a message of its own first.
     if (!is_registered_below(HKEY_CURRENT_USER) && !is_registered_below(HKEY_LOCAL_MACHINE))
         fail_without_mail_program();
-    constexpr wchar_t name[] = L"mapi32.dll";
-    HMODULE library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    // Where the system is told to do without its own one, it lies beside the program.
-    if (!library) library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_APPLICATION_DIR);
+    const HMODULE library = LoadLibraryExW(L"mapi32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (!library) fail_without_mail_program();
     return library;
 }
@@ -176,7 +173,7 @@ void MailSession::send(const Mail& mail) {
         const Texts<std::wstring> texts{mail.address, mail.name, mail.subject, mail.text, mail.attachment};
         result = send_with(send_wide, session_, owner_, texts, keep_every_character);
     }
-    if (result == MailResult::UnicodeNotSupported) {
+    if (result == MailResult::UnicodeNotSupported || result == MailResult::NotSupported) {
         const auto send_narrow = find<SendFunction<char>>(library_, "MAPISendMail");
         if (!send_narrow) fail(MailResult::NotSupported);
         result = send_with(send_narrow, session_, owner_, in_system_code_page(mail), 0);

@@ -4,7 +4,7 @@
 
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
-#include "session_support.h"
+#include "shown_viewer.h"
 #include "win/code_page.h"
 // Needs what they include.
 #include <mapi.h>
@@ -33,13 +33,15 @@ struct MailProgram {
     /// The files that went with it, by the names the recipient sees.
     std::map<std::wstring, std::string> files;
     std::string refused;
+    /// What happens while it has the mail, on the thread that sends; is given the window above which it shows dialogs.
+    std::function<void(HWND)> while_sending;
     ULONG refusal = 0;
 };
 
 MailProgram mail_program;
 
 /// A window that sends mails, on a computer whose default mail program is the tests' own.
-struct MailTest : SessionTest {
+struct MailTest : ShownViewerTest {
     MailTest() {
         mail_program = {};
         wchar_t path[MAX_PATH];
@@ -72,12 +74,12 @@ struct MailCheatsTest : MailTest {
             database += "$$$$$$$$$$$$$$$$$$$$ ";
             database += (number == 7 ? "\xC9t\xE9 " : "Game ") + std::to_string(number) + "\r\n";
         }
-        session.catalogue.load(decode(database), [this](std::wstring_view name) { games.names.emplace_back(name); });
+        open_viewer(database);
     }
 
     void open(std::initializer_list<int> picked = {}) {
         expect_requirements();
-        open_in(form, session, games);
+        open_in(form, session, *link);
         form->Text1.set_text(L"M\u00FCller \u65E5\u672C");
         form->Text2.set_text(L"\u03A9mega");
         form->Text4.set_text(L"friend@home.example");
@@ -104,7 +106,6 @@ struct MailCheatsTest : MailTest {
         EXPECT_EQ(mail_program.take_calls(), expected_calls);
     }
 
-    GamesToPick games;
     std::unique_ptr<frmMailCheats> form;
 };
 
@@ -181,8 +182,52 @@ TEST_F(MailCheatsTest, AFileThatCannotBeWrittenAndAMissingMailProgramAreExplaine
         {});
 }
 
+TEST_F(MailCheatsTest, WindowsRepaintAndTakeNoInputWhileTheMailProgramIsSlow) {
+    open({3});
+    mail_program.while_sending = [button = form->Command1.window(), box = form->Text1.window()](HWND owner) {
+        EnableWindow(owner, TRUE);  // as mail programs do behind their dialogs
+        PostMessageW(button, BM_CLICK, 0, 0);
+        PostMessageW(box, WM_CHAR, 'x', 1);
+        EXPECT_TRUE(is_repainted(owner));
+        EXPECT_FALSE(IsWindowEnabled(owner));
+        EXPECT_EQ(text_of(box), L"M\u00FCller \u65E5\u672C");
+    };
+    expect_sent();
+    EXPECT_EQ(mail_program.take_calls(), (Calls{"MAPILogon", "MAPISendMailW", "MAPILogoff"})) << "sent once";
+}
+
+TEST_F(MailCheatsTest, AMailIsSentToItsEndThoughItsWindowsAreClosed) {
+    for (const auto& key : {settings::MailYourName, settings::MailFriendsName, settings::MailFriendsEmail}) {
+        session.settings.write(key, L"somebody");
+    }
+    viewer->List2.select_index(0);
+    expect_requirements();
+    frmMailCheats dialog(application, session, *link);
+    dialog.Timer1.on_timer = [&] {
+        if (dialog.shown() && mail_program.calls.empty()) press(dialog.Command1);
+    };
+    mail_program.while_sending = [&](HWND owner) {
+        PostMessageW(viewer->window(), WM_CLOSE, 0, 0);
+        EXPECT_TRUE(is_repainted(owner));
+    };
+    dialog.show_modal(viewer.get());
+    EXPECT_EQ(mail_program.take_calls(), (Calls{"MAPILogon", "MAPISendMailW", "MAPILogoff"}));
+    EXPECT_SOON(!viewer);
+}
+
+TEST_F(MailCheatsTest, AMailProgramThatCrashesIsExplained) {
+    open({0});
+    form->Option2.set_value(true);
+    mail_program.while_sending = [](HWND) { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); };
+    expect_message(L"Quillomat",
+                   L"Your mail program has stopped working, so that it is not known whether the message was sent. Look "
+                   L"into its outbox before you send the message again.");
+    press(form->Command1);
+    EXPECT_TRUE(form && IsWindowEnabled(form->window()) && !exists("Cheats.txt"));
+}
+
 TEST_F(MailCheatsTest, PicksAreCountedAndNamedAndTheCursorWalksThroughThem) {
-    games.selected = 5;
+    viewer->List2.select_index(5);
     open();
     EXPECT_TRUE(form->List1.has_focus());
     EXPECT_EQ(form->List1.picked_indexes(), std::vector{5}) << "the viewer's game";
@@ -219,7 +264,7 @@ TEST_F(MailCheatsTest, SendingNeedsAPickAndEveryTextWhichIsRemembered) {
     press_key(VK_ESCAPE);
     ASSERT_SOON(!form) << "Escape cancels, also from the message";
     expect_requirements();
-    open_in(form, session, games);
+    open_in(form, session, *link);
     expect_filled_in();
 }
 
@@ -251,8 +296,7 @@ TEST_F(MailMeTest, APickedSubjectAndATypedMessageReachTheAuthor) {
     EXPECT_EQ(mail_program.take_calls().back(), "MAPILogoff");
     refuse("", 0);
     form->Text1.set_focus();
-    press_key(VK_TAB);
-    press_key(VK_SPACE);
+    for (const WORD key : {VK_TAB, VK_TAB, VK_SPACE}) press_key(key);
     expect_message(L"Quillomat", L"The message was sent!");
     ASSERT_SOON(!form);
     EXPECT_EQ(mail_program.take_calls(), (Calls{"MAPILogon", "MAPISendMailW", "MAPILogoff"}));
@@ -330,6 +374,7 @@ __declspec(dllexport) ULONG WINAPI
                          recipient.ulRecipClass == MAPI_TO && !(flags & MAPI_DIALOG) &&
                          IsWindow(reinterpret_cast<HWND>(owner)) &&
                          (!with_file || mail->lpFiles[0].nPosition == 0xFFFFFFFF);
+    if (mail_program.while_sending) mail_program.while_sending(reinterpret_cast<HWND>(owner));
     const ULONG refusal =
         mail_program.call("MAPISendMailW", std::string(with_file ? " with file" : "") + (rightly ? "" : " wrongly"));
     if (refusal != 0) return refusal;

@@ -110,9 +110,10 @@ TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {
     EXPECT_EQ(window->Label3.caption(), (place / "inner").wstring());
     window->Dir1.set_focus();
     select(window->Dir1, L"deep");
+    EXPECT_EQ(window->default_button(), nullptr) << "Enter opens the folder";
     press_key(VK_RETURN);
     EXPECT_SOON(window->Dir1.path().ends_with(L"inner\\deep"));
-    EXPECT_FALSE(window->closed()) << "Enter is the folder's here, not the default button's";
+    EXPECT_EQ(window->default_button(), &window->Command1) << "the next Enter saves";
     for (std::size_t i = 0; i <= steps.size() + 2; ++i) press_key(VK_BACK);
     EXPECT_SOON(window->Dir1.path() == steps.front().path);
 

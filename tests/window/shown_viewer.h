@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "session_support.h"
-#include "shell/viewer_link.h"
+#include "shell/open_viewer.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {

@@ -22,6 +22,18 @@
 
 namespace quillomat {
 
+/// For another thread than the window's: whether the window, once a part of it was uncovered, is painted again within
+/// ten seconds.
+inline bool is_repainted(HWND window) {
+    const ULONGLONG deadline = GetTickCount64() + 10'000;
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE);
+    while (GetUpdateRect(window, nullptr, FALSE)) {
+        if (GetTickCount64() > deadline) return false;
+        Sleep(5);
+    }
+    return true;
+}
+
 /// Windows are tested as they are: real ones, in the test's own process, with real messages.
 class WindowTest : public ::testing::Test {
   protected:

@@ -2,6 +2,10 @@
 
 #include "common/clsTextBox.h"
 
+#include <future>
+#include <thread>
+
+#include "common/copied_text.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "support.h"
@@ -77,6 +81,24 @@ TEST_F(ClipboardTest, AWindowThatKeepsItOpenIsReportedAndNothingChanges) {
     }
     EXPECT_TRUE(CloseClipboard()) << "it is still open for the window";
     EXPECT_EQ(clipboard_text(), L"before");
+}
+
+TEST_F(ClipboardTest, WindowsRepaintWhileAnotherProgramKeepsItOpen) {
+    std::unique_ptr<Form> form;
+    open_in(form, FormDesign{.name = L"frmTest", .caption = L"", .width = 3000, .height = 3000});
+    std::promise<void> opened;
+    std::thread other_program([&] {
+        const HWND window = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        EXPECT_TRUE(OpenClipboard(window));
+        opened.set_value();
+        EXPECT_TRUE(is_repainted(form->window()));
+        CloseClipboard();
+        DestroyWindow(window);
+    });
+    opened.get_future().wait();
+    CopyText(*form, L"copied");
+    other_program.join();
+    EXPECT_EQ(clipboard_text(), L"copied");
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "common/window_settings.h"
 #include "output/frmAddNew.h"
 #include "shown_viewer.h"
 
@@ -383,11 +382,6 @@ TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
     EXPECT_TRUE(IsWindowVisible(viewer->window()) && !IsIconic(viewer->window()));
     viewer->List2.select_index(1);
     EXPECT_EQ(viewer->Text1.text(), L"MARIO warps");
-}
-
-TEST(WindowSettings, SizesAreStoredInWholeTwips) {
-    const std::pair<double, int> cases[] = {{6660.6, 6661}, {6660.5, 6660}, {6661.5, 6662}, {40000, 32767}};
-    for (const auto& [twips, stored] : cases) EXPECT_EQ(stored_size(twips), stored) << twips;
 }
 
 }  // namespace

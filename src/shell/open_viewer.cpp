@@ -1,4 +1,4 @@
-#include "shell/viewer_link.h"
+#include "shell/open_viewer.h"
 
 #include "viewer/frmCtlView.h"
 
@@ -8,12 +8,24 @@ Form& OpenViewer::window() {
     return viewer_;
 }
 
-std::wstring OpenViewer::game_name() const {
+std::wstring OpenViewer::shown_game() const {
     return viewer_.caption();
 }
 
-std::wstring OpenViewer::cheats() const {
+std::wstring OpenViewer::shown_cheats() const {
     return viewer_.Text1.text();
+}
+
+int OpenViewer::game_count() const {
+    return viewer_.List2.count();
+}
+
+std::wstring OpenViewer::game_name(int number) const {
+    return viewer_.List2.item(number);
+}
+
+std::optional<int> OpenViewer::selected_game() const {
+    return viewer_.List2.selected_index();
 }
 
 void OpenViewer::select_game(int number) {
