@@ -39,16 +39,6 @@ TEST(PrintedLines, NothingOfATextIsLost) {
     EXPECT_EQ(printed_lines(L"ab" PAIR, nothing_fits), (Lines{L"a", L"b", PAIR}));
 }
 
-TEST(PrintedLines, ALineAsLongAsABookIsMeasuredInPieces) {
-    std::size_t longest_measured = 0;
-    const Lines lines = printed_lines(std::wstring(100'000, L'x'), [&](std::wstring_view text) {
-        longest_measured = std::max(longest_measured, text.size());
-        return std::min<std::size_t>(text.size(), 100);
-    });
-    EXPECT_EQ(lines, Lines(1000, std::wstring(100, L'x')));
-    EXPECT_LE(longest_measured, 1000u);
-}
-
 TEST(LineFlow, LinesGoOnOnFurtherPagesAndNoneIsCut) {
     using Place = LineFlow::Place;
     constexpr auto same = LineFlow::Page::Same;

@@ -29,8 +29,6 @@ class FilePrinter {
         DeletePrinter(printer_);
         ClosePrinter(printer_);
     }
-    FilePrinter(const FilePrinter&) = delete;
-    FilePrinter& operator=(const FilePrinter&) = delete;
 
     bool installed() const { return printer_ != nullptr; }
 

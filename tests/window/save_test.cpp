@@ -36,7 +36,9 @@ struct SaveTest : ShownViewerTest {
     void double_click(const ListBox& list) {
         SendMessageW(window->window(), WM_COMMAND, MAKEWPARAM(0, LBN_DBLCLK), reinterpret_cast<LPARAM>(list.window()));
     }
-    void hide(const char* name) const { SetFileAttributesW((place / name).c_str(), FILE_ATTRIBUTE_HIDDEN); }
+    void set_attributes(const char* name, DWORD attributes) const {
+        SetFileAttributesW((place / name).c_str(), attributes);
+    }
 
     const std::filesystem::path place = folder.path() / "place";
     std::unique_ptr<frmSave> window;
@@ -73,7 +75,7 @@ TEST_F(SaveTest, AsksBeforeOverwriting) {
 
 TEST_F(SaveTest, WhatCannotBeWrittenIsReportedAndTheDialogStays) {
     write("place/fixed.txt", "old");
-    SetFileAttributesW((place / "fixed.txt").c_str(), FILE_ATTRIBUTE_READONLY);
+    set_attributes("fixed.txt", FILE_ATTRIBUTE_READONLY);
     open();
     expect_message(L"Error", L"Please give a file name!");
     save(L"");
@@ -86,7 +88,7 @@ TEST_F(SaveTest, WhatCannotBeWrittenIsReportedAndTheDialogStays) {
     expect_question(L"fixed.txt");
     expect_message(L"Error!", L"Permission denied");
     save(L"fixed");
-    SetFileAttributesW((place / "fixed.txt").c_str(), FILE_ATTRIBUTE_NORMAL);
+    set_attributes("fixed.txt", FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(bytes("place/fixed.txt"), "old");
     std::filesystem::remove_all(place);
     expect_message(L"Error!", L"Path not found");
@@ -97,7 +99,7 @@ TEST_F(SaveTest, WhatCannotBeWrittenIsReportedAndTheDialogStays) {
 TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {
     for (const char* name : {"inner/deep", "hidden"}) std::filesystem::create_directories(place / name);
     for (const char* name : {"secret.txt", "b10.txt", "B9.TXT", "a.doc", "c.txtx"}) folder.write(place / name, "");
-    for (const char* name : {"hidden", "secret.txt"}) hide(name);
+    for (const char* name : {"hidden", "secret.txt"}) set_attributes(name, FILE_ATTRIBUTE_HIDDEN);
     open();
     EXPECT_EQ(window->File1.count(), 2);
     EXPECT_EQ(window->File1.item(0) + L" " + window->File1.item(1), L"B9.TXT b10.txt");
