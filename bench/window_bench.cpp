@@ -6,7 +6,7 @@
 #include "forms/application.h"
 #include "output/frmAddNew.h"
 #include "output/frmMailCheats.h"
-#include "shell/viewer_link.h"
+#include "shell/open_viewer.h"
 #include "support/files.h"
 #include "viewer/frmCtlView.h"
 #include "viewer/frmFind.h"
