@@ -100,7 +100,8 @@ void measure_frames(OpenedViewer& open) {
     search();
     print_frame("search with " + std::to_string(open.viewer.List1.count()) + " hits", search, [] {});
 
-    frmMailCheats form(open.application, open.session, {std::vector<std::wstring>(2500, L"A game"), 0});
+    while (open.link.game_count() < 2500) open.link.list_game(L"A game");
+    frmMailCheats form(open.application, open.session, open.link);
     form.show();
     const HWND list = form.List1.window();
     SendMessageW(list, LB_SETSEL, TRUE, -1);
