@@ -1,9 +1,7 @@
 #include "controls/button.h"
 
-#include <uxtheme.h>
-#include <vssym32.h>
-
 #include "forms/form.h"
+#include "win/theme.h"
 
 namespace quillomat {
 
@@ -16,10 +14,6 @@ void Button::set_caption(const std::wstring& caption) {
     InvalidateRect(window(), nullptr, FALSE);
 }
 
-void Button::click() {
-    raise(on_click);
-}
-
 void Button::notified(WORD code) {
     if (code == BN_CLICKED) click();
 }
@@ -27,21 +21,24 @@ void Button::notified(WORD code) {
 bool Button::is_default() const {
     // While any button has the focus, Enter presses that one.
     if (has_focus()) return true;
-    return form().default_button() == this && !dynamic_cast<Button*>(Control::from(GetFocus()));
+    const Control* focused = Control::from(GetFocus());
+    return form().default_button() == this && !(focused && focused->is_button());
+}
+
+int Button::theme_state(bool pressed) const {
+    if (!enabled()) return PBS_DISABLED;
+    if (pressed) return PBS_PRESSED;
+    if (hot_) return PBS_HOT;
+    return is_default() ? PBS_DEFAULTED : PBS_NORMAL;
 }
 
 void Button::draw_face(HDC canvas, RECT& area, bool pressed) const {
-    const HTHEME theme = back_colour() == colours::button_face ? OpenThemeData(window(), L"BUTTON") : nullptr;
-    if (theme) {
-        const int state = !enabled()     ? PBS_DISABLED
-                          : pressed      ? PBS_PRESSED
-                          : hot_         ? PBS_HOT
-                          : is_default() ? PBS_DEFAULTED
-                                         : PBS_NORMAL;
+    const Theme theme(window(), L"BUTTON", dpi());
+    if (theme && back_colour() == colours::button_face) {
+        constexpr double frame = 45;  // twips between the edge and the focus frame
         fill(canvas, area, colours::button_face);
-        DrawThemeBackground(theme, canvas, BP_PUSHBUTTON, state, &area, nullptr);
-        CloseThemeData(theme);
-        InflateRect(&area, -3, -3);
+        theme.draw(canvas, BP_PUSHBUTTON, theme_state(pressed), area);
+        InflateRect(&area, -to_pixels(frame, dpi()), -to_pixels(frame, dpi()));
         return;
     }
     if (is_default()) {
@@ -101,7 +98,7 @@ LRESULT Button::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
             // The mark of the default button moves with the focus.
-            if (Button* marked = form().default_button()) InvalidateRect(marked->window(), nullptr, FALSE);
+            if (const Control* marked = form().default_button()) InvalidateRect(marked->window(), nullptr, FALSE);
             break;
         case WM_ERASEBKGND:
             return 1;

@@ -18,8 +18,10 @@ class Button : public Control {
     /// The colour of the caption while the button is disabled: the system's grey unless it is set.
     void set_disabled_fore_colour(Colour colour) { disabled_fore_colour_ = colour; }
     /// Does what a press of the button does.
-    void click();
+    void click() { raise(on_click); }
 
+    bool is_button() const override { return true; }
+    void press() override { click(); }
     void notified(WORD code) override;
     void draw(const DRAWITEMSTRUCT& request) override;
 
@@ -30,6 +32,7 @@ class Button : public Control {
 
   private:
     bool is_default() const;
+    int theme_state(bool pressed) const;
     COLORREF caption_colour() const;
     void draw_face(HDC canvas, RECT& area, bool pressed) const;
 

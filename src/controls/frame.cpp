@@ -1,9 +1,7 @@
 #include "controls/frame.h"
 
-#include <uxtheme.h>
-#include <vssym32.h>
-
 #include "forms/form.h"
+#include "win/theme.h"
 
 namespace quillomat {
 
@@ -22,9 +20,8 @@ void Frame::draw_background(HDC canvas, const RECT& client) {
 
     RECT border = client;
     border.top += metrics.tmHeight / 2;
-    if (const HTHEME theme = OpenThemeData(window(), L"BUTTON")) {
-        DrawThemeBackground(theme, canvas, BP_GROUPBOX, enabled() ? GBS_NORMAL : GBS_DISABLED, &border, nullptr);
-        CloseThemeData(theme);
+    if (const Theme theme(window(), L"BUTTON", dpi()); theme) {
+        theme.draw(canvas, BP_GROUPBOX, enabled() ? GBS_NORMAL : GBS_DISABLED, border);
     } else {
         DrawEdge(canvas, &border, EDGE_ETCHED, BF_RECT);
     }

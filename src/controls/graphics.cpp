@@ -9,52 +9,6 @@
 
 namespace quillomat {
 
-Graphic::Graphic(Container& container, Bounds bounds) : Item(container, bounds) {
-    container.add(*this);
-}
-
-Graphic::~Graphic() {
-    container().remove(*this);
-}
-
-RECT Graphic::place() const {
-    const Bounds& bounds = exact_bounds();
-    const int x = to_pixels(bounds.left, dpi());
-    const int y = to_pixels(bounds.top, dpi());
-    return {x, y, x + to_pixels(bounds.width, dpi()), y + to_pixels(bounds.height, dpi())};
-}
-
-void Graphic::invalidate() const {
-    // Before the first painting there is nothing to paint again; dozens of labels are set up meanwhile.
-    if (form().shown()) InvalidateRect(container().window(), &pixels_, FALSE);
-}
-
-void Graphic::apply_bounds() {
-    const RECT place_now = place();
-    if (EqualRect(&place_now, &pixels_)) return;
-    if (visible()) invalidate();
-    pixels_ = place_now;
-    if (visible()) invalidate();
-    if (!tool_tip_.empty()) form().tool_tips().set(container().window(), this, pixels_, tool_tip_);
-}
-
-void Graphic::set_tool_tip(std::wstring text) {
-    tool_tip_ = std::move(text);
-    form().tool_tips().set(container().window(), this, pixels_, tool_tip_);
-}
-
-void Graphic::apply_visible() {
-    invalidate();
-}
-
-void Graphic::bring_to_front() {
-    container().bring_to_front(*this);
-}
-
-void Graphic::refresh() {
-    RedrawWindow(container().window(), &pixels_, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-}
-
 Label::Label(Container& container, std::wstring caption, Bounds bounds)
     : Graphic(container, bounds), caption_(std::move(caption)) {
     place_now();

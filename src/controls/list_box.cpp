@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "forms/gdi.h"
 #include "text/error.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 
@@ -36,8 +36,7 @@ void ListBox::clear() {
 }
 
 void ListBox::add(std::wstring_view text) {
-    // Past the handlers, which have nothing to do with it: thousands are added at once.
-    if (default_message(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
+    if (send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
         throw Error(ErrorCode::OutOfMemory);
     }
 }
@@ -138,7 +137,7 @@ LRESULT ListBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     const bool picks_by_key = picking_ == Picking::Several && message == WM_KEYDOWN && wparam == VK_SPACE;
     if (picks_by_key) told_of_change_ = false;
     const LRESULT result = Control::handle_message(message, wparam, lparam);
-    // Wine picks, but tells nobody.
+    // Wine: the control picks, but sends no LBN_SELCHANGE.
     if (picks_by_key && !told_of_change_) raise(on_click);
     return result;
 }

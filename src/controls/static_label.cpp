@@ -1,7 +1,5 @@
 #include "controls/static_label.h"
 
-#include "forms/container.h"
-
 namespace quillomat {
 
 StaticLabel::StaticLabel(Container& container, std::wstring_view caption, Bounds bounds)
@@ -9,11 +7,6 @@ StaticLabel::StaticLabel(Container& container, std::wstring_view caption, Bounds
 
 void StaticLabel::set_caption(const std::wstring& caption) {
     SetWindowTextW(window(), caption.c_str());
-}
-
-HBRUSH StaticLabel::prepare_colours(HDC canvas) {
-    set_default_back_colour(container().back_colour());
-    return Control::prepare_colours(canvas);
 }
 
 void StaticLabel::apply_bounds() {

@@ -14,8 +14,6 @@ class StaticLabel : public Control {
 
     void set_caption(const std::wstring& caption);
 
-    HBRUSH prepare_colours(HDC canvas) override;
-
   protected:
     void apply_bounds() override;
 };

@@ -11,9 +11,9 @@ namespace {
 // The system's own limit of what can be typed is 32 K or 64 K characters.
 constexpr WPARAM no_limit = 0x7FFFFFFE;
 
-// The time to break one line grows with the square of its length in some versions of the system's control; a line as
-// long as this can still be shown at once.
-constexpr std::size_t longest_broken_line = 2000;
+// Wine: the time to break one line grows with the square of its length; a line as long as this can still be shown at
+// once.
+constexpr std::size_t longest_broken_line = 20'000;
 
 // The largest size in which all help texts fit boxes of a given width, such as those of the viewer's image bar.
 constexpr double help_points = 7.5;

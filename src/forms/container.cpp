@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/graphics.h"
 #include "forms/control.h"
 #include "forms/form.h"
-#include "forms/gdi.h"
+#include "forms/graphic.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 
@@ -188,6 +188,12 @@ std::optional<LRESULT> Container::handle_container_message(UINT message, WPARAM 
         case WM_CAPTURECHANGED:
             release_all();
             return 0;
+        case WM_SYSCOLORCHANGE:
+        case WM_THEMECHANGED:
+            // The system tells top-level windows only. A frame passes it on to the controls on it.
+            for (const Control* control : controls_) SendMessageW(control->window(), message, wparam, lparam);
+            InvalidateRect(window(), nullptr, TRUE);
+            break;
         case WM_COMMAND:
             if (Control* control = Control::from(reinterpret_cast<HWND>(lparam))) {
                 control->notified(HIWORD(wparam));

@@ -3,9 +3,9 @@
 #include <optional>
 #include <vector>
 
-#include "forms/colour.h"
 #include "forms/events.h"
 #include "win/api.h"
+#include "win/colour.h"
 
 namespace quillomat {
 

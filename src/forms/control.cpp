@@ -29,10 +29,11 @@ Control::~Control() {
 }
 
 void Control::destroy_window() {
-    // What the destruction sends is no event: the handlers may be gone already.
-    silent_ = true;
-    if (window_) DestroyWindow(window_);
-    silent_ = false;
+    if (!window_) return;
+    // The handlers may be gone already, so nothing that the destruction sends is an event.
+    RemoveWindowSubclass(window_, procedure, 0);
+    RemovePropW(window_, control_property);
+    DestroyWindow(std::exchange(window_, nullptr));
 }
 
 void Control::create_window(std::wstring_view text, DWORD style) {
@@ -46,12 +47,8 @@ void Control::create_window(std::wstring_view text, DWORD style) {
         to_pixels(bounds.height, resolution), container().window(),
         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(form().next_control_id())), GetModuleHandleW(nullptr), nullptr);
     if (!window_) throw_last_error();
-    // Not the common controls' way of subclassing: it looks its chain up for every single message, which makes filling
-    // a list a hundred times slower.
     SetPropW(window_, control_property, this);
-    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    system_procedure_ =
-        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+    SetWindowSubclass(window_, procedure, 0, reinterpret_cast<DWORD_PTR>(this));
     apply_font();
 }
 
@@ -67,28 +64,34 @@ void Control::recreate(DWORD style) {
     if (!visible()) apply_visible();
     if (!enabled()) apply_enabled();
     if (!tool_tip_.empty()) form().tool_tips().set(window_, tool_tip_);
-    focused ? set_focus() : form().move_last_focus(former, window_);
+    place_name();
+    if (focused) {
+        set_focus();
+    } else {
+        form().move_last_focus(former, window_);
+    }
 }
 
 Control* Control::from(HWND window) {
     if (HANDLE control = GetPropW(window, control_property)) return static_cast<Control*>(control);
+    // A part that the system made for a control, such as the field of a combo box, belongs to the control.
     return static_cast<Control*>(GetPropW(GetParent(window), control_property));
 }
 
-LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    auto& control = *reinterpret_cast<Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                    DWORD_PTR reference) {
+    auto& control = *reinterpret_cast<Control*>(reference);
     if (message == WM_NCDESTROY) {
+        RemoveWindowSubclass(window, procedure, 0);
         RemovePropW(window, control_property);
         control.window_ = nullptr;
-    }
-    if (message == WM_NCDESTROY || control.silent_) {
-        return CallWindowProcW(control.system_procedure_, window, message, wparam, lparam);
+        return DefSubclassProc(window, message, wparam, lparam);
     }
     return control.form().guarded([&] { return control.handle_message(message, wparam, lparam); }, message);
 }
 
 LRESULT Control::default_message(UINT message, WPARAM wparam, LPARAM lparam) {
-    return CallWindowProcW(system_procedure_, window_, message, wparam, lparam);
+    return DefSubclassProc(window_, message, wparam, lparam);
 }
 
 LRESULT Control::send(UINT message, WPARAM wparam, LPARAM lparam) const {
@@ -97,10 +100,6 @@ LRESULT Control::send(UINT message, WPARAM wparam, LPARAM lparam) const {
 
 LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-            if (!std::exchange(key_previewed_, false) && raise_key_down(static_cast<int>(wparam))) return 0;
-            break;
         case WM_CHAR: {
             CharacterEvent event{.character = static_cast<wchar_t>(wparam)};
             raise(on_key_press, event);
@@ -123,14 +122,10 @@ LRESULT Control::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             return result;
         }
         case WM_SETFOCUS: {
-            form().keep_owned_in_front();
             const LRESULT result = default_message(message, wparam, lparam);
             raise(on_got_focus);
             return result;
         }
-        case WM_GETOBJECT:
-            put_name_before();
-            break;
     }
     return default_message(message, wparam, lparam);
 }
@@ -142,14 +137,12 @@ bool Control::raise_key_down(int key) {
     return event.handled;
 }
 
-bool Control::preview_key(const MSG& message) {
-    const bool handled = raise_key_down(static_cast<int>(message.wParam));
-    key_previewed_ = !handled;
-    return handled;
-}
-
 void Control::set_focus() {
     form().focus(window_);
+}
+
+Colour Control::back_colour() const {
+    return back_colour_ ? *back_colour_ : container().back_colour();
 }
 
 void Control::set_back_colour(Colour colour) {
@@ -165,9 +158,10 @@ void Control::set_fore_colour(Colour colour) {
 }
 
 HBRUSH Control::prepare_colours(HDC canvas) {
-    SetTextColor(canvas, enabled() ? legible(fore_colour_, back_colour_) : resolve(colours::grey_text));
-    SetBkColor(canvas, resolve(back_colour_));
-    SetDCBrushColor(canvas, resolve(back_colour_));
+    const Colour back = back_colour();
+    SetTextColor(canvas, enabled() ? legible(fore_colour_, back) : resolve(colours::grey_text));
+    SetBkColor(canvas, resolve(back));
+    SetDCBrushColor(canvas, resolve(back));
     return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
 }
 
@@ -196,14 +190,19 @@ void Control::set_tool_tip(std::wstring text) {
     form().tool_tips().set(window_, tool_tip_);
 }
 
-void Control::put_name_before() {
-    if (spoken_name_.empty()) return;
-    // They take a control's name from the text right before it, wherever the control is in the order by now. The text
-    // is there, but takes no room, and the arrow keys do not walk to it from the options before it.
+void Control::set_spoken_name(const std::wstring& name) {
+    // Screen readers take a control's name from the static text right before it in z-order. The text takes no room, and
+    // starts a group, so that the arrow keys do not walk to it from the options before it.
     if (!name_window_) {
-        name_window_ = CreateWindowExW(0, L"STATIC", spoken_name_.c_str(), WS_CHILD | WS_VISIBLE | WS_GROUP, 0, 0, 0, 0,
+        name_window_ = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | WS_GROUP, 0, 0, 0, 0,
                                        container().window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+        place_name();
     }
+    SetWindowTextW(name_window_, name.c_str());
+}
+
+void Control::place_name() {
+    if (!name_window_) return;
     const HWND before = GetWindow(window_, GW_HWNDPREV);
     if (before == name_window_) return;
     SetWindowPos(name_window_, before ? before : HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -211,6 +210,7 @@ void Control::put_name_before() {
 
 void Control::bring_to_front() {
     SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    place_name();
 }
 
 void Control::refresh() {

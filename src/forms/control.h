@@ -1,13 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
-#include "forms/colour.h"
 #include "forms/font.h"
 #include "forms/item.h"
+#include "win/colour.h"
 
 namespace quillomat {
 
@@ -35,8 +35,9 @@ class Control : public Item {
     void set_focus();
     bool has_focus() const { return from(GetFocus()) == this; }
 
-    /// The colour behind the text, and that of the text, which is made legible where the two are too much alike.
-    Colour back_colour() const { return back_colour_; }
+    /// The colour behind the text (the container's own until one is set) and that of the text, which is made legible
+    /// where the two are too much alike.
+    Colour back_colour() const;
     void set_back_colour(Colour colour);
     Colour fore_colour() const { return fore_colour_; }
     void set_fore_colour(Colour colour);
@@ -51,7 +52,7 @@ class Control : public Item {
     void set_tool_tip(std::wstring text);
 
     /// What screen readers call it, for a control that has no caption standing before it.
-    void set_spoken_name(std::wstring name) { spoken_name_ = std::move(name); }
+    void set_spoken_name(const std::wstring& name);
 
     void bring_to_front() override;
     void refresh() override;
@@ -68,11 +69,13 @@ class Control : public Item {
     /// Draws an owner-drawn control.
     virtual void draw(const DRAWITEMSTRUCT& /*request*/) {}
 
-    /// Raises the key event for a message that is still on its way, before the dialog keys are looked at; true when the
-    /// handler kept the key.
-    bool preview_key(const MSG& message);
-    /// For a previewed key that will not reach the control after all.
-    void forget_previewed_key() { key_previewed_ = false; }
+    /// Raises the key event, before the dialog keys are looked at; true if a handler kept the key.
+    bool raise_key_down(int key);
+
+    /// True for a push button: Enter presses it while it has the focus.
+    virtual bool is_button() const { return false; }
+    /// Does what a press of the button does.
+    virtual void press() {}
 
   protected:
     /// Creates the window; to be called by the constructor of the kind of control.
@@ -99,26 +102,21 @@ class Control : public Item {
     void apply_enabled() override;
 
   private:
-    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR, DWORD_PTR);
     void create_window(std::wstring_view text, DWORD style);
     void destroy_window();
-    bool raise_key_down(int key);
     void apply_font();
-    void put_name_before();
+    void place_name();
 
     const wchar_t* system_class_;
     DWORD extended_style_;
     HWND window_ = nullptr;
-    WNDPROC system_procedure_ = nullptr;
-    Colour back_colour_ = colours::button_face;
+    std::optional<Colour> back_colour_;
     Colour fore_colour_ = colours::window_text;
     FontSpec font_;
     Font system_font_;  ///< what the window draws with
     std::wstring tool_tip_;
-    std::wstring spoken_name_;
-    HWND name_window_ = nullptr;  // goes with the container's window
-    bool key_previewed_ = false;
-    bool silent_ = false;
+    HWND name_window_ = nullptr;  // destroyed with the container's window
 };
 
 }  // namespace quillomat

@@ -13,7 +13,7 @@ Font make_font(const FontSpec& spec, int dpi) {
     description.lfItalic = spec.italic;
     description.lfUnderline = spec.underline;
     description.lfCharSet = DEFAULT_CHARSET;
-    description.lfQuality = CLEARTYPE_QUALITY;
+    description.lfQuality = DEFAULT_QUALITY;
     const auto length = std::min(spec.name.size(), std::size(description.lfFaceName) - 1);
     std::copy_n(spec.name.begin(), length, description.lfFaceName);
     return {CreateFontIndirectW(&description), [](HFONT font) {

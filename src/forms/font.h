@@ -1,12 +1,10 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <string>
-#include <type_traits>
 #include <utility>
 
-#include "forms/gdi.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 
@@ -22,9 +20,6 @@ struct FontSpec {
     // NOLINTNEXTLINE(modernize-use-nullptr): it means the zero in the comparison that the compiler makes.
     friend auto operator<=>(const FontSpec&, const FontSpec&) = default;
 };
-
-/// A font of the system, which goes with the last who holds it.
-using Font = std::shared_ptr<std::remove_pointer_t<HFONT>>;
 
 /// Makes each font once for each resolution and keeps it, so that changing a control's underline at every movement of
 /// the pointer costs nothing. Of those that nobody holds it keeps some dozens, however many fonts the user tries.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/button.h"
 #include "forms/application.h"
 #include "forms/control.h"
 #include "forms/menu.h"
@@ -17,7 +16,6 @@ namespace {
 
 constexpr UINT destroy_message = WM_APP;
 constexpr WORD application_icon = 1;
-constexpr UINT_PTR idle_timer = 1;
 
 Occasion occasion_of(UINT message) {
     switch (message) {
@@ -89,10 +87,9 @@ Form::Form(Application& application, const FormDesign& design)
                     nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (!window_) throw_last_error();
     application.modality().opened(window_, application.handling());
-    tool_tips_ = ToolTips(window_);
     const UINT system_dpi = GetDpiForWindow(window_);
     dpi_ = application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi);
-    tool_tips_.fit_resolution(dpi_);
+    tool_tips_.create(window_, dpi_);
     SetWindowPos(window_, nullptr, 0, 0, to_pixels(design.width, dpi_), to_pixels(design.height, dpi_),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -225,7 +222,6 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             LOWORD(lparam) ? static_cast<void>(SetFocus(reinterpret_cast<HWND>(wparam))) : move_focus(wparam != 0);
             return 0;
         case WM_SETFOCUS:
-            keep_owned_in_front();
             restore_focus();
             return 0;
         case WM_SETCURSOR:
@@ -240,23 +236,12 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
                 return TRUE;
             }
             break;
-        case WM_SYSCOLORCHANGE:
-        case WM_THEMECHANGED:
-            for (Control* control : controls()) SendMessageW(control->window(), message, wparam, lparam);
-            menu_pictures_changed();
-            InvalidateRect(window_, nullptr, TRUE);
-            break;
     }
     if (const auto result = handle_container_message(message, wparam, lparam)) return *result;
     return DefWindowProcW(window_, message, wparam, lparam);
 }
 
 void Form::timer_has_run(UINT_PTR id) {
-    if (id == idle_timer) {
-        KillTimer(window_, idle_timer);
-        tool_tips_.begin();
-        return;
-    }
     const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(id));
     if (timer != timers_.end() && !closed_) (*timer)->tick();
 }
@@ -269,7 +254,6 @@ bool Form::pick_command(int id) {
 }
 
 void Form::menu_opens(HMENU opening) {
-    if (std::exchange(menu_pictures_stale_, false)) renew_menu_pictures();
     const auto opened = std::find_if(commands_.begin(), commands_.end(),
                                      [opening](const auto& command) { return command.second->handle() == opening; });
     if (opened != commands_.end()) raise(opened->second->on_click);
@@ -296,7 +280,8 @@ void Form::show() {
     const WindowState state = state_;
     if (!shown_) {
         shown_ = true;
-        SetTimer(window_, idle_timer, USER_TIMER_MINIMUM, nullptr);
+        // Focus frames and underlined access keys show as the user's settings and the last input ask for.
+        SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
         resized();
         if (IsWindowEnabled(window_)) restore_focus();
     }
@@ -307,13 +292,6 @@ void Form::show() {
 
 void Form::set_owner(const Form& owner) {
     SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner.window()));
-}
-
-void Form::keep_owned_in_front() {
-    // The system does it by itself, but Wine without a window manager puts a window in front when it gets the focus.
-    for (const Form* form : owned_forms()) {
-        SetWindowPos(form->window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    }
 }
 
 void Form::show_modal(Form* owner) {

@@ -12,14 +12,13 @@
 #include "forms/events.h"
 #include "forms/geometry.h"
 #include "forms/modality.h"
-#include "forms/picture.h"
 #include "forms/tool_tips.h"
 #include "text/window_size.h"
+#include "win/picture.h"
 
 namespace quillomat {
 
 class Application;
-class Button;
 class Menu;
 class Timer;
 
@@ -130,9 +129,9 @@ class Form : public Container, public MouseEvents {
     void refresh();
 
     /// The buttons that Enter and Escape press; null for none.
-    void set_default_button(Button* button);
-    Button* default_button() const { return default_button_; }
-    void set_cancel_button(Button* button) { cancel_button_ = button; }
+    void set_default_button(Control* button);
+    Control* default_button() const { return default_button_; }
+    void set_cancel_button(Control* button) { cancel_button_ = button; }
 
     /// Shows a menu at a position in twips and runs the command the user picks; `default_item` is drawn bold.
     void pop_up(Menu& menu, double left, double top, const Menu* default_item = nullptr);
@@ -146,8 +145,6 @@ class Form : public Container, public MouseEvents {
     void remove_command(int id);
     void set_menu_bar(HMENU bar);
     void menu_changed();
-    /// The pictures of the menus are made when the user next opens one: nobody waits for them before.
-    void menu_pictures_changed() { menu_pictures_stale_ = true; }
     void add(Timer& timer) { timers_.push_back(&timer); }
     void remove(Timer& timer) { std::erase(timers_, &timer); }
     using Container::add;
@@ -166,8 +163,6 @@ class Form : public Container, public MouseEvents {
         // Once for every message, so without the memory that a std::function would take.
         return run_guarded([](void* what) -> LRESULT { return (*static_cast<Work*>(what))(); }, &work, message);
     }
-    /// Puts the windows it owns in front of it; for its controls when they have got the focus.
-    void keep_owned_in_front();
     /// Draws the keyboard cues (focus frame, underlined access keys) from now on.
     void show_keyboard_cues();
 
@@ -206,13 +201,13 @@ class Form : public Container, public MouseEvents {
     WindowSize minimum_;
     HWND window_ = nullptr;
     int dpi_ = 96;
-    ToolTips tool_tips_{nullptr};
+    ToolTips tool_tips_;
     std::vector<Timer*> timers_;
     std::unordered_map<int, Menu*> commands_;
     int next_control_id_ = 1000;
     int next_command_id_ = 100;
-    Button* default_button_ = nullptr;
-    Button* cancel_button_ = nullptr;
+    Control* default_button_ = nullptr;
+    Control* cancel_button_ = nullptr;
     HWND last_focus_ = nullptr;
     WindowState state_ = WindowState::Normal;
     PointerShape pointer_ = PointerShape::Default;
@@ -221,7 +216,6 @@ class Form : public Container, public MouseEvents {
     bool load_begun_ = false;
     bool loading_ = false;
     bool shown_ = false;
-    bool menu_pictures_stale_ = false;
     bool closed_ = false;
     int handlers_running_ = 0;
 };

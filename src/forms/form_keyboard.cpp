@@ -4,7 +4,6 @@
 #include <iterator>
 #include <utility>
 
-#include "controls/button.h"
 #include "forms/application.h"
 #include "forms/control.h"
 #include "forms/form.h"
@@ -41,7 +40,7 @@ bool Form::translate(MSG& message) {
         if (message.message == WM_MOUSEMOVE) raise(on_pointer_moved);
         if (is_key_down(message.message)) raise(on_key_pressed);
         Control* control = is_key_down(message.message) ? Control::from(message.hwnd) : nullptr;
-        if (control) handled = control->preview_key(message);
+        if (control) handled = control->raise_key_down(static_cast<int>(message.wParam));
         if (message.hwnd == window_ && is_key_down(message.message)) {
             handled = raise_key_down(static_cast<int>(message.wParam));
         }
@@ -55,8 +54,6 @@ bool Form::translate(MSG& message) {
         if (handled && with_alt && message.wParam != VK_F4 && message.wParam != VK_MENU && window_) {
             DefWindowProcW(window_, message.message, message.wParam, message.lParam);
         }
-        // The key may have been given to another window or dropped; the next one is a new one in any case.
-        if (handled && control && Control::from(message.hwnd) == control) control->forget_previewed_key();
         return LRESULT{};
     });
     return handled || closed_;
@@ -73,12 +70,12 @@ bool Form::handle_dialog_key(const MSG& message) {
             return true;
         case VK_RETURN: {
             if (wanted & DLGC_WANTALLKEYS) return false;
-            auto* button = dynamic_cast<Button*>(Control::from(message.hwnd));
-            if (!button) button = default_button_;
+            Control* button = Control::from(message.hwnd);
+            if (!button || !button->is_button()) button = default_button_;
             if (!button) return false;
             // A key held down presses one button, not also those of the windows that open meanwhile.
             if (message.lParam & was_down_before) return true;
-            if (button->enabled() && IsWindowVisible(button->window())) button->click();
+            if (button->enabled() && IsWindowVisible(button->window())) button->press();
             return true;
         }
         case VK_ESCAPE:
@@ -88,7 +85,7 @@ bool Form::handle_dialog_key(const MSG& message) {
                 return false;
             }
             if (!cancel_button_ || !cancel_button_->enabled()) return false;
-            cancel_button_->click();
+            cancel_button_->press();
             return true;
         default:
             return false;
@@ -146,9 +143,9 @@ void Form::show_keyboard_cues() {
     SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
 }
 
-void Form::set_default_button(Button* button) {
+void Form::set_default_button(Control* button) {
     if (button == default_button_) return;
-    Button* const former = std::exchange(default_button_, button);
+    Control* const former = std::exchange(default_button_, button);
     if (former) InvalidateRect(former->window(), nullptr, FALSE);
     if (button) InvalidateRect(button->window(), nullptr, FALSE);
 }

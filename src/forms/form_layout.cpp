@@ -125,7 +125,7 @@ void Form::resolution_changed(int dpi, const RECT& suggested) {
     dpi_ = application_.forced_dpi() ? application_.forced_dpi() : dpi;
     tool_tips_.fit_resolution(dpi_);
     items_resolution_changed();
-    menu_pictures_changed();
+    renew_menu_pictures();
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
     // A minimised window has nothing to lay out, and for its handler a minimised size means that it was minimised now.

@@ -119,14 +119,14 @@ void Menu::set_enabled(bool enabled) {
 void Menu::set_pictures(const Picture& unchecked, const Picture& checked) {
     unchecked_picture_ = unchecked;
     checked_picture_ = checked;
-    form_.menu_pictures_changed();
+    renew_pictures();
 }
 
 void Menu::renew_pictures() {
     if (!unchecked_picture_ && !checked_picture_) return;
     const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(form_.dpi()));
-    auto unchecked = unchecked_picture_.bitmap(size, colours::menu);
-    auto checked = checked_picture_.bitmap(size, colours::menu);
+    auto unchecked = unchecked_picture_.bitmap(size);
+    auto checked = checked_picture_.bitmap(size);
     SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked.get(), checked.get());
     // The former ones are in use until here.
     unchecked_bitmap_ = std::move(unchecked);

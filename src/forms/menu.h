@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/picture.h"
 #include "win/api.h"
+#include "win/picture.h"
 
 namespace quillomat {
 
@@ -60,7 +60,7 @@ class Menu {
     /// Whether the user can pick it.
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
-    /// The pictures shown beside the entry, without and with its check mark, from the next opening of a menu on.
+    /// The pictures shown beside the entry, without and with its check mark.
     void set_pictures(const Picture& unchecked, const Picture& checked);
 
     // For the toolkit.
@@ -68,7 +68,7 @@ class Menu {
     int id() const { return id_; }
     /// Raises the event, as if the user had picked the entry; not while it is disabled.
     void pick();
-    /// Makes the pictures again for the form's resolution and the user's colours.
+    /// Makes the pictures again for the form's resolution.
     void renew_pictures();
 
   private:

@@ -1,7 +1,5 @@
 #include "forms/tool_tips.h"
 
-#include <utility>
-
 #include "forms/geometry.h"
 
 namespace quillomat {
@@ -12,20 +10,15 @@ constexpr double widest_line = 9000;  // twips
 
 }  // namespace
 
-void ToolTips::create() {
+void ToolTips::create(HWND form, int dpi) {
+    form_ = form;
     window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
                               0, form_, nullptr, nullptr, nullptr);
-    fit_resolution(dpi_);
-}
-
-void ToolTips::begin() {
-    begun_ = true;
-    for (auto& [tool, text] : std::exchange(waiting_, {})) put(tool, text);
+    fit_resolution(dpi);
 }
 
 void ToolTips::fit_resolution(int dpi) {
-    dpi_ = dpi;
-    if (window_) SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, to_pixels(widest_line, dpi_));
+    SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, to_pixels(widest_line, dpi));
 }
 
 void ToolTips::set(HWND control, const std::wstring& text) {
@@ -46,11 +39,6 @@ void ToolTips::set(HWND window, const void* owner, const RECT& area, const std::
 }
 
 void ToolTips::put(TTTOOLINFOW& tool, const std::wstring& text) {
-    if (!begun_) {
-        waiting_.emplace_back(tool, text);
-        return;
-    }
-    if (!window_) create();
     tool.cbSize = sizeof tool;
     TTTOOLINFOW known = tool;
     // Asked with a text, the system would write its own into it.

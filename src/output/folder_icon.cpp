@@ -2,8 +2,6 @@
 
 #include <shellapi.h>
 
-#include "win/system_function.h"
-
 namespace quillomat {
 
 FolderIcon::FolderIcon(FolderState state, int size) : size_(size) {
@@ -12,9 +10,8 @@ FolderIcon::FolderIcon(FolderState state, int size) : size_(size) {
     const UINT open = state == FolderState::Open ? SHGFI_OPENICON : 0;
     SHFILEINFOW info{};
     // The name is that of no folder; by the attributes alone the system looks at no disk.
-    const auto get_file_info = system_function<decltype(SHGetFileInfoW)>(L"shell32.dll", "SHGetFileInfoW");
-    if (get_file_info && get_file_info(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
-                                       SHGFI_ICON | SHGFI_USEFILEATTRIBUTES | kind | open)) {
+    if (SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
+                       SHGFI_ICON | SHGFI_USEFILEATTRIBUTES | kind | open)) {
         icon_.reset(info.hIcon);
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/picture.h"
+#include "win/picture.h"
 
 namespace quillomat {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/graphics.h"
-#include "forms/gdi.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 

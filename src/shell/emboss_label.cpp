@@ -2,7 +2,7 @@
 
 #include "controls/graphics.h"
 #include "forms/form.h"
-#include "forms/gdi.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/colour.h"
+#include "win/colour.h"
 
 namespace quillomat {
 

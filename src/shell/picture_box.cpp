@@ -23,7 +23,12 @@ void PictureBox::draw(const DRAWITEMSTRUCT& request) {
     if (size <= 0) return;
     const COLORREF background = resolve(back_colour());
     if (std::exchange(bitmap_size_, size) != size || std::exchange(bitmap_background_, background) != background) {
-        bitmap_ = picture_.bitmap(size, back_colour());
+        bitmap_ = GdiObject<HBITMAP>(CreateCompatibleBitmap(request.hDC, size, size));
+        const MemoryCanvas memory(request.hDC);
+        const Selection selected(memory.get(), bitmap_.get());
+        const RECT whole{0, 0, size, size};
+        fill(memory.get(), whole, back_colour());
+        picture_.draw(memory.get(), whole);
     }
     const BufferedCanvas buffer(request.hDC, area);
     const HDC canvas = buffer.canvas();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
-#include "forms/picture.h"
+#include "win/picture.h"
 
 namespace quillomat {
 

@@ -2,8 +2,8 @@
 
 #include "forms/application.h"
 #include "forms/form.h"
-#include "forms/gdi.h"
 #include "text/shortened_name.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 

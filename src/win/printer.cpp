@@ -6,7 +6,8 @@
 #include "text/rounding.h"
 #include "text/twips.h"
 #include "win/errors.h"
-#include "win/system_function.h"
+// Needs the system's other headers before it.
+#include <winspool.h>
 
 namespace quillomat {
 namespace {
@@ -58,14 +59,10 @@ void printed(const std::wstring& printer, const Call& call) {
 
 /// The name of the default printer; empty when there is none.
 std::wstring default_printer_name() {
-    using GetDefaultPrinterFunction = BOOL WINAPI(wchar_t*, DWORD*);
-    const auto get_default_printer = system_function<GetDefaultPrinterFunction>(L"winspool.drv", "GetDefaultPrinterW");
-    if (!get_default_printer) return {};
-
     DWORD size = 0;
-    get_default_printer(nullptr, &size);
+    GetDefaultPrinterW(nullptr, &size);
     std::wstring name(size, L'\0');
-    if (size == 0 || !get_default_printer(name.data(), &size)) return {};
+    if (size == 0 || !GetDefaultPrinterW(name.data(), &size)) return {};
     name.resize(name.find(L'\0'));
     return name;
 }

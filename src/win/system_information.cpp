@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "win/handle.h"
-#include "win/system_function.h"
 #include "win/text_file.h"
 // These need <windows.h> before them.
 #include <shellapi.h>
@@ -66,8 +65,7 @@ bool start_program(const std::wstring& path) {
     request.fMask = SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
     request.lpFile = path.c_str();
     request.nShow = SW_SHOWNORMAL;
-    const auto execute = system_function<decltype(ShellExecuteExW)>(L"shell32.dll", "ShellExecuteExW");
-    return execute && execute(&request);
+    return ShellExecuteExW(&request) != FALSE;
 }
 
 }  // namespace quillomat

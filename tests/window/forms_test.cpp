@@ -7,12 +7,12 @@
 #include "controls/option_button.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/gdi.h"
 #include "forms/menu.h"
 #include "forms/timer.h"
 #include "output/drop_down_list.h"
 #include "support.h"
 #include "text/error.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 namespace {

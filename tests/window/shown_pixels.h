@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "forms/gdi.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 

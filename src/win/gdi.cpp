@@ -1,4 +1,4 @@
-#include "forms/gdi.h"
+#include "win/gdi.h"
 
 #include <cstdlib>
 

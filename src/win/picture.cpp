@@ -1,7 +1,4 @@
-#include "forms/picture.h"
-
-#include <cstdint>
-#include <span>
+#include "win/picture.h"
 
 namespace quillomat {
 namespace {
@@ -20,7 +17,7 @@ void Picture::draw(HDC canvas, const RECT& area) const {
     if (icon) DrawIconEx(canvas, area.left, area.top, icon.get(), width, height, 0, nullptr, DI_NORMAL);
 }
 
-GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
+GdiObject<HBITMAP> Picture::bitmap(int pixels) const {
     BITMAPINFO format{};
     format.bmiHeader.biSize = sizeof format.bmiHeader;
     format.bmiHeader.biWidth = pixels;
@@ -30,18 +27,11 @@ GdiObject<HBITMAP> Picture::bitmap(int pixels, Colour background) const {
     void* bits = nullptr;
     GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!bitmap) return bitmap;
-    {
-        const MemoryCanvas memory(nullptr);
-        const Selection selected(memory.get(), bitmap.get());
-        const RECT area{0, 0, pixels, pixels};
-        fill(memory.get(), area, background);
-        draw(memory.get(), area);
-    }
+    const MemoryCanvas memory(nullptr);
+    const Selection selected(memory.get(), bitmap.get());
+    // Blending onto transparent black leaves the alpha and the colours multiplied by it.
+    draw(memory.get(), {0, 0, pixels, pixels});
     GdiFlush();
-    // Menus that do blend find every pixel opaque, instead of taking the background's unset alpha for transparent.
-    constexpr std::uint32_t opaque = 0xFF000000;
-    for (std::uint32_t& pixel : std::span(static_cast<std::uint32_t*>(bits), static_cast<std::size_t>(pixels) * pixels))
-        pixel |= opaque;
     return bitmap;
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
+#include <type_traits>
 #include <utility>
 
-#include "forms/colour.h"
 #include "win/api.h"
+#include "win/colour.h"
 
 namespace quillomat {
 
@@ -28,6 +30,9 @@ class GdiObject {
   private:
     Handle handle_ = nullptr;
 };
+
+/// A font of the system, which is deleted with its last holder.
+using Font = std::shared_ptr<std::remove_pointer_t<HFONT>>;
 
 /// Selects an object into a device context and puts the former one back at the end of the scope.
 class Selection {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <type_traits>
 
-#include "forms/gdi.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 
@@ -29,8 +29,8 @@ class Picture {
 
     /// Draws it into `area`, in pixels, from the size drawn for it.
     void draw(HDC canvas, const RECT& area) const;
-    /// A square bitmap of it on a background, as menus take it: not all of them blend what they show.
-    GdiObject<HBITMAP> bitmap(int pixels, Colour background) const;
+    /// Returns a square bitmap of 32 bits with premultiplied alpha, as menus blend it; a null handle if there is none.
+    GdiObject<HBITMAP> bitmap(int pixels) const;
     /// An icon of it, as windows take it.
     Icon icon(int pixels) const;
 

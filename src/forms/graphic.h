@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+#include "forms/item.h"
+#include "win/api.h"
+
+namespace quillomat {
+
+/// An item without a window: its container paints it, in the order of the items, and gives it its mouse events.
+class Graphic : public Item {
+  public:
+    ~Graphic() override;
+
+    void bring_to_front() override;
+    void refresh() override;
+
+    /// The one-line text shown while the pointer rests on the item; an empty one shows none.
+    const std::wstring& tool_tip() const { return tool_tip_; }
+    void set_tool_tip(std::wstring text);
+
+    /// Draws the item; its place is `pixels()`. For the container.
+    virtual void draw(HDC canvas) const = 0;
+    /// Whether the mouse meets the item or what lies behind it.
+    virtual bool takes_mouse() const { return true; }
+    /// Where it stands in its container, in pixels.
+    const RECT& pixels() const { return pixels_; }
+    /// Has it painted again when the program is idle.
+    void invalidate() const;
+
+  protected:
+    Graphic(Container& container, Bounds bounds);
+    void apply_bounds() override;
+    void apply_visible() override;
+    void apply_enabled() override { invalidate(); }
+    /// Where it stands for these bounds, in pixels.
+    virtual RECT place() const;
+    void place_now() { pixels_ = place(); }
+
+  private:
+    RECT pixels_{};
+    std::wstring tool_tip_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "win/api.h"
+// Need the above.
+#include <uxtheme.h>
+#include <vssym32.h>
+
+namespace quillomat {
+
+/// The parts of a visual style for one class of control at one resolution; none in the classic look.
+class Theme {
+  public:
+    /// `parts` is the name of the control class, such as L"BUTTON".
+    Theme(HWND window, const wchar_t* parts, int dpi);
+    ~Theme() {
+        if (handle_) CloseThemeData(handle_);
+    }
+    Theme(const Theme&) = delete;
+    Theme& operator=(const Theme&) = delete;
+
+    explicit operator bool() const { return handle_ != nullptr; }
+    /// Draws a part into an area in pixels.
+    void draw(HDC canvas, int part, int state, const RECT& area) const {
+        DrawThemeBackground(handle_, canvas, part, state, &area, nullptr);
+    }
+
+  private:
+    HTHEME handle_;
+};
+
+}  // namespace quillomat
