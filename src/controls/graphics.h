@@ -30,6 +30,7 @@ class Label : public Graphic {
     void set_back_colour(Colour colour);
     Colour fore_colour() const { return fore_colour_; }
     void set_fore_colour(Colour colour);
+    const FontSpec& font() const { return font_; }
     void set_font(FontSpec font);
     /// Makes the label as large as its caption.
     void fit_to_caption();

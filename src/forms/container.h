@@ -33,6 +33,8 @@ class Container {
 
     /// Items in the order they were made, which is the order of the Tab key. For the toolkit.
     const std::vector<Control*>& controls() const { return controls_; }
+    /// The painted items, the backmost first. For the toolkit and its tests.
+    const std::vector<Graphic*>& graphics() const { return graphics_; }
     void add(Control& control) { controls_.push_back(&control); }
     void remove(Control& control) { std::erase(controls_, &control); }
     void add(Graphic& graphic) { graphics_.push_back(&graphic); }

@@ -167,7 +167,7 @@ void frmMain::Command3_Click() {
     show_answers();
     Command1.set_focus();
     enable_what_leads_away(false);
-    if (!animations_wanted()) take_all_steps(&frmMain::Timer2_Timer);
+    if (!animations_wanted()) take_all_steps(Timer2);
 }
 
 void frmMain::Command2_Click() {
@@ -179,15 +179,15 @@ void frmMain::Command2_Click() {
     enable_what_leads_away(true);
     Timer5.set_enabled(true);
     Command3.set_focus();
-    if (!animations_wanted()) take_all_steps(&frmMain::Timer3_Timer);
+    if (!animations_wanted()) take_all_steps(Timer3);
 }
 
-void frmMain::take_all_steps(void (frmMain::*step)()) {
+void frmMain::take_all_steps(Timer& steps) {
     ExitConfirmation before;
     do {
         before = exit_confirmation();
-        (this->*step)();
-    } while (exit_confirmation() != before);
+        steps.tick();
+    } while (steps.enabled() && exit_confirmation() != before);
 }
 
 void frmMain::enable_what_leads_away(bool enabled) {

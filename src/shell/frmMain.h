@@ -95,8 +95,8 @@ class frmMain final : public Form {
     void enable_what_leads_away(bool enabled);
     void show_answers();
     void hide_answers();
-    /// Calls the handler of one of the exit question's timers until the buttons no longer move.
-    void take_all_steps(void (frmMain::*step)());
+    /// Ticks one of the exit question's timers until it has stopped or the buttons no longer move.
+    void take_all_steps(Timer& steps);
     ExitConfirmation exit_confirmation() const;
     void place(const ExitConfirmation& confirmation);
 

@@ -54,14 +54,6 @@ struct MailTest : ShownViewerTest {
         mail_program.refused = function;
         mail_program.refusal = answer;
     }
-    void expect_requirements() {
-        expect_message(
-            L"Message",
-            L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, "
-            L"Netscape, Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You "
-            L"cannot send e-mail from Quillomat if you use Hotmail or any other web based e-mail.");
-    }
-
     RegistryOverride machine{HKEY_LOCAL_MACHINE};
 };
 
@@ -78,7 +70,7 @@ struct MailCheatsTest : MailTest {
     }
 
     void open(std::initializer_list<int> picked = {}) {
-        expect_requirements();
+        expect_mail_requirements();
         open_in(form, session, *link);
         const auto boxes = inputs();
         for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->set_text(typed[i]);
@@ -200,7 +192,7 @@ TEST_F(MailCheatsTest, AMailIsSentToItsEndThoughItsWindowsAreClosed) {
         session.settings.write(key, L"somebody");
     }
     viewer->List2.select_index(0);
-    expect_requirements();
+    expect_mail_requirements();
     frmMailCheats dialog(application, session, *link);
     dialog.Timer1.on_timer = [&] {
         if (dialog.shown() && mail_program.calls.empty()) press(dialog.Command1);
@@ -262,14 +254,14 @@ TEST_F(MailCheatsTest, SendingNeedsAPickAndEveryTextWhichIsRemembered) {
     }
     press_key(VK_ESCAPE);
     ASSERT_SOON(!form) << "Escape cancels, also from the message";
-    expect_requirements();
+    expect_mail_requirements();
     open_in(form, session, *link);
     expect_filled_in();
 }
 
 struct MailMeTest : MailTest {
     void open() {
-        expect_requirements();
+        expect_mail_requirements();
         open_in(form, session);
     }
 

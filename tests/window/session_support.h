@@ -34,6 +34,15 @@ struct SessionTest : WindowTest {
     std::string bytes(const std::filesystem::path& name) const { return folder.read(name); }
     bool exists(const std::filesystem::path& name) const { return std::filesystem::exists(folder.path() / name); }
 
+    /// What the windows that send mails tell when they open.
+    void expect_mail_requirements() {
+        expect_message(
+            L"Message",
+            L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, "
+            L"Netscape, Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You "
+            L"cannot send e-mail from Quillomat if you use Hotmail or any other web based e-mail.");
+    }
+
     TemporaryFolder folder;
     TemporarySettings registry;
     Session session;

@@ -1,0 +1,376 @@
+// A walk over every window of the program in every one of its states: what the player sees, what the keyboard and a
+// screen reader reach, and what stays behind when the window has closed.
+
+#include <algorithm>
+
+#include "controls/button.h"
+#include "layout_checks.h"
+#include "object_counts.h"
+#include "output/frmAddNew.h"
+#include "output/frmMailCheats.h"
+#include "output/frmMailMe.h"
+#include "output/frmPrintGames.h"
+#include "session_support.h"
+#include "shell/Dialog1.h"
+#include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+#include "shell/frmWait.h"
+#include "shell/windows.h"
+#include "viewer/frmCtlView.h"
+#include "viewer/frmStatus.h"
+
+namespace quillomat {
+namespace {
+
+struct WindowWalk;
+
+/// A window in one of its states.
+struct State {
+    const char* name;
+    /// The window's class.
+    const wchar_t* window;
+    /// Opens the window. For a dialog the call returns only once the dialog has closed.
+    void (*open)(WindowWalk& walk);
+    /// Brings the open window into its state.
+    void (*arrange)(WindowWalk& walk) = nullptr;
+    /// The caption of the button that Enter presses.
+    const wchar_t* default_button = nullptr;
+    enum Closing { ByEscape, NotByEscape } closing = ByEscape;
+    enum Kind { Modeless, Dialog } kind = Modeless;
+    /// At a higher resolution the screen of the tests is too small for the window.
+    int highest_dpi = 192;
+};
+
+std::ostream& operator<<(std::ostream& stream, const State& state) {
+    return stream << state.name;
+}
+
+/// Frames as wide as those of Windows 10 and 11, where they are thinner.
+class WideFrames {
+  public:
+    WideFrames() {
+        former_.cbSize = sizeof former_;
+        SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof former_, &former_, 0);
+        NONCLIENTMETRICSW wide = former_;
+        // Wine: ignores the width of the padding, so the border has it.
+        wide.iBorderWidth = 5;
+        wide.iCaptionHeight = 22;
+        wide.iMenuHeight = 19;
+        wide.iScrollWidth = wide.iScrollHeight = 17;
+        SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof wide, &wide, 0);
+    }
+    ~WideFrames() { SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof former_, &former_, 0); }
+    WideFrames(const WideFrames&) = delete;
+    WideFrames& operator=(const WideFrames&) = delete;
+
+  private:
+    NONCLIENTMETRICSW former_{};
+};
+
+struct WindowWalk : SessionTest, ::testing::WithParamInterface<State> {
+    using SessionTest::expect_mail_requirements;
+    using SessionTest::expect_message;
+    using SessionTest::open_in;
+
+    WindowWalk() { write_database(30); }
+    ~WindowWalk() override {
+        application.close_all_forms();
+        set_animations(true);
+    }
+
+    static void set_animations(bool wanted) {
+        SystemParametersInfoW(SPI_SETCLIENTAREAANIMATION, 0, reinterpret_cast<void*>(INT_PTR{wanted}), 0);
+    }
+
+    Windows& program() {
+        // The program ends with its last window, so one stays.
+        if (!find_form<frmMain>()) program_.open_main_screen();
+        return program_;
+    }
+    frmCtlView& viewer() {
+        if (!find_form<frmCtlView>()) {
+            program().open_viewer();
+            find_form<frmCtlView>()->List2.select_index(0);
+        }
+        return *find_form<frmCtlView>();
+    }
+    void write_database(int games) {
+        std::string database;
+        for (int i = 0; i < games; ++i) database += "Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Game\r\n";
+        write("Cheats.dat", database);
+    }
+
+    /// Opens the window, looks at it once it takes input, and closes it.
+    void visit(int dpi, void (WindowWalk::*look)(HWND window));
+    void look_now();
+
+    void close(HWND window);
+    void look_at_layout(HWND window);
+    void look_at_everything(HWND window);
+    void look_at_nothing(HWND) {}
+    void walk_by_tab(HWND window);
+
+    std::unique_ptr<frmSplash> splash;
+    std::unique_ptr<frmMain> main_screen;
+    std::unique_ptr<frmWait> wait;
+    std::unique_ptr<frmStatus> status;
+
+  private:
+    static inline WindowWalk* visitor_ = nullptr;
+    void (WindowWalk::*look_)(HWND window) = nullptr;
+    Windows program_{application, session};
+};
+
+/// Shows the last step of an animation, which may go on without changing anything.
+void finish(Timer& timer) {
+    for (int i = 0; i < 500 && timer.enabled(); ++i) timer.tick();
+}
+
+void open_main_screen(WindowWalk& walk) {
+    static const MainWindows windows;
+    walk.open_in(walk.main_screen, walk.session, windows);
+}
+
+void open_viewer(WindowWalk& walk) {
+    walk.program().open_viewer();
+}
+
+void open_search(WindowWalk& walk) {
+    walk.viewer().Option2.set_value(true);
+}
+
+void open_range(WindowWalk& walk) {
+    walk.viewer().menus.mnuPrintGames.pick();
+}
+
+void open_mail(WindowWalk& walk) {
+    walk.expect_mail_requirements();
+    walk.viewer().menus.mnuMailCheats.pick();
+}
+
+void open_author_mail(WindowWalk& walk) {
+    walk.expect_mail_requirements();
+    walk.program().open_author_mail();
+}
+
+void open_author(WindowWalk& walk) {
+    walk.program();
+    find_form<frmMain>()->Command8.click();
+}
+
+const State states[] = {
+    {"Splash", L"frmSplash", [](WindowWalk& walk) { walk.open_in(walk.splash, [] {}); },
+     [](WindowWalk& walk) { finish(walk.splash->Timer2); }},
+    {"MainScreen", L"frmMain", open_main_screen, nullptr, nullptr, State::NotByEscape},
+    {"ExitQuestion", L"frmMain", open_main_screen,
+     [](WindowWalk& walk) {
+         walk.main_screen->Command3.click();
+         finish(walk.main_screen->Timer2);
+     },
+     L"&Yes", State::NotByEscape},
+    {"ExitTakenBack", L"frmMain", open_main_screen,
+     [](WindowWalk& walk) {
+         walk.main_screen->Command3.click();
+         finish(walk.main_screen->Timer2);
+         walk.main_screen->Command2.click();
+         finish(walk.main_screen->Timer3);
+     },
+     L"&Yes", State::NotByEscape},
+    {"LoadingWindow", L"frmWait", [](WindowWalk& walk) { walk.open_in(walk.wait, [&walk] { walk.look_now(); }); },
+     nullptr, nullptr, State::NotByEscape},
+    {"Viewer", L"frmCtlView", open_viewer},
+    {"ViewerWithoutGames", L"frmCtlView",
+     [](WindowWalk& walk) {
+         walk.write_database(0);
+         walk.session.viewer = {};
+         open_viewer(walk);
+     }},
+    {"ViewerAfterAFailedLoad", L"frmCtlView",
+     [](WindowWalk& walk) {
+         walk.write("Cheats.dat", "a\r\n$$$$$$$$$$$$$$$$$$$$ One\r\n$$$$$$$$$$$$$$$$$$$$\r\n");
+         walk.session.viewer = {};
+         walk.session.text_file = {};
+         walk.expect_message(L"Error!", L"Invalid procedure call or argument");
+         open_viewer(walk);
+     }},
+    {"Search", L"frmCtlView", open_viewer, open_search, L"&Go!"},
+    {"SearchWithResults", L"frmCtlView", open_viewer,
+     [](WindowWalk& walk) {
+         open_search(walk);
+         walk.viewer().Text3.set_text(L"game");
+         walk.viewer().Command1.click();
+     },
+     L"&Go!"},
+    {"ListAfterSearch", L"frmCtlView", open_viewer,
+     [](WindowWalk& walk) {
+         open_search(walk);
+         walk.viewer().Option1.set_value(true);
+     },
+     L"&Go!"},
+    {"FontProgress", L"frmStatus", [](WindowWalk& walk) { walk.open_in(walk.status, walk.viewer()); },
+     [](WindowWalk& walk) { walk.status->show_progress(1, 2); }, nullptr, State::NotByEscape, State::Modeless, 144},
+    {"Find", L"frmFind", [](WindowWalk& walk) { walk.viewer().menus.mnuTextBoxFind.pick(); }, nullptr, L"&Find"},
+    {"Save", L"frmSave", [](WindowWalk& walk) { walk.viewer().menus.mnuSave.pick(); }, nullptr, L"&OK", State::ByEscape,
+     State::Dialog},
+    {"PrintAll", L"frmPrintGames", open_range, nullptr, L"&OK", State::ByEscape, State::Dialog},
+    {"PrintRange", L"frmPrintGames", open_range,
+     [](WindowWalk&) { find_form<frmPrintGames>()->Option2.set_value(true); }, L"&OK", State::ByEscape, State::Dialog},
+    {"MailCheats", L"frmMailCheats", open_mail, nullptr, nullptr, State::ByEscape, State::Dialog},
+    {"MailCheatsWithoutGames", L"frmMailCheats",
+     [](WindowWalk& walk) {
+         walk.viewer().List2.clear();
+         open_mail(walk);
+     },
+     nullptr, nullptr, State::ByEscape, State::Dialog},
+    {"AuthorMail", L"frmMailMe", open_author_mail},
+    {"AuthorMailWritten", L"frmMailMe", open_author_mail,
+     [](WindowWalk&) {
+         find_form<frmMailMe>()->Combo1.set_text(L"Subject");
+         find_form<frmMailMe>()->Text1.set_text(L"Text");
+     },
+     nullptr, State::NotByEscape},
+    {"AddGame", L"frmAddNew", [](WindowWalk& walk) { walk.viewer().menus.mnuAddNew.pick(); }, nullptr, nullptr,
+     State::ByEscape, State::Dialog},
+    {"About", L"frmAbout",
+     [](WindowWalk& walk) {
+         walk.program();
+         find_form<frmMain>()->Command6.click();
+     },
+     nullptr, L"OK", State::ByEscape, State::Dialog},
+    {"Author", L"Dialog1", open_author, nullptr, L"&Take me back to the main screen!", State::ByEscape, State::Dialog},
+    {"AuthorWithLinks", L"Dialog1", open_author, [](WindowWalk&) { find_form<Dialog1>()->Expand(); },
+     L"&Take me back to the main screen!", State::ByEscape, State::Dialog, 144},
+    {"AuthorAfterLinks", L"Dialog1", open_author,
+     [](WindowWalk&) {
+         find_form<Dialog1>()->Expand();
+         find_form<Dialog1>()->Contract();
+     },
+     L"&Take me back to the main screen!", State::ByEscape, State::Dialog, 144},
+};
+
+void WindowWalk::visit(int dpi, void (WindowWalk::*look)(HWND window)) {
+    SCOPED_TRACE(dpi);
+    application.force_dpi(dpi);
+    look_ = look;
+    visitor_ = this;
+    const HWND before = GetForegroundWindow();
+    const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) {
+        const HWND window = FindWindowW(GetParam().window, nullptr);
+        if (visitor_->look_ && window && window == GetForegroundWindow() && GetFocus()) visitor_->look_now();
+    });
+    GetParam().open(*this);
+    EXPECT_SOON(!look_ && !FindWindowW(GetParam().window, nullptr));
+    KillTimer(nullptr, timer);
+    EXPECT_TRUE(all_take_input());
+    const bool owner_was_open = GetParam().kind == State::Dialog && Form::from(before);
+    EXPECT_TRUE(!owner_was_open || GetForegroundWindow() == before) << "another window than before takes the keys";
+}
+
+void WindowWalk::look_now() {
+    const HWND window = FindWindowW(GetParam().window, nullptr);
+    const auto look = std::exchange(look_, nullptr);
+    if (GetParam().arrange) GetParam().arrange(*this);
+    (this->*look)(window);
+    close(window);
+}
+
+void WindowWalk::close(HWND window) {
+    const auto closed = [window] { return !Form::from(window) || Form::from(window)->closed(); };
+    if (GetParam().closing == State::ByEscape) {
+        press_key(VK_ESCAPE);
+        EXPECT_SOON(closed()) << "Escape does not close the window";
+    }
+    if (!closed()) SendMessageW(window, WM_CLOSE, 0, 0);
+}
+
+void WindowWalk::look_at_layout(HWND window) {
+    expect_whole_layout(window);
+}
+
+void WindowWalk::look_at_everything(HWND window) {
+    const RECT screen{0, 0, 1024, 768};
+    RECT area{};
+    RECT inside{};
+    GetWindowRect(window, &area);
+    IntersectRect(&inside, &area, &screen);
+    EXPECT_TRUE(EqualRect(&area, &inside)) << "the window does not fit on the screen";
+    expect_whole_layout(window);
+    expect_unique_access_keys(window);
+    expect_spoken_names(window);
+    walk_by_tab(window);
+    const Button* pressed_by_enter = Form::from(window)->default_button();
+    EXPECT_EQ(pressed_by_enter ? pressed_by_enter->caption() : L"",
+              std::wstring(GetParam().default_button ? GetParam().default_button : L""));
+    if (GetParam().kind == State::Dialog) expect_only_one_takes_input(window);
+}
+
+void WindowWalk::walk_by_tab(HWND window) {
+    const std::vector<HWND> inputs = inputs_of(window);
+    if (inputs.size() < 2) return;
+    const auto stop_after = [this](bool backwards) {
+        const HWND former = GetFocus();
+        backwards ? press_key(VK_TAB, {VK_SHIFT}) : press_key(VK_TAB);
+        EXPECT_SOON(GetFocus() != former) << "Tab leads nowhere";
+        // In a box whose list drops down, the part that is typed into has the focus.
+        return GetAncestor(GetFocus(), GA_PARENT) && Control::from(GetFocus()) ? Control::from(GetFocus())->window()
+                                                                               : GetFocus();
+    };
+    std::vector<HWND> walked;
+    const auto walk = [&](bool backwards) {
+        walked.clear();
+        for (std::size_t i = 0; i < inputs.size() && !HasFailure(); ++i) walked.push_back(stop_after(backwards));
+        EXPECT_TRUE(std::is_permutation(walked.begin(), walked.end(), inputs.begin(), inputs.end()))
+            << "Tab does not reach every input once";
+    };
+    walk(true);
+    // Both walks end where they began.
+    std::reverse(walked.begin(), std::prev(walked.end()));
+    const std::vector<HWND> reversed = walked;
+    walk(false);
+    EXPECT_EQ(walked, reversed) << "Shift and Tab do not walk the other way";
+    expect_reading_order(walked);
+}
+
+TEST_P(WindowWalk, IsWholeAndReachable) {
+    visit(96, &WindowWalk::look_at_everything);
+    // From here on each state is reached at once.
+    set_animations(false);
+    for (const int dpi : {120, 144, 192}) {
+        if (dpi <= GetParam().highest_dpi) visit(dpi, &WindowWalk::look_at_layout);
+    }
+    const WideFrames wide;
+    for (const int dpi : {96, 144}) visit(dpi, &WindowWalk::look_at_layout);
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, WindowWalk, ::testing::ValuesIn(states),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+struct LeakWalk : WindowWalk {};
+
+TEST_P(LeakWalk, LeavesNothingBehind) {
+    constexpr int times = 20;
+    set_animations(false);
+    visit(96, &WindowWalk::look_at_nothing);
+    const ObjectCounts before = count_objects();
+    for (int i = 0; i < times; ++i) visit(96, &WindowWalk::look_at_nothing);
+    const ObjectCounts after = count_objects();
+    // The system keeps a few objects of its own; what a window keeps comes once with each opening.
+    EXPECT_LT(after.gdi, before.gdi + times);
+    EXPECT_LT(after.user, before.user + times);
+}
+
+/// Each window in the last of its states, to which the way is the longest.
+std::vector<State> last_states() {
+    std::vector<State> last;
+    for (const State& state : states) {
+        if (!last.empty() && last.back().window == std::wstring_view(state.window)) last.pop_back();
+        last.push_back(state);
+    }
+    return last;
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, LeakWalk, ::testing::ValuesIn(last_states()),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace quillomat
