@@ -1,0 +1,303 @@
+// What each kind of item paints, by what its window shows.
+
+#include <algorithm>
+
+#include "controls/button.h"
+#include "controls/check_box.h"
+#include "controls/frame.h"
+#include "controls/graphics.h"
+#include "controls/link.h"
+#include "controls/list_box.h"
+#include "controls/option_button.h"
+#include "controls/text_box.h"
+#include "forms/form.h"
+#include "output/drive_list_box.h"
+#include "output/folder_list_box.h"
+#include "resources/pictures.h"
+#include "shell/emboss_label.h"
+#include "shell/picture_box.h"
+#include "shown_pixels.h"
+#include "shown_viewer.h"
+// Needs the above.
+#include <commctrl.h>
+
+namespace quillomat {
+namespace {
+
+constexpr Colour red = rgb(255, 0, 0);
+constexpr Colour green = rgb(0, 128, 0);
+/// Large enough for strokes of the very colour of the text.
+const FontSpec large{.points = 20};
+
+/// One of each kind.
+struct Board : Form {
+    explicit Board(Application& application)
+        : Form(application, {.name = L"frmPainted", .caption = L"Painted", .width = 9600, .height = 7200}) {
+        for (Label* label : {&Label1, &Raised, &Shadow, &Highlight}) label->set_font(large);
+        for (Control* control :
+             std::initializer_list<Control*>{&Button1, &Button2, &Option1, &Check1, &Frame1, &Link1, &List1}) {
+            control->set_font(large);
+        }
+        // A link takes its size from its font only now.
+        Link1.resolution_changed();
+        List1.add(L"Item");
+        Text1.set_focus();
+    }
+
+    Label Label1{*this, L"Label", {120, 120, 2400, 600}};
+    Image Image1{*this, Picture(PICTURE_GAME_PAD), {2700, 120, 900, 900}};
+    Shape Shape1{*this, {3750, 120, 900, 900}};
+    Line Line1{*this, {4800, 120, 900, 30}};
+    Label Shadow{*this, {}, {6000, 120, 3000, 600}};
+    Label Highlight{*this, {}, {6000, 120, 3000, 600}};
+    Label Raised{*this, L"Raised", {6000, 120, 3000, 600}};
+    Button Button1{*this, L"Button", {120, 1200, 2400, 750}};
+    Button Button2{*this, L"Other", {2700, 1200, 2400, 750}};
+    OptionButton Option1{*this, L"Option", {120, 2100, 2400, 600}, OptionButton::Group::Starts};
+    CheckBox Check1{*this, L"Check", {2700, 2100, 2400, 600}};
+    Link Link1{*this, L"Link", 5400, 2100};
+    Frame Frame1{*this, L"Frame", {5400, 750, 2400, 1200}, FrameBorder::Captioned};
+    PictureBox Picture1{*this, Picture(PICTURE_COIN), L"Coin", {120, 2850, 1500, 1500}};
+    ListBox List1{*this, {2700, 2850, 2400, 1500}};
+    TextBox Text1{*this, {5400, 2850, 2400, 600}};
+    FolderListBox Folders{*this, {120, 4500, 3000, 2100}};
+    DriveListBox Drives{*this, {3300, 4500, 3000, 315}};
+    TextBox Help{*this, {5400, 3600, 1500, 270}, TextBoxKind::Help};
+};
+
+RECT inside_of(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return client;
+}
+
+/// The smallest rectangle around all pixels of an area that are not of the colour behind it.
+RECT ink_in(const ShownPixels& shown, const RECT& area, COLORREF behind) {
+    RECT ink{};
+    for (LONG y = area.top; y < area.bottom; ++y) {
+        for (LONG x = area.left; x < area.right; ++x) {
+            const RECT pixel{x, y, x + 1, y + 1};
+            if (shown.at(x, y) != behind) UnionRect(&ink, &ink, &pixel);
+        }
+    }
+    return ink;
+}
+
+struct PaintingTest : SessionTest {
+    PaintingTest() {
+        board.show();
+        pump();
+    }
+
+    ShownPixels shown() const { return ShownPixels(board.window()); }
+    static int count(const Control& control, Colour colour) {
+        return ShownPixels(control.window()).count(inside_of(control.window()), resolve(colour));
+    }
+    int count(const Graphic& graphic, Colour colour) const { return shown().count(graphic.pixels(), resolve(colour)); }
+
+    const COLORREF face = resolve(colours::button_face);
+    Board board{application};
+};
+
+TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
+    const auto button_message = [](const Control& control, UINT set, UINT back) {
+        return [window = control.window(), set, back](bool on) {
+            SendMessageW(window, on ? set : back, set == BM_SETSTATE || set == BM_SETCHECK ? WPARAM{on} : 0,
+                         MAKELPARAM(3, 3));
+        };
+    };
+    const auto enable = [](Item& item) { return [&item](bool on) { item.set_enabled(!on); }; };
+    const HWND form = board.window();
+    const std::tuple<const char*, HWND, std::function<void(bool)>> changes[] = {
+        {"disabled label", form, enable(board.Label1)},
+        {"other caption", form, [this](bool on) { board.Label1.set_caption(on ? L"Other" : L"Label"); }},
+        {"italic label", form, [this](bool on) { board.Label1.set_font({.points = 20, .italic = on}); }},
+        {"disabled image", form, enable(board.Image1)},
+        {"bordered image", form,
+         [this](bool on) { board.Image1.set_border(on ? ImageBorder::Single : ImageBorder::None); }},
+        {"hidden image", form, [this](bool on) { board.Image1.set_visible(!on); }},
+        {"hidden line", form, [this](bool on) { board.Line1.set_visible(!on); }},
+        {"disabled button", board.Button1.window(), enable(board.Button1)},
+        {"pressed button", board.Button1.window(), button_message(board.Button1, BM_SETSTATE, BM_SETSTATE)},
+        {"hovered button", board.Button1.window(), button_message(board.Button1, WM_MOUSEMOVE, WM_MOUSELEAVE)},
+        {"default button", board.Button1.window(),
+         [this](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
+        {"focused button", board.Button2.window(),
+         [this](bool on) {
+             SendMessageW(board.window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+             on ? board.Button2.set_focus() : board.Text1.set_focus();
+         }},
+        {"underlined button", board.Button1.window(), [this](bool on) { board.Button1.set_underlined(on); }},
+        {"disabled option", board.Option1.window(), enable(board.Option1)},
+        {"set option", board.Option1.window(), button_message(board.Option1, BM_SETCHECK, BM_SETCHECK)},
+        {"disabled check box", board.Check1.window(), enable(board.Check1)},
+        {"set check box", board.Check1.window(), [this](bool on) { board.Check1.set_value(on); }},
+        {"disabled frame", board.Frame1.window(), enable(board.Frame1)},
+        {"hovered link", board.Link1.window(), button_message(board.Link1, WM_MOUSEMOVE, WM_MOUSELEAVE)},
+        {"pressed link", board.Link1.window(), button_message(board.Link1, BM_SETSTATE, BM_SETSTATE)},
+        {"narrow picture", board.Picture1.window(), [this](bool on) { board.Picture1.set_width_factor(on ? 0.5 : 1); }},
+        {"mirrored picture", board.Picture1.window(),
+         [this](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
+        {"disabled list", board.List1.window(), enable(board.List1)},
+        {"selected item", board.List1.window(),
+         [this](bool on) { SendMessageW(board.List1.window(), LB_SETCURSEL, on ? 0 : static_cast<WPARAM>(-1), 0); }},
+        {"disabled text", board.Text1.window(),
+         [this](bool on) {
+             board.Text1.set_text(L"Text");
+             board.Button2.set_focus();
+             board.Text1.set_enabled(!on);
+         }},
+    };
+    for (const auto& [what, window, set] : changes) {
+        set(false);
+        const ShownPixels before(window);
+        set(true);
+        EXPECT_TRUE(ShownPixels(window).difference(before, inside_of(window))) << what;
+        set(false);
+        EXPECT_FALSE(ShownPixels(window).difference(before, inside_of(window))) << "after " << what;
+    }
+}
+
+TEST_F(PaintingTest, ALabelHasItsColoursAndItsPlaceAndLeavesWhatLiesBehindIt) {
+    const RECT& place = board.Label1.pixels();
+    board.Label1.set_fore_colour(red);
+    EXPECT_GT(count(board.Label1, red), 20);
+    EXPECT_EQ(shown().at(place.left, place.bottom - 1), face) << "transparent";
+    const LONG spare[] = {5, 5, 5};
+    for (const Alignment alignment : {Alignment::Left, Alignment::Centre, Alignment::Right}) {
+        board.Label1.set_alignment(alignment);
+        const RECT ink = ink_in(shown(), place, face);
+        const LONG left = ink.left - place.left;
+        const LONG right = place.right - ink.right;
+        EXPECT_TRUE(alignment != Alignment::Left || left < spare[0]) << left;
+        EXPECT_TRUE(alignment != Alignment::Right || right < spare[1]) << right;
+        EXPECT_TRUE(alignment != Alignment::Centre || std::abs(left - right) < spare[2]) << left - right;
+    }
+    board.Label1.set_back_style(BackStyle::Opaque);
+    board.Label1.set_back_colour(green);
+    EXPECT_EQ(shown().at(place.left, place.bottom - 1), green.value);
+    board.Label1.set_enabled(false);
+    EXPECT_EQ(count(board.Label1, red), 0);
+    EXPECT_GT(count(board.Label1, colours::grey_text), 20);
+}
+
+TEST_F(PaintingTest, ImagesShapesAndLinesStandWhereTheyShould) {
+    const auto middle_of = [](const RECT& area) {
+        return POINT{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    };
+    const RECT& image = board.Image1.pixels();
+    RECT around = image;
+    InflateRect(&around, 3, 3);
+    RECT ink = ink_in(shown(), around, face);
+    RECT common{};
+    IntersectRect(&common, &ink, &image);
+    EXPECT_TRUE(EqualRect(&common, &ink)) << "nothing of the picture is outside of its place";
+    EXPECT_GT(ink.right - ink.left, (image.right - image.left) * 3 / 4);
+    board.Image1.set_picture_size(450);
+    ink = ink_in(shown(), around, face);
+    EXPECT_LE(ink.right - ink.left, 30);
+    EXPECT_NEAR(middle_of(ink).x, middle_of(image).x, 2);
+    EXPECT_NEAR(middle_of(ink).y, middle_of(image).y, 3);
+
+    const RECT& shape = board.Shape1.pixels();
+    board.Shape1.set_border_colour(red);
+    for (const POINT corner : {POINT{shape.left, shape.top}, POINT{shape.right - 1, shape.bottom - 1}}) {
+        EXPECT_EQ(shown().at(corner.x, corner.y), red.value);
+    }
+    EXPECT_EQ(shown().at(shape.left + 5, shape.top + 5), face) << "what lies behind is seen";
+    board.Shape1.set_fill_colour(green);
+    EXPECT_EQ(shown().at(shape.left + 5, shape.top + 5), green.value);
+
+    const RECT& line = board.Line1.pixels();
+    const LONG y = line.top;
+    const ShownPixels painted = shown();
+    for (LONG x = line.left; x < line.right; ++x) EXPECT_NE(painted.at(x, y), face) << x;
+    EXPECT_EQ(painted.at(line.right, y), face);
+
+    // The coin, squeezed about its middle.
+    const RECT box = inside_of(board.Picture1.window());
+    board.Picture1.set_back_colour(colours::white);
+    board.Picture1.set_width_factor(0.5);
+    ink = ink_in(ShownPixels(board.Picture1.window()), box, 0xFFFFFF);
+    EXPECT_NEAR(middle_of(ink).x, middle_of(box).x, 2);
+    EXPECT_NEAR(ink.right - ink.left, box.right / 2, 10);
+    EXPECT_GT(ink.bottom - ink.top, box.bottom * 3 / 4);
+}
+
+TEST_F(PaintingTest, AnEmbossedTextStandsBetweenItsEdges) {
+    const RECT place = board.Raised.pixels();
+    for (const auto style : {EmbossStyle::Raised, EmbossStyle::PressedIn}) {
+        EmbossLabel(board.Raised, board.Shadow, board.Highlight, {}, style, {1}, 2);
+        RECT around = place;
+        InflateRect(&around, 3, 3);
+        const ShownPixels painted = shown();
+        LONG whites = 0;
+        LONG greys = 0;
+        for (LONG y = around.top; y < around.bottom; ++y) {
+            for (LONG x = around.left; x < around.right; ++x) {
+                // An edge of this colour stands to the upper left of the text where the text follows it.
+                const bool before_text = painted.at(x + 2, y + 2) == 1;
+                whites += painted.at(x, y) == 0xFFFFFF && before_text;
+                greys += painted.at(x, y) == 0x808080 && before_text;
+            }
+        }
+        EXPECT_EQ(whites > greys, style == EmbossStyle::Raised) << whites << " and " << greys;
+        EXPECT_GT(count(board.Raised, {1}), 20);
+    }
+}
+
+TEST_F(PaintingTest, ControlsHaveTheirColoursAndTextsThatCanBeRead) {
+    EXPECT_GT(count(board.Link1, {0xFF0000}), 20);
+    EXPECT_GT(count(board.Option1, colours::window_text) + count(board.Option1, colours::button_text), 20);
+    EXPECT_GT(count(board.Frame1, colours::button_text), 20) << "the caption";
+    SendMessageW(board.Link1.window(), BM_SETSTATE, TRUE, 0);
+    EXPECT_GT(count(board.Link1, {0x0000FF}), 20) << "held down";
+    SendMessageW(board.Link1.window(), BM_SETSTATE, FALSE, 0);
+    for (const auto& [back, text] : {std::pair{green, colours::white}, {rgb(255, 255, 0), colours::black}}) {
+        board.Button1.set_back_colour(back);
+        EXPECT_GT(count(board.Button1, back), 500);
+        EXPECT_GT(count(board.Button1, text), 20);
+    }
+    board.List1.set_back_colour(rgb(192, 192, 255));
+    board.List1.set_fore_colour(rgb(0, 0, 255));
+    EXPECT_GT(count(board.List1, rgb(192, 192, 255)), 1000);
+    EXPECT_GT(count(board.List1, rgb(0, 0, 255)), 20);
+    board.Help.set_font(large);
+    board.Help.set_text(L"Help");
+    board.Help.set_visible(true);
+    EXPECT_GT(count(board.Help, colours::tip_background), 100);
+}
+
+TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) {
+    std::filesystem::create_directories(folder.path() / "inner");
+    board.Folders.set_font(large);
+    board.Folders.set_path(folder.path().wstring());
+    const int last = board.Folders.count() - 1;
+    ASSERT_EQ(board.Folders.item(last), L"inner");
+    board.Folders.set_top_index(last - 1);
+    const HWND list = board.Folders.window();
+    const auto row = [list](int index) {
+        RECT area{};
+        SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&area));
+        return area;
+    };
+    const auto ink_of_row = [&](int index, Colour behind) {
+        return ink_in(ShownPixels(list), row(index), resolve(behind));
+    };
+    const RECT selected = row(last - 1);
+    const ShownPixels shown(list);
+    EXPECT_GT(shown.count(selected, resolve(colours::highlight)), 500);
+    EXPECT_GT(shown.count(selected, resolve(colours::highlight_text)), 20);
+    EXPECT_GT(shown.count(row(last), resolve(colours::window_text)), 20);
+    EXPECT_LT(ink_of_row(last - 1, colours::highlight).left, ink_of_row(last, colours::window).left) << "indented";
+    // The icon stands before the name.
+    RECT icon = ink_of_row(last, colours::window);
+    icon.right = icon.left + 14;
+    EXPECT_GT(ink_in(shown, icon, resolve(colours::window)).bottom, 0);
+    EXPECT_EQ(shown.count(icon, resolve(colours::window_text)), 0);
+    board.Drives.select_drive_of(L"C:\\");
+    EXPECT_GT(count(board.Drives, colours::window_text), 5);
+}
+
+}  // namespace
+}  // namespace quillomat
