@@ -1,6 +1,7 @@
 ; The installer: for the user alone, without an administrator. Made by scripts/pack, which defines
 ;   VERSION, AUTHOR, WEB_SITE  as they are in the program
 ;   APP                        the folder with the files that are handed out
+;   JOINER                     join_databases.exe
 ;   OUTPUT                     the installer to write
 ;
 ; Besides its windows there is the silent way: /S, and as the last argument /D=FOLDER without quotes. It ends with 0, or
@@ -20,6 +21,8 @@ AllowSkipFiles off
 !define DATABASE "$INSTDIR\Cheats.dat"
 ; What the installer brings, until it is the database; beside a database of the player's own it stays.
 !define NEW_DATABASE "$INSTDIR\Cheats.new.dat"
+; The database that takes the place of one with games of the player's own, until it is complete.
+!define JOINED_DATABASE "$INSTDIR\Cheats.joined.dat"
 !define SHORTCUT "$SMPROGRAMS\Quillomat.lnk"
 !define UNINSTALLER "$INSTDIR\Uninstall.exe"
 ; Here Windows finds what it lists under "Apps & features".
@@ -100,9 +103,10 @@ Function ${PREFIX}wait_until_closed
   ${Loop}
 FunctionEnd
 
-; Takes a path from the stack and leaves the SHA-256 of the file there, or nothing when that cannot be had. What has no
-; hash counts as the player's own. Uses $0 to $7.
+; Takes from the stack how many bytes to look at, or "" for all, and the path of a file; leaves the SHA-256 of these
+; bytes there, or nothing when that cannot be had. What has no hash counts as the player's own. Uses $0 to $8.
 Function ${PREFIX}hash_of_file
+  Pop $8
   Pop $0
   StrCpy $5 ""
   ClearErrors
@@ -112,6 +116,10 @@ Function ${PREFIX}hash_of_file
     Return
   ${EndIf}
   System::Call "kernel32::GetFileSizeEx(p r1, *l .r2) i .r7"
+  ${If} $8 != ""
+  ${AndIf} $8 L<= $2
+    StrCpy $2 $8
+  ${EndIf}
   ${If} $7 <> 0
   ${AndIf} $2 L<= ${LARGEST_HASHED}
     System::Alloc $2
@@ -139,6 +147,13 @@ FunctionEnd
 !insertmacro both ""
 !insertmacro both "un."
 
+!macro hash_of PREFIX PATH LENGTH RESULT
+  Push "${PATH}"
+  Push "${LENGTH}"
+  Call ${PREFIX}hash_of_file
+  Pop ${RESULT}
+!macroend
+
 ; --- installing ----------------------------------------------------------------------------------------------------------
 
 Function skip_when_installed
@@ -147,17 +162,47 @@ Function skip_when_installed
   ${EndIf}
 FunctionEnd
 
-; A database that is still the one that was installed gives way to the new one. In any other the player has put work: it
-; stays as it is, and the new one stays beside it when there is something new in it.
+; Puts the player's games behind those of the new database, if what was installed stands unchanged before them. Then
+; $R4 is the joined database, and $R5 and $R6 are the hash and the size of what is not the player's in it; else $R6 is 0.
+Function join_databases
+  StrCpy $R6 0
+  ${If} $R3 == ""
+    Return
+  ${EndIf}
+  !insertmacro hash_of "" "${DATABASE}" $R3 $R7
+  ${If} $R7 == ""
+  ${OrIf} $R7 != $R2
+    Return
+  ${EndIf}
+  InitPluginsDir
+  File "/oname=$PLUGINSDIR\join_databases.exe" "${JOINER}"
+  Delete "${JOINED_DATABASE}"
+  StrCpy $0 0
+  ExecWait '"$PLUGINSDIR\join_databases.exe" "${NEW_DATABASE}" "${DATABASE}" $R3 "${JOINED_DATABASE}"' $0
+  ${If} $0 <= 0
+    Return
+  ${EndIf}
+  StrCpy $R8 $0
+  !insertmacro hash_of "" "${JOINED_DATABASE}" $R8 $R5
+  ${If} $R5 != ""
+    StrCpy $R4 "${JOINED_DATABASE}"
+    StrCpy $R6 $R8
+    StrCpy $finish_text "$finish_text Your own games are behind the new ones."
+  ${EndIf}
+FunctionEnd
+
+; A database that is still the one that was installed gives way to the new one. Games of the player's own behind it are
+; put behind the new one. Any other database stays as it is, and the new one stays beside it when there is something new
+; in it.
 Function install_database
   File "/oname=${NEW_DATABASE}" "${APP}/Cheats.dat"
-  Push "${NEW_DATABASE}"
-  Call hash_of_file
-  Pop $R0
-  Push "${DATABASE}"
-  Call hash_of_file
-  Pop $R1
+  !insertmacro hash_of "" "${NEW_DATABASE}" "" $R0
+  StrCpy $R4 "${NEW_DATABASE}"
+  StrCpy $R5 $R0
+  StrCpy $R6 $2
+  !insertmacro hash_of "" "${DATABASE}" "" $R1
   ReadRegStr $R2 HKCU "${REGISTERED}" "DatabaseHash"
+  ReadRegStr $R3 HKCU "${REGISTERED}" "DatabaseSize"
 
   ${If} ${FileExists} "${DATABASE}"
     ${If} $R1 == ""
@@ -165,17 +210,26 @@ Function install_database
     ${EndIf}
     ${If} $R1 != $R2
     ${AndIf} $R1 != $R0
-      Goto keep
+      ${If} $R0 == $R2
+        Goto keep ; nothing is new
+      ${EndIf}
+      Call join_databases
+      ${If} $R6 = 0
+        Goto keep
+      ${EndIf}
     ${EndIf}
   ${EndIf}
   ; At once, whatever happens meanwhile; 9 is MOVEFILE_REPLACE_EXISTING and MOVEFILE_WRITE_THROUGH.
-  System::Call 'kernel32::MoveFileExW(w "${NEW_DATABASE}", w "${DATABASE}", i 9) i .r0'
+  System::Call 'kernel32::MoveFileExW(w R4, w "${DATABASE}", i 9) i .r0'
   ${If} $0 <> 0
-    WriteRegStr HKCU "${REGISTERED}" "DatabaseHash" $R0
+    WriteRegStr HKCU "${REGISTERED}" "DatabaseHash" $R5
+    WriteRegStr HKCU "${REGISTERED}" "DatabaseSize" $R6
+    Delete "${NEW_DATABASE}"
     Return
   ${EndIf}
 
   keep:
+  Delete "${JOINED_DATABASE}"
   StrCpy $finish_text "Your Cheats.dat was kept, because it is not the one that was installed."
   ${If} $R0 == $R2
     Delete "${NEW_DATABASE}"
@@ -193,6 +247,8 @@ Section "${NAME}" section_program
   File "${APP}/readme.txt"
   Call install_database
   WriteUninstaller "${UNINSTALLER}"
+  ; The program works where its user keeps texts: a shortcut starts in the folder that was set last.
+  SetOutPath $DOCUMENTS
   CreateShortcut "${SHORTCUT}" "${PROGRAM}"
 
   WriteRegStr HKCU "${REGISTERED}" "DisplayName" "${NAME}"
@@ -224,9 +280,7 @@ Section "un.${NAME}"
   Delete "$INSTDIR\Fonts.dat"
   Delete "${NEW_DATABASE}"
 
-  Push "${DATABASE}"
-  Call un.hash_of_file
-  Pop $R1
+  !insertmacro hash_of "un." "${DATABASE}" "" $R1
   ReadRegStr $R2 HKCU "${REGISTERED}" "DatabaseHash"
   ${If} $R1 != ""
   ${AndIf} $R1 == $R2

@@ -130,6 +130,7 @@ TEST_F(Package, IsInstalledAndGoesWithoutATraceWhenNothingWasChanged) {
     EXPECT_EQ(names_in(folder), installed_files);
     EXPECT_EQ(bytes_of(database()), shipped_database);
     EXPECT_TRUE(holds(shortcut, file(L"Quillomat.exe").string()));
+    EXPECT_TRUE(holds(shortcut, _wgetenv(L"USERPROFILE") + L"\\Documents"s)) << "the folder the program starts in";
     const std::pair<const wchar_t*, std::wstring> registered[] = {
         {L"DisplayName", product::title},       {L"DisplayVersion", product::release},
         {L"Publisher", product::author},        {L"DisplayIcon", file(L"Quillomat.exe").wstring()},
@@ -149,20 +150,47 @@ TEST_F(Package, IsInstalledAndGoesWithoutATraceWhenNothingWasChanged) {
     RegDeleteKeyValueW(HKEY_CURRENT_USER, settings_key, L"PackageTest");
 }
 
-TEST_F(Package, KeepsTheGamesOfThePlayer) {
+TEST_F(Package, AnUpdateBringsNewGamesAndKeepsThePlayersOwn) {
+    const std::string own = added_game;
+    const std::string both = own + "mine\r\n$$$$$$$$$$$$$$$$$$$$ A newer game\r\n";
+    std::string edited = shipped_database;
+    edited[edited.find("\r\n") - 1] = '!';
+    std::string too_many;
+    for (int number = 0; number < 2501; ++number) too_many += "$$$$$$$$$$$$$$$$$$$$ " + std::to_string(number) + "\r\n";
+    const std::tuple<const char*, std::string, std::string> cases[] = {
+        {"own games", shipped_database + own, newer_database + own},
+        // The newer release has its one new game in front.
+        {"a game that both have", shipped_database + both, shipped_database + both},
+        {"edited by hand", edited + own, ""},
+        {"a record half written", shipped_database + own + "half", ""},
+        {"a name half written", shipped_database + own + "half\r\n$$$$$$$$$$$$$$$$$$$$ My\r", ""},
+        {"a name missing", shipped_database + own + "$$$$$$$$$$$$$$$$$$$$\r\n", ""},
+        {"more games than the program takes", shipped_database + too_many, ""},
+        {"shorter than installed", shipped_database.substr(0, 100), ""},
+    };
+    for (const auto& [what, before, joined] : cases) {
+        SCOPED_TRACE(what);
+        fs::remove(database());
+        ASSERT_EQ(install(L"now"), 0);
+        write_bytes(database(), before);
+        for (int time = 0; time < 2; ++time) {
+            ASSERT_EQ(install(L"newer"), 0);
+            EXPECT_TRUE(bytes_of(database()) == (joined.empty() ? before : joined));
+            EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), joined.empty() ? newer_database : "");
+        }
+        fs::remove(file(L"Cheats.new.dat"));
+        EXPECT_EQ(names_in(folder), installed_files);
+    }
+}
+
+TEST_F(Package, LeavesTheGamesOfThePlayerBehind) {
     ASSERT_EQ(install(L"now"), 0);
     append(database(), added_game);
     const std::string own = bytes_of(database());
-
     ASSERT_EQ(install(L"now"), 0);
     EXPECT_EQ(bytes_of(database()), own);
     EXPECT_EQ(names_in(folder), installed_files) << "there is nothing new to lay beside it";
-
-    ASSERT_EQ(install(L"newer"), 0);
-    EXPECT_EQ(bytes_of(database()), own);
-    EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), newer_database);
     expect_runs(folder, L"My own game");
-
     ASSERT_TRUE(uninstall());
     EXPECT_EQ(names_in(folder), std::set<std::wstring>{L"Cheats.dat"});
     EXPECT_EQ(bytes_of(database()), own);
@@ -175,9 +203,9 @@ TEST_F(Package, ReplacesADatabaseThatIsAsInstalledAgain) {
     ASSERT_EQ(install(L"now"), 0);
     append(database(), added_game);
     ASSERT_EQ(install(L"newer"), 0);
-    fs::resize_file(database(), shipped_database.size());
-    ASSERT_EQ(install(L"newer"), 0);
-    EXPECT_EQ(bytes_of(database()), newer_database);
+    fs::resize_file(database(), newer_database.size());
+    ASSERT_EQ(install(L"now"), 0);
+    EXPECT_EQ(bytes_of(database()), shipped_database);
     EXPECT_EQ(names_in(folder), installed_files);
 
     fs::resize_file(database(), 0);
