@@ -43,8 +43,8 @@ class Application {
     void run_until(const std::function<bool()>& finished);
     /// Handles the messages that wait now, so that a long task stays responsive.
     void let_pending_events_run();
-    /// Drops the second press of a double-click, if the mouse click that is being handled turns out to be one: what
-    /// opens under the pointer instead of the clicked window is not meant.
+    /// Drops the next mouse press if it turns the click being handled into a double-click. For a click that closes its
+    /// window: the second press would reach whatever has opened under the pointer.
     void drop_second_press();
     /// Runs `work` on a thread of its own and returns true when the work has ended. Meanwhile the windows repaint, but
     /// none of them takes input, even if a library that the work calls enables one. The work must not touch a window.

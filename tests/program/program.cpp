@@ -7,7 +7,7 @@
 namespace quillomat {
 namespace {
 
-/// The largest control of a class that stands on a window itself.
+/// Returns the largest direct child of a window class.
 HWND largest_child(HWND parent, const wchar_t* control_class) {
     HWND largest = nullptr;
     int largest_area = 0;
@@ -57,8 +57,9 @@ void Program::start(const std::wstring& arguments) {
     startup.cb = sizeof startup;
     const std::wstring elsewhere = folder_.root_path().wstring();
     if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, elsewhere.c_str(), &startup,
-                        &process_))
+                        &process_)) {
         throw std::runtime_error("the program cannot be started");
+    }
 }
 
 DWORD Program::exit_code() const {

@@ -9,15 +9,16 @@
 
 namespace quillomat {
 
-/// The program, in a folder of its own or where it lies, looked at and driven from outside. Whatever a test leaves
-/// running is ended.
+/// The program in a process of its own, read and driven from outside as automation does. The destructor ends the
+/// process.
 class Program {
   public:
-    /// The executable that is copied into the program's own folder.
+    /// The executable under test.
     static std::filesystem::path executable;
 
+    /// Copies the executable into a temporary folder.
     Program();
-    /// The program as it lies in a folder, which stays as it is.
+    /// Uses the program as it is installed in a folder.
     explicit Program(std::filesystem::path folder) : folder_(std::move(folder)) {}
     ~Program() { end(); }
     Program(const Program&) = delete;
@@ -27,27 +28,27 @@ class Program {
     void write_database(std::string_view bytes) const { write_bytes(database(), bytes); }
     std::string read_database() const { return bytes_of(database()); }
 
-    /// Starts the program from another folder than its own; again, when it has ended.
+    /// Starts the program with another current folder than its own, after ending a running one.
     void start(const std::wstring& arguments = {});
-    /// Ends it at once, if it is running.
+    /// Kills the program if it is running.
     void end();
     const PROCESS_INFORMATION& process() const { return process_; }
     bool running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
-    /// Waits for the end and returns the exit code; 259 when it does not come.
+    /// Waits for the program to end and returns its exit code; 259 (STILL_ACTIVE) if it does not end.
     DWORD exit_code() const;
 
-    /// The visible window of a class; null when there is none.
+    /// Returns the program's visible window of a class; null if there is none.
     HWND find(const wchar_t* window_class) const;
-    /// Goes on from window to window, as with the keyboard, until the viewer is there or a message box. False when
-    /// neither comes.
+    /// Presses a key on the splash and the button of the main screen until the viewer or a message box is open. Returns
+    /// false if neither opens.
     bool reach_viewer();
-    /// Closes the main screen by its title bar, and with it everything.
+    /// Closes the main screen, and with it all windows.
     void close() const { PostMessageW(find(L"frmMain"), WM_CLOSE, 0, 0); }
     HWND viewer() const { return find(L"frmCtlView"); }
 
-    /// The text of the open message box, behind its title and a colon; empty when there is none.
+    /// Returns title, ": " and text of the open message box; empty if there is none.
     std::wstring message() const;
-    /// Answers it, and waits until it has gone.
+    /// Answers the message box with OK and waits until it has closed.
     bool dismiss_message() const;
 
   private:
@@ -56,11 +57,11 @@ class Program {
     PROCESS_INFORMATION process_{};
 };
 
-/// The games in the list of a viewer.
+/// Returns the games in the viewer's full list.
 std::vector<std::wstring> games_of(HWND viewer);
-/// The games in the list of search results.
+/// Returns the games in the viewer's list of search results.
 std::vector<std::wstring> results_of(HWND viewer);
-/// Selects a game as a click does and returns the cheats that are shown then.
+/// Selects a game as a click does and returns the cheats shown then.
 std::wstring cheats_of(HWND viewer, int game);
 
 }  // namespace quillomat

@@ -1,4 +1,5 @@
-// Whatever lies beside the program as its database: it starts, says what is wrong, stays usable and changes nothing.
+// Starting the program with any database beside it and with any arguments: it reports what is wrong, stays usable and
+// changes nothing.
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,7 @@ std::string any_bytes() {
     return bytes;
 }
 
-/// Starts the program and leaves it again, and expects to find the games, after one message unless that is empty.
+/// Starts the program, expects one message unless that is empty, then the games, and closes the program.
 void expect_start(Program& program, const std::wstring& message, const Games& games,
                   const std::wstring& cheats_of_first = {}) {
     program.start();

@@ -1,38 +1,30 @@
 #pragma once
 
-#include <cstddef>
-#include <optional>
-#include <vector>
-
 #include "win/gdi.h"
 
 namespace quillomat {
 
-/// What a window shows inside of its frame, with everything that still has to be painted painted before.
+/// What a window shows inside its frame once everything is painted that waits for it.
 class ShownPixels {
   public:
     explicit ShownPixels(HWND window) {
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        RECT client{};
-        GetClientRect(window, &client);
-        width_ = client.right;
+        GetClientRect(window, &area_);
         const WindowCanvas shown(window);
-        const GdiObject<HBITMAP> copy(CreateCompatibleBitmap(shown.get(), client.right, client.bottom));
+        BITMAPINFO format{{sizeof(BITMAPINFOHEADER), area_.right, -area_.bottom, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+        void* bits = nullptr;
+        bitmap_ = GdiObject(CreateDIBSection(shown.get(), &format, DIB_RGB_COLORS, &bits, nullptr, 0));
+        pixels_ = static_cast<const RGBQUAD*>(bits);
         const MemoryCanvas memory(shown.get());
-        {
-            const Selection selected(memory.get(), copy.get());
-            BitBlt(memory.get(), 0, 0, client.right, client.bottom, shown.get(), 0, 0, SRCCOPY);
-        }
-        pixels_.resize(static_cast<std::size_t>(client.right) * static_cast<std::size_t>(client.bottom));
-        BITMAPINFO format{};
-        format.bmiHeader = {sizeof format.bmiHeader, client.right, -client.bottom, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        GetDIBits(memory.get(), copy.get(), 0, static_cast<UINT>(client.bottom), pixels_.data(), &format,
-                  DIB_RGB_COLORS);
+        const Selection selected(memory.get(), bitmap_.get());
+        BitBlt(memory.get(), 0, 0, area_.right, area_.bottom, shown.get(), 0, 0, SRCCOPY);
+        GdiFlush();
     }
 
+    const RECT& area() const { return area_; }
     COLORREF at(LONG x, LONG y) const {
-        const COLORREF pixel = pixels_[static_cast<std::size_t>(y * width_ + x)];
-        return RGB(GetBValue(pixel), GetGValue(pixel), GetRValue(pixel));
+        const RGBQUAD& pixel = pixels_[y * area_.right + x];
+        return RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue);
     }
     int count(const RECT& area, COLORREF colour) const {
         int count = 0;
@@ -41,8 +33,8 @@ class ShownPixels {
         }
         return count;
     }
-    /// The part of an area whose pixels differ from another picture's; nothing if none does.
-    std::optional<RECT> difference(const ShownPixels& other, const RECT& area) const {
+    /// The part of an area in which another picture differs; empty if none does.
+    RECT difference(const ShownPixels& other, const RECT& area) const {
         RECT changed{};
         for (LONG y = area.top; y < area.bottom; ++y) {
             for (LONG x = area.left; x < area.right; ++x) {
@@ -50,12 +42,13 @@ class ShownPixels {
                 if (at(x, y) != other.at(x, y)) UnionRect(&changed, &changed, &pixel);
             }
         }
-        return IsRectEmpty(&changed) ? std::nullopt : std::optional(changed);
+        return changed;
     }
 
   private:
-    LONG width_ = 0;
-    std::vector<COLORREF> pixels_;
+    RECT area_{};
+    GdiObject<HBITMAP> bitmap_;
+    const RGBQUAD* pixels_ = nullptr;
 };
 
 }  // namespace quillomat
