@@ -9,7 +9,11 @@ bool restore_minimum_size(Form& form, const WindowSize& minimum) {
     const WindowSize size{form.width(), form.height()};
     WindowSize wanted = size;
     while (const auto corrected = corrected_size(wanted, minimum, twips_per_pixel)) {
-        corrected->height != wanted.height ? form.set_height(corrected->height) : form.set_width(corrected->width);
+        if (corrected->height != wanted.height) {
+            form.set_height(corrected->height);
+        } else {
+            form.set_width(corrected->width);
+        }
         if (WindowSize{form.width(), form.height()} != size) return true;
         wanted = *corrected;
     }

@@ -6,8 +6,8 @@ namespace quillomat {
 
 class Form;
 
-/// Gives a window that is below its minimum the least height, or else the least width. True when that has resized it:
-/// its layout has then come with the new size. On a screen without the room for that, the window stays as it is.
+/// Enlarges a window that is below its minimum: its height, or else its width. Returns true if that has resized the
+/// window; `on_resize` has then run for the new size. On a screen too small for the minimum, the window stays as it is.
 bool restore_minimum_size(Form& form, const WindowSize& minimum);
 
 }  // namespace quillomat

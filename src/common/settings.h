@@ -8,19 +8,19 @@
 
 namespace quillomat {
 
-/// The key and the type of a remembered value.
+/// The key and the type of a setting.
 template <class Value>
 struct SettingKey {
     const wchar_t* key;
 };
 
-/// A remembered value that something stands for until it was first stored.
+/// A setting with a default, used until the user's own value has been stored.
 template <class Value>
 struct Setting : SettingKey<Value> {
     Value fallback;
 };
 
-/// Every value the program remembers. The spellings are part of the stored format.
+/// All settings of the program. The spellings are part of the stored format.
 namespace settings {
 
 inline constexpr Setting<std::int16_t> Counter{L"Counter", 0};
@@ -39,7 +39,7 @@ inline constexpr Setting<std::wstring_view> FrmCtlViewCaption{L"FrmCtlViewCaptio
 inline constexpr Setting<std::int16_t> FrmCtlViewHeight{L"FrmCtlViewHeight", 6660};
 inline constexpr Setting<std::int16_t> FrmCtlViewWidth{L"FrmCtlViewWidth", 8925};
 
-/// What stands for it depends on the number of games, which only the print list knows.
+/// Its default depends on the number of games, which only the print window knows.
 inline constexpr SettingKey<std::int16_t> UpperLimit{L"UpperLimit"};
 inline constexpr Setting<std::wstring_view> LowerLimit{L"LowerLimit", L"1"};
 
@@ -69,21 +69,21 @@ inline constexpr Setting<std::wstring_view> MailFriendsEmail{L"Mail-Friend'sEmai
 
 }  // namespace settings
 
-/// The text that is stored for this user under an application's name, a section and a key; `fallback` when there is
-/// none.
+/// Returns the text that is stored for this user under an application's name, a section and a key; `fallback` if there
+/// is none.
 std::wstring GetSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
                         std::wstring_view fallback);
-/// Stores a text over any older one. Throws `Error` when the system refuses.
+/// Stores a text, replacing an older one. Throws `Error` if Windows refuses.
 void SaveSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
                  const std::wstring& text);
 
-/// The user's remembered values, each stored as a text.
+/// The user's settings, each stored as a text.
 class Settings {
   public:
     explicit Settings(std::wstring_view application = product::title, std::wstring_view section = L"Settings")
         : application_(application), section_(section) {}
 
-    /// The stored value; the fallback when there is none or its text does not stand for a value of this type.
+    /// Returns the stored value; the fallback if there is none or its text is no value of this type.
     std::int16_t read(const SettingKey<std::int16_t>& setting, std::int16_t fallback) const;
     std::int32_t read(const SettingKey<std::int32_t>& setting, std::int32_t fallback) const;
     bool read(const SettingKey<bool>& setting, bool fallback) const;
@@ -93,7 +93,7 @@ class Settings {
         return read(setting, setting.fallback);
     }
 
-    /// Stores a value over any older one. Throws `Error` when the system refuses.
+    /// Stores a value, replacing an older one. Throws `Error` if Windows refuses.
     void write(const SettingKey<std::int16_t>& setting, std::int16_t value) const;
     void write(const SettingKey<std::int32_t>& setting, std::int32_t value) const;
     void write(const SettingKey<bool>& setting, bool value) const;

@@ -10,13 +10,13 @@ namespace quillomat {
 /// Lets the user choose one of the system's drives.
 class DriveListBox : public DropDownList {
   public:
-    /// Lists the drives there are now.
+    /// Lists the drives that exist now.
     DriveListBox(Container& container, Bounds bounds);
 
     /// The root of the selected drive, such as "C:\"; empty when none is selected.
     std::wstring drive() const;
-    /// Selects the drive that a path is on, and raises the change when that is another one. A path that is on none of
-    /// them changes nothing.
+    /// Selects the drive of a path, and raises the change if that is another drive. Does nothing if no drive of the
+    /// list has the path.
     void select_drive_of(const std::wstring& path);
 
   private:

@@ -9,13 +9,13 @@
 
 namespace quillomat {
 
-/// A list of texts that drops down; the box shows the one that is selected.
+/// A drop-down list of texts whose field shows the selected text.
 class DropDownList : public Control {
   public:
     DropDownList(Container& container, Bounds bounds);
 
-    /// Another text is selected, by the user or by the program. While the list is dropped down the user is still
-    /// choosing.
+    /// Another text has been selected, by the user or by the program. Not raised while the user moves through the open
+    /// list.
     std::function<void()> on_change;
 
     /// Adds a text at the end. Throws `Error` with OutOfMemory when the list takes no more.

@@ -5,11 +5,11 @@
 namespace quillomat {
 
 FolderIcon::FolderIcon(FolderState state, int size) : size_(size) {
-    // The larger one is scaled down for everything above the smallest size.
+    // Sizes above that of the small icon are scaled down from the large icon.
     const UINT kind = size > GetSystemMetrics(SM_CXSMICON) ? SHGFI_LARGEICON : SHGFI_SMALLICON;
     const UINT open = state == FolderState::Open ? SHGFI_OPENICON : 0;
     SHFILEINFOW info{};
-    // The name is that of no folder; by the attributes alone the system looks at no disk.
+    // With SHGFI_USEFILEATTRIBUTES the shell goes by the attributes and touches no disk; the name is a placeholder.
     if (SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
                        SHGFI_ICON | SHGFI_USEFILEATTRIBUTES | kind | open)) {
         icon_.reset(info.hIcon);

@@ -4,15 +4,15 @@
 
 namespace quillomat {
 
-/// What a folder looks like.
+/// How a folder is drawn.
 enum class FolderState { Closed, Open };
 
-/// The system's own picture of a folder.
+/// The system's icon of a folder.
 class FolderIcon {
   public:
-    /// No picture.
+    /// No icon.
     FolderIcon() = default;
-    /// A picture that is drawn this large, in pixels.
+    /// `size` is in pixels.
     FolderIcon(FolderState state, int size);
 
     /// Draws it with its upper left corner at a place, in pixels.

@@ -52,7 +52,7 @@ void FolderListBox::set_path(const std::wstring& path) {
         }
     }
     select_index(steps_ - 1);
-    // What is in the folder is in sight, and the way back.
+    // The parent folder is in view, and below it what the current folder holds.
     set_top_index(std::max(steps_ - 2, 0));
     raise(on_change);
 }

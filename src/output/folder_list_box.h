@@ -55,7 +55,7 @@ class FolderListBox : public ListBox {
 
     std::wstring path_;
     std::vector<Entry> entries_;
-    int steps_ = 0;  // how many of the entries lead to the current folder
+    int steps_ = 0;  // the number of entries that lead to the current folder
     FolderContent content_;
     bool focused_ = false;
     FolderIcon closed_folder_;

@@ -123,23 +123,26 @@ void frmAddNew::Text1_KeyDown(KeyEvent& event) {
 void frmAddNew::leave_by_escape(KeyEvent& event) {
     if (event.key != keys::escape) return;
     event.handled = true;
-    // A text that was typed is not lost to one slip of a finger.
+    // One press of Escape must not throw away typed text.
     const bool nothing_typed = Text1.empty() && Text2.empty();
-    nothing_typed || cmdButton[cancel_button]->has_focus() ? close() : cmdButton[cancel_button]->set_focus();
+    if (nothing_typed || cmdButton[cancel_button]->has_focus()) {
+        close();
+    } else {
+        cmdButton[cancel_button]->set_focus();
+    }
 }
 
 void frmAddNew::Timer1_Timer() {
-    // Only now does the window stand where it will stay.
+    // The window gets its final place only after it was loaded.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(cmdButton[add_button]->window());
     hover_help_.tick();
-    // The hover help knows nothing of what was shown for a disabled button.
+    // HoverHelp does not hide a box that was shown for a disabled button.
     const auto under_pointer = [this](const Button* button) { return is_under_pointer(session_.pointer, *button); };
     if (std::none_of(cmdButton.begin(), cmdButton.end(), under_pointer)) Text3.set_visible(false);
 }
 
 void frmAddNew::Form_MouseMove(const MouseEvent& event) {
-    // What a disabled button does not take of the mouse goes to the window, and the button has a help text all the
-    // same.
+    // A disabled button leaves mouse messages to the window; its help text is shown all the same.
     const Button& button = *cmdButton[add_button];
     const double x = event.x - button.left();
     const double y = event.y - button.top();
@@ -147,7 +150,7 @@ void frmAddNew::Form_MouseMove(const MouseEvent& event) {
 }
 
 void frmAddNew::show_help_box(std::size_t index, double x, double y) {
-    // The text first, because the place depends on its width.
+    // Set the text first: the place of the box depends on its width.
     Text3.set_text(help_texts[index]);
     Text3.fit_width_to_text();
     Text3.bring_to_front();
@@ -155,7 +158,7 @@ void frmAddNew::show_help_box(std::size_t index, double x, double y) {
     const Button& button = *cmdButton[index];
     const bool flush_right = index == add_button && x >= most_centred;
     const double left = flush_right ? width() - Text3.width() : button.left() + x - Text3.width() / 2;
-    // The frame of the window would cover the end of the text.
+    // Flush with the outer edge, the end of the text would be under the window's frame.
     const double last_left = inner_width() - Text3.width();
     Text3.move({std::min(left, last_left), button.top() + y - 500, Text3.width(), Text3.height()});
     Text3.set_visible(true);
@@ -196,8 +199,8 @@ void frmAddNew::propose_other_name(int existing, const std::wstring& name) {
 
 void frmAddNew::store(const std::wstring& name, const std::wstring& cheats) {
     const std::wstring record = record_text(name, cheats);
-    // What cannot be written is refused before the game is anywhere: it could not be added a second time, corrected,
-    // under the same name.
+    // Refuse a text that cannot be encoded before the game is stored: once stored, its name would be taken when the
+    // user tries again with a corrected text.
     encode(record);
     const int number = session_.viewer.game_count;
     session_.catalogue.store(number, name, cheats);

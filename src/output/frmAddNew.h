@@ -16,8 +16,8 @@ namespace quillomat {
 
 class Error;
 
-/// The window in which the user types a game of their own. It is added to the catalogue, to the viewer's full list and
-/// to the end of the database.
+/// The window in which the user adds a game of their own to the catalogue, to the viewer's full list and to the end of
+/// the database.
 class frmAddNew final : public Form {
   public:
     /// `session` and `viewer` must outlive the form.
@@ -38,7 +38,7 @@ class frmAddNew final : public Form {
     TextBox Text3{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Timer Timer1{*this, 1};
 
-    /// Adds what is typed, and closes the window; tells the user what keeps it from doing so.
+    /// Adds the typed game and closes the window; tells the user why if that fails.
     void AddGame();
 
   private:

@@ -88,7 +88,7 @@ void frmPrintGames::Form_Load() {
 
 void frmPrintGames::Form_Unload() {
     session_.settings.write(settings::LowerLimit, Text1.text());
-    // As it was typed: what is no number gives way to the default when it is read.
+    // Stored as typed. A text that is no number reads back as the default.
     session_.settings.write(SettingKey<std::wstring_view>{settings::UpperLimit.key}, Text2.text());
 }
 
@@ -105,8 +105,8 @@ void frmPrintGames::Option2_Click() {
 }
 
 void frmPrintGames::enable_range(bool enabled) {
-    for (Control* control : std::initializer_list<Control*>{&Frame1, &Label1, &Label2, &Label3, &Text1, &Text2, &Text3})
-        control->set_enabled(enabled);
+    const std::initializer_list<Control*> range{&Frame1, &Label1, &Label2, &Label3, &Text1, &Text2, &Text3};
+    for (Control* control : range) control->set_enabled(enabled);
 }
 
 void frmPrintGames::Command1_Click() {

@@ -40,7 +40,7 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
     bind_hover_help();
     set_default_button(&Command1);
     set_cancel_button(&Command2);
-    // What is scrolled to while the dialog is filled depends on the sizes.
+    // Lay out before the lists are filled: which folder is scrolled to depends on the height of the list.
     Form_Resize();
 }
 
@@ -81,7 +81,7 @@ void frmSave::Form_Load() {
 }
 
 void frmSave::open_first_folder() {
-    // The folder may have been removed since, or its drive: then the nearest one that is still there.
+    // If the current folder no longer exists, start in the nearest parent folder that does.
     const std::vector<FolderStep> steps = folder_steps(current_folder());
     for (auto step = steps.rbegin(); step != steps.rend() && Dir1.path().empty(); ++step) {
         try {
@@ -112,14 +112,14 @@ void frmSave::Form_Resize() {
     Dir1.move({second, lists_top, column, lists_height});
     Label5.move({second, captions_top, column, label_height});
     Drive1.move({second, fields_top, column, field_height});
-    // The help box has its place between the two.
+    // The help box of OK appears between the two buttons.
     Command1.move({button_left, 345, button_width, button_height});
     Command2.move({button_left, 1080, button_width, button_height});
 }
 
 void frmSave::Drive1_Change() {
     const std::wstring drive = Drive1.drive();
-    // The folder the program was started in may have its drive in a small letter.
+    // The path of the current folder may begin with a small letter.
     if (upper_cased(Dir1.path()).starts_with(drive)) return;
     try {
         Dir1.set_path(drive);
@@ -179,7 +179,7 @@ bool frmSave::may_be_written() {
 }
 
 void frmSave::Timer1_Timer() {
-    // Only now does the window stand where it will stay.
+    // The window gets its final place only after it was loaded.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(Command1.window());
     hover_help_.tick();
 }

@@ -24,8 +24,8 @@ class frmSave final : public Form {
     /// `session` and `viewer` must outlive the form.
     frmSave(Application& application, Session& session, ViewerLink& viewer);
 
-    // In the order of the Tab key, column by column. The path stands before the caption of the folder list, because a
-    // screen reader names a list by the text right before it.
+    // Made in the order of the Tab key, column by column. The path precedes the caption of the folder list, because
+    // screen readers name a list after the static text right before it.
     StaticLabel Label1{*this, L"File name:", {}};
     TextBox Text1{*this, {}};
     FileListBox File1{*this, {}, L".txt"};

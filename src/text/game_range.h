@@ -14,14 +14,14 @@ struct GameRange {
     friend bool operator==(const GameRange&, const GameRange&) = default;
 };
 
-/// The decimal text of how many games the typed numbers stand for; below 1 when the last one comes before the first
-/// one. A text counts as the number it begins with, an empty one as 0.
+/// Returns the number of games in the typed range as decimal text; below 1 if the last number is less than the first. A
+/// text counts as the number it begins with, an empty one as 0.
 std::wstring typed_range_total(std::wstring_view first, std::wstring_view last);
 
-/// The range the typed numbers stand for; nothing unless both are typed, in order, and numbers of `count` games.
+/// Returns the typed range; nothing unless both numbers are typed, in order, and from 1 to `count`.
 std::optional<GameRange> typed_range(std::wstring_view first, std::wstring_view last, int count);
 
-/// What the user is told when there is no such range.
+/// The message for a range that is not valid.
 std::wstring typed_range_hint(int count);
 
 }  // namespace quillomat

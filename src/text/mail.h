@@ -7,7 +7,7 @@
 
 namespace quillomat {
 
-/// What the windows that send mails tell their user first.
+/// The message with which the windows that send mails open.
 inline constexpr wchar_t mail_requirements[] =
     L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, Netscape, "
     L"Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You cannot send e-mail from "
@@ -22,17 +22,17 @@ struct MailedGame {
 /// The cheats of several games, each below its name in a frame of asterisks.
 std::wstring mailed_cheats(const std::vector<MailedGame>& games);
 
-/// The subject of a mail with cheats, by the names of the two.
+/// The subject of a mail with cheats, from the names of sender and recipient.
 std::wstring cheats_mail_subject(std::wstring_view sender, std::wstring_view recipient);
-/// The text of a mail whose cheats are in an attachment: the message and where it all comes from.
+/// The text of a mail whose cheats are in an attachment: the message and the footer.
 std::wstring cheats_mail_body(std::wstring_view message);
 /// The text of a mail that holds the cheats itself.
 std::wstring cheats_mail_body(std::wstring_view message, std::wstring_view cheats);
 /// The caption of the window that mails cheats.
 std::wstring cheats_mail_caption(std::wstring_view recipient);
 
-/// How many characters a double-click that selected the first word of one of the message's placeholders is meant to
-/// select; nothing for any other word.
+/// Returns the length of the whole placeholder if `selected` is the part of one that a double-click selects; nothing
+/// for any other text.
 std::optional<int> placeholder_length(std::wstring_view selected);
 
 /// The subjects offered for a message to the author.

@@ -4,8 +4,7 @@
 
 namespace quillomat {
 
-/// What a mail program answers when it is asked for something, as far as it means something to a user; other numbers
-/// occur. They are those of the system's simple mail interface.
+/// The results of Simple MAPI that mean something to a user. Other numbers occur.
 enum class MailResult : unsigned {
     Success = 0,
     UserAbort = 1,

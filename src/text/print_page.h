@@ -8,7 +8,7 @@
 
 namespace quillomat {
 
-/// Tells how many of a text's leading characters fit side by side on the page.
+/// Returns how many leading characters of a text fit on one printed line.
 using FittingLength = std::function<std::size_t(std::wstring_view text)>;
 
 /// The lines in which a text is printed. Every line break of the text ends a line; a line that is too wide goes on in

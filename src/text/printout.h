@@ -9,13 +9,13 @@
 
 namespace quillomat {
 
-/// What is printed of one game: its name, its cheats and where the program comes from.
+/// The printed text of one game: its name, its cheats and the footer.
 std::wstring cheats_printout(std::wstring_view name, std::wstring_view cheats);
 
-/// What stands above the list of games, and what the print queue calls it.
+/// The heading of the printed list of games, and the name of the document in the print queue.
 inline constexpr std::wstring_view game_list_heading = L"List of Games";
 
-/// What is printed of the list of games below its heading.
+/// The printed text below that heading: the names and the footer.
 std::wstring game_list_printout(std::span<const std::wstring> names);
 
 /// The lines for all games of a list of `count`: the names and one empty line, as if the list had one entry more.

@@ -16,7 +16,11 @@ constexpr std::size_t longest_name = 255;
 std::wstring without_colons(std::wstring_view text) {
     std::wstring result;
     for (const wchar_t character : text) {
-        character == L':' ? result.append(L" -") : result.append(1, character);
+        if (character == L':') {
+            result.append(L" -");
+        } else {
+            result.append(1, character);
+        }
     }
     return result;
 }

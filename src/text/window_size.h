@@ -12,9 +12,9 @@ struct WindowSize {
     bool operator==(const WindowSize&) const = default;
 };
 
-/// The size a window must be given first because it is below its minimum: with the height corrected, or else with the
-/// width corrected, never both at once, since each correction resizes the window anew. Nothing when it is large enough.
-/// Lengths are compared in whole pixels, because a window set to its minimum may read back half a pixel smaller.
+/// Returns the next size for a window that is below its minimum: with the height corrected, or else the width; never
+/// both at once, since each correction resizes the window anew. Nothing if the window is large enough. Lengths are
+/// compared in whole pixels, because a window set to its minimum may read back half a pixel smaller.
 std::optional<WindowSize> corrected_size(const WindowSize& actual, const WindowSize& minimum, double twips_per_pixel);
 
 /// What the viewer is no smaller than.

@@ -19,12 +19,13 @@ DriveKind kind_of(UINT type) {
         case DRIVE_RAMDISK:
             return DriveKind::Memory;
         default:
-            // Also one that the system does not know more about, such as one that is gone.
+            // Also a drive of unknown type, such as one that has gone.
             return DriveKind::Removable;
     }
 }
 
-/// An empty drive is an error of the call and no question of the system to the user. For this thread, while it lives.
+/// Makes calls on an empty drive fail, instead of Windows asking the user for a disk. For this thread, while the object
+/// lives.
 class QuietDrives {
   public:
     QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former_); }
@@ -88,7 +89,7 @@ FolderContent list_folder(const std::wstring& path) {
     WIN32_FIND_DATAW found{};
     const Search search(path_in(path, L"*"), found);
     if (!search) {
-        // The root of a disk has no entries for itself, so an empty one has none at all.
+        // The root of a disk lists no entry for itself, so an empty disk lists nothing.
         const DWORD code = GetLastError();
         const DWORD attributes = GetFileAttributesW(path.c_str());
         if (code == ERROR_FILE_NOT_FOUND && attributes != INVALID_FILE_ATTRIBUTES) return content;
@@ -99,7 +100,11 @@ FolderContent list_folder(const std::wstring& path) {
         if (name == L"." || name == L"..") continue;
         if (found.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) continue;
         const bool is_folder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
-        (is_folder ? content.folders : content.files).emplace_back(name);
+        if (is_folder) {
+            content.folders.emplace_back(name);
+        } else {
+            content.files.emplace_back(name);
+        }
     } while (search.next(found));
     // A list that breaks off would look like a folder with nothing more in it.
     if (GetLastError() != ERROR_NO_MORE_FILES) throw_last_error();

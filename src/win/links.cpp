@@ -8,7 +8,7 @@
 namespace quillomat {
 namespace {
 
-/// Some browsers are started through COM, which the thread must have ready.
+/// Initialises COM for this thread: Windows starts some browsers through COM.
 class ComApartment {
   public:
     ComApartment() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {}

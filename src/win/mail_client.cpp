@@ -7,8 +7,8 @@
 namespace quillomat {
 namespace {
 
-// The system's simple mail interface, once for its narrow and once for its wide functions. Declared here because not
-// every compiler's headers know the wide ones.
+// The structures of Simple MAPI, for its narrow and its wide functions. Declared here because not every compiler's
+// headers have the wide ones.
 template <class Character>
 struct MapiRecipient {
     ULONG reserved;
@@ -55,7 +55,7 @@ using SendFunction = ULONG WINAPI(std::uintptr_t session, ULONG_PTR owner, MapiM
 constexpr ULONG show_logon_dialog = 0x1;
 constexpr ULONG kind_to = 1;
 constexpr ULONG outside_of_text = 0xFFFFFFFF;
-// Rather refuse a message than put a question mark in place of a character.
+// MAPI_FORCE_UNICODE: refuses a message rather than replacing characters that the mail program cannot take.
 constexpr ULONG keep_every_character = 0x40000;
 
 [[noreturn]] void fail(MailResult result) {
@@ -71,7 +71,7 @@ Function* find(HMODULE library, const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
-/// Whether a mail program of this user or of all users says here how it is to be called.
+/// True if a mail program has registered below `root` how it is called.
 bool is_registered_below(HKEY root) {
     RegistryKey programs;
     if (RegOpenKeyExW(root, L"Software\\Clients\\Mail", 0, KEY_READ, programs.receive()) != ERROR_SUCCESS) return false;
@@ -92,8 +92,9 @@ bool is_registered_below(HKEY root) {
 /// The system's library through which the user's default mail program is called.
 HMODULE load_library() {
     // Without any mail program the system's library would show a message of its own first.
-    if (!is_registered_below(HKEY_CURRENT_USER) && !is_registered_below(HKEY_LOCAL_MACHINE))
+    if (!is_registered_below(HKEY_CURRENT_USER) && !is_registered_below(HKEY_LOCAL_MACHINE)) {
         fail_without_mail_program();
+    }
     const HMODULE library = LoadLibraryExW(L"mapi32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (!library) fail_without_mail_program();
     return library;
@@ -144,7 +145,7 @@ MailSession::MailSession(HWND owner) : owner_(owner), library_(load_library()) {
             ? MailResult{log_on(reinterpret_cast<ULONG_PTR>(owner), nullptr, nullptr, show_logon_dialog, 0, &session_)}
             : MailResult::NotSupported;
     if (result == MailResult::Success) return;
-    // The next attempt looks for a mail program anew: the user may have set one up.
+    // Unloaded, the library looks for a mail program again at the next attempt: the user may have set one up.
     FreeLibrary(library_);
     fail(result);
 }

@@ -12,7 +12,7 @@
 namespace quillomat {
 namespace {
 
-/// What text is printed in where a printer has no wishes of its own.
+/// The font of all printed text.
 constexpr wchar_t font_name[] = L"Arial";
 constexpr double font_points = 10;
 
@@ -88,7 +88,7 @@ void DefaultPrinter::start_document(const std::wstring& name) {
     document.lpszDocName = name.c_str();
     printed(name_, [&] {
         const int job = StartDocW(canvas_, &document);
-        // A printer that prints to a file asks for its name, and the user may give none.
+        // A driver that prints to a file asks for the name of the file, and the user may cancel.
         if (job <= 0 && GetLastError() == ERROR_CANCELLED) throw Error(ErrorCode::Cancelled);
         return job;
     });
@@ -120,7 +120,7 @@ PrintJob::PrintJob(PrintDevice& device, const std::wstring& document_name) : dev
     try {
         start_page();
     } catch (...) {
-        // The destructor does not run for a job that was never complete.
+        // The destructor does not run if the constructor throws.
         abort();
         throw;
     }
@@ -170,7 +170,7 @@ void PrintJob::start_page() {
         font_.reset(CreateFontIndirectW(&description));
     }
     former_font_ = SelectObject(canvas_, font_.get());
-    // Text must not wipe out the rules it comes close to.
+    // An opaque background would wipe out the rules near the text.
     SetBkMode(canvas_, TRANSPARENT);
 }
 
@@ -185,16 +185,18 @@ void PrintJob::print_line(const std::wstring& line) {
         end_page();
         start_page();
     }
-    if (!ExtTextOutW(canvas_, left_, place.top, 0, nullptr, line.c_str(), static_cast<UINT>(line.size()), nullptr))
+    if (!ExtTextOutW(canvas_, left_, place.top, 0, nullptr, line.c_str(), static_cast<UINT>(line.size()), nullptr)) {
         throw Error(ErrorCode::PrinterError);
+    }
 }
 
 std::size_t PrintJob::fitting_length(std::wstring_view text) const {
     const int width = std::max(GetDeviceCaps(canvas_, HORZRES) - left_, 0);
     int fitting = 0;
     SIZE size{};
-    if (!GetTextExtentExPointW(canvas_, text.data(), static_cast<int>(text.size()), width, &fitting, nullptr, &size))
+    if (!GetTextExtentExPointW(canvas_, text.data(), static_cast<int>(text.size()), width, &fitting, nullptr, &size)) {
         throw Error(ErrorCode::PrinterError);
+    }
     return static_cast<std::size_t>(fitting);
 }
 

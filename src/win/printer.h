@@ -10,7 +10,7 @@
 
 namespace quillomat {
 
-/// What prints a document page by page. A document that was started is either ended or aborted.
+/// A device that prints documents page by page. Every started document is either ended or aborted.
 class PrintDevice {
   public:
     virtual ~PrintDevice() = default;
@@ -35,8 +35,8 @@ class DefaultPrinter final : public PrintDevice {
     DefaultPrinter(const DefaultPrinter&) = delete;
     DefaultPrinter& operator=(const DefaultPrinter&) = delete;
 
-    /// Throws `Error`: Cancelled when the user thinks better of it, PrinterError, also for a job that was deleted from
-    /// its queue, DiskFull or OutOfMemory.
+    /// Throws `Error`: Cancelled if the user cancels, DiskFull, OutOfMemory, or PrinterError, also if the job was
+    /// deleted from its queue.
     void start_document(const std::wstring& name) override;
     HDC start_page() override;
     void end_page() override;
@@ -48,7 +48,7 @@ class DefaultPrinter final : public PrintDevice {
     HDC canvas_;
 };
 
-/// How a window gets at the printer; tests print elsewhere.
+/// Opens the printer for a window. Tests supply another device.
 using PrinterFactory = std::function<std::unique_ptr<PrintDevice>()>;
 
 /// Throws as the constructor of `DefaultPrinter` does.

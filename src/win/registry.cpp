@@ -21,7 +21,7 @@ std::optional<std::wstring> read_user_text(const std::wstring& key, const std::w
             continue;
         }
         if (status != ERROR_SUCCESS || type != REG_SZ) return std::nullopt;
-        // Anyone can store bytes as a text: without a zero at the end, with several, or with half a character.
+        // Another program may have stored a text without a NUL at its end, with several, or with half a character.
         text.resize(size / sizeof(wchar_t));
         return text.substr(0, text.find(L'\0'));
     }

@@ -5,11 +5,11 @@
 
 namespace quillomat {
 
-/// A text among the current user's values in the registry, up to its first zero; nothing when it cannot be read or is
-/// no text. `key` is the path below the user's own root.
+/// Returns a text value of the current user's registry, up to its first NUL; nothing if it cannot be read or has
+/// another type. `key` is the path below HKEY_CURRENT_USER.
 std::optional<std::wstring> read_user_text(const std::wstring& key, const std::wstring& name);
 
-/// Stores a text among the current user's values, making the key as needed. Throws `Error` when the system refuses.
+/// Stores a text value in the current user's registry, and makes the key as needed. Throws `Error` if Windows refuses.
 void write_user_text(const std::wstring& key, const std::wstring& name, const std::wstring& text);
 
 }  // namespace quillomat

@@ -111,21 +111,15 @@ TEST_F(AddGameTest, AFailureLeavesTheFileAsItWasAndWhatWasTyped) {
 
 TEST_F(AddGameTest, KeysLeadThroughTheWindow) {
     open();
-    Button& add_button = *window->cmdButton[0];
-    Button& cancel_button = *window->cmdButton[1];
     EXPECT_TRUE(window->Text1.has_focus());
     window->Text1.set_text(L"name");
     press_key(VK_RETURN);
     EXPECT_SOON(window->Text2.has_focus());
-    EXPECT_FALSE(add_button.enabled()) << "there are no cheats yet";
+    EXPECT_FALSE(window->cmdButton[0]->enabled()) << "there are no cheats yet";
     press_key(VK_RETURN);
-    EXPECT_SOON(window->Text2.text() == L"\r\n" && add_button.enabled());
-    for (const Button* next : {&cancel_button, &add_button}) {
-        press_key(VK_TAB);
-        EXPECT_SOON(next->has_focus());
-    }
+    EXPECT_SOON(window->Text2.text() == L"\r\n" && window->cmdButton[0]->enabled());
     press_key(VK_ESCAPE);
-    EXPECT_SOON(cancel_button.has_focus()) << "what was typed is not lost yet";
+    EXPECT_SOON(window->cmdButton[1]->has_focus()) << "what was typed is not lost yet";
     press_key(VK_ESCAPE);
     EXPECT_SOON(!window);
     EXPECT_EQ(bytes("Cheats.dat"), database);

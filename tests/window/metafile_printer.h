@@ -18,7 +18,6 @@ struct Printed {
     int documents_aborted = 0;
     /// The page at whose end there is an error; 0 for none.
     std::size_t fails_at_page = 0;
-    ErrorCode failure = ErrorCode::PrinterError;
 };
 
 /// A printer whose pages are metafiles that are read back. They have the screen's size and resolution.
@@ -33,7 +32,7 @@ class MetafilePrinter final : public PrintDevice {
         std::vector<std::wstring> page;
         EnumEnhMetaFile(nullptr, metafile, read_record, &page, nullptr);
         DeleteEnhMetaFile(metafile);
-        if (printed_.pages.size() + 1 == printed_.fails_at_page) throw Error(printed_.failure);
+        if (printed_.pages.size() + 1 == printed_.fails_at_page) throw Error(ErrorCode::PrinterError);
         printed_.pages.push_back(std::move(page));
     }
     void end_document() override { ++printed_.documents_ended; }

@@ -14,7 +14,20 @@ namespace {
 class FilePrinter {
   public:
     explicit FilePrinter(const std::filesystem::path& port) {
-        install_driver();
+        wchar_t folder[MAX_PATH];
+        DWORD needed = 0;
+        GetPrinterDriverDirectoryW(nullptr, nullptr, 1, reinterpret_cast<BYTE*>(folder), sizeof folder, &needed);
+        const std::filesystem::path place = std::filesystem::path(folder) / "3";
+        std::filesystem::create_directories(place);
+        write_bytes(place / "quillomat.ppd", description);
+        DRIVER_INFO_2W driver{};
+        driver.cVersion = 3;
+        driver.pName = driver_;
+        driver.pEnvironment = const_cast<wchar_t*>(L"Windows x64");
+        driver.pDriverPath = const_cast<wchar_t*>(L"wineps.drv");
+        driver.pDataFile = const_cast<wchar_t*>(L"quillomat.ppd");
+        driver.pConfigFile = const_cast<wchar_t*>(L"wineps.drv");
+        AddPrinterDriverW(nullptr, 2, reinterpret_cast<BYTE*>(&driver));
         std::wstring port_name = port.wstring();
         PRINTER_INFO_2W printer{};
         printer.pPrinterName = name_;
@@ -33,23 +46,6 @@ class FilePrinter {
     bool installed() const { return printer_ != nullptr; }
 
   private:
-    void install_driver() {
-        wchar_t folder[MAX_PATH];
-        DWORD needed = 0;
-        GetPrinterDriverDirectoryW(nullptr, nullptr, 1, reinterpret_cast<BYTE*>(folder), sizeof folder, &needed);
-        const std::filesystem::path place = std::filesystem::path(folder) / "3";
-        std::filesystem::create_directories(place);
-        write_bytes(place / "quillomat.ppd", description);
-        DRIVER_INFO_2W driver{};
-        driver.cVersion = 3;
-        driver.pName = driver_;
-        driver.pEnvironment = const_cast<wchar_t*>(L"Windows x64");
-        driver.pDriverPath = const_cast<wchar_t*>(L"wineps.drv");
-        driver.pDataFile = const_cast<wchar_t*>(L"quillomat.ppd");
-        driver.pConfigFile = const_cast<wchar_t*>(L"wineps.drv");
-        AddPrinterDriverW(nullptr, 2, reinterpret_cast<BYTE*>(&driver));
-    }
-
     static constexpr char description[] =
         "*PPD-Adobe: \"4.3\"\n*LanguageLevel: \"3\"\n*ColorDevice: False\n*TTRasterizer: Type42\n"
         "*DefaultResolution: 600dpi\n*DefaultPageSize: A4\n*PageSize A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
@@ -112,19 +108,15 @@ TEST_F(PrintGamesTest, ARangeIsTypedCheckedPrintedAndRemembered) {
     EXPECT_EQ(form->Text2.text(), L"21") << "what is no number of a game gives way to the default";
 }
 
-TEST_F(PrintGamesTest, TroubleWithThePrinterIsOneMessageOrNoneAndTheWindowStays) {
+TEST_F(PrintGamesTest, TroubleWithThePrinterIsOneMessageAndTheWindowStays) {
     open(200);
-    for (const ErrorCode failure : {ErrorCode::PrinterError, ErrorCode::Cancelled}) {
-        printed = {};
-        printed.fails_at_page = 2;
-        printed.failure = failure;
-        if (failure != ErrorCode::Cancelled) expect_message(L"Quillomat", L"Printer error");
-        press(form->Command1);
-        pump();
-        ASSERT_TRUE(form && !form->closed());
-        EXPECT_EQ(printed.documents_ended, 0);
-        EXPECT_EQ(printed.documents_aborted, 1) << "half a list is not printed";
-    }
+    printed.fails_at_page = 2;
+    expect_message(L"Quillomat", L"Printer error");
+    press(form->Command1);
+    pump();
+    ASSERT_TRUE(form && !form->closed());
+    EXPECT_EQ(printed.documents_ended, 0);
+    EXPECT_EQ(printed.documents_aborted, 1) << "half a list is not printed";
 }
 
 TEST_F(PrintGamesTest, TheListGoesThroughThePrintingSystemOrTheUserIsToldWhyNot) {
