@@ -45,7 +45,7 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
 
     const HWND focused = GetFocus();
     ModalScope others(*this);
-    const Worker worker(std::move(work));
+    Worker worker(std::move(work));
     const HANDLE thread = worker.thread();
     const Patience patience(milliseconds);
     std::optional<int> quit;
@@ -66,8 +66,11 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
     others.end();
     // The focus leaves a window that cannot be used.
     if (IsWindow(focused)) SetFocus(focused);
-    if (result == WAIT_TIMEOUT) return false;
-    worker.check();
+    if (result == WAIT_TIMEOUT) {
+        worker.leave_alone();
+        return false;
+    }
+    worker.join();
     return true;
 }
 

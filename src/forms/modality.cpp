@@ -57,7 +57,10 @@ HWND Modality::owner_for_message(HWND wanted) const {
 }
 
 void Modality::bring_usable_to_front() const {
-    if (const HWND window = usable_window()) SetForegroundWindow(window);
+    const HWND window = usable_window();
+    if (!window) return;
+    if (IsIconic(window)) ShowWindow(window, SW_RESTORE);
+    SetForegroundWindow(window);
 }
 
 ModalScope::ModalScope(Application& application, HWND usable) : modality_(application.modality()) {

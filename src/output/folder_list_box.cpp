@@ -23,8 +23,8 @@ FolderListBox::FolderListBox(Container& container, Bounds bounds) : ListBox(cont
 
 void FolderListBox::fit_items() {
     const int size = to_pixels(icon_size, dpi());
-    closed_folder_ = FolderIcon(FolderState::Closed, size);
-    open_folder_ = FolderIcon(FolderState::Open, size);
+    closed_folder_ = folder_icon(FolderState::Closed, size);
+    open_folder_ = folder_icon(FolderState::Open, size);
     send(LB_SETITEMHEIGHT, 0, size + 2);
 }
 
@@ -117,8 +117,9 @@ void FolderListBox::draw(const DRAWITEMSTRUCT& request) {
     // However deep a folder lies, half of the list's width is left for its name.
     const int indent = to_pixels(indentation * entries_[request.itemID].depth, dpi());
     area.left += std::min<LONG>(indent, (area.right - area.left) / 2) + 2;
-    const FolderIcon& icon = index < steps_ ? open_folder_ : closed_folder_;
-    icon.draw(canvas, area.left, (area.top + area.bottom - size) / 2);
+    const Icon& icon = index < steps_ ? open_folder_ : closed_folder_;
+    const int top = (area.top + area.bottom - size) / 2;
+    if (icon) DrawIconEx(canvas, area.left, top, icon.get(), size, size, 0, nullptr, DI_NORMAL);
     area.left += size + to_pixels(gap, dpi());
 
     const Selection font(canvas, reinterpret_cast<HFONT>(send(WM_GETFONT)));

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "controls/list_box.h"
-#include "output/folder_icon.h"
 #include "win/folders.h"
 
 namespace quillomat {
@@ -58,8 +57,8 @@ class FolderListBox : public ListBox {
     int steps_ = 0;  // the number of entries that lead to the current folder
     FolderContent content_;
     bool focused_ = false;
-    FolderIcon closed_folder_;
-    FolderIcon open_folder_;
+    Icon closed_folder_;
+    Icon open_folder_;
 };
 
 }  // namespace quillomat

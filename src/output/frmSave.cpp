@@ -132,7 +132,15 @@ void frmSave::Drive1_Change() {
 void frmSave::Dir1_Change() {
     Label3.set_caption(Dir1.path());
     Drive1.select_drive_of(Dir1.path());
-    File1.show(Dir1.files());
+    list_files();
+}
+
+void frmSave::list_files() {
+    const ListBox::Filling filling(File1);
+    File1.clear();
+    for (const std::wstring& name : Dir1.files()) {
+        if (has_extension(name, L".txt")) File1.add(name);
+    }
 }
 
 void frmSave::File1_Click() {

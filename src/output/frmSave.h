@@ -11,7 +11,6 @@
 #include "forms/timer.h"
 #include "output/drive_list_box.h"
 #include "output/drop_down_list.h"
-#include "output/file_list_box.h"
 #include "output/folder_list_box.h"
 #include "output/path_label.h"
 #include "output/viewer_link.h"
@@ -28,7 +27,7 @@ class frmSave final : public Form {
     // screen readers name a list after the static text right before it.
     StaticLabel Label1{*this, L"File name:", {}};
     TextBox Text1{*this, {}};
-    FileListBox File1{*this, {}, L".txt"};
+    ListBox File1{*this, {}};
     StaticLabel Label4{*this, L"List files of type:", {}};
     DropDownList Combo1{*this, {0, 0, 2000, 315}};
     PathLabel Label3{*this, {}};
@@ -49,6 +48,7 @@ class frmSave final : public Form {
     void Form_Resize();
     void Drive1_Change();
     void Dir1_Change();
+    void list_files();
     void File1_Click();
     void Command1_Click();
     void Timer1_Timer();

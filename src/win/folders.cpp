@@ -4,6 +4,8 @@
 
 #include "text/paths.h"
 #include "win/errors.h"
+// Needs what the above includes.
+#include <shellapi.h>
 
 namespace quillomat {
 namespace {
@@ -116,6 +118,17 @@ FolderContent list_folder(const std::wstring& path) {
 bool answers_at_once(const std::wstring& path) {
     const UINT type = GetDriveTypeW(folder_steps(path).front().path.c_str());
     return type == DRIVE_FIXED || type == DRIVE_RAMDISK;
+}
+
+Icon folder_icon(FolderState state, int size) {
+    UINT flags = SHGFI_ICON | SHGFI_USEFILEATTRIBUTES;
+    // Sizes above that of the small icon are scaled down from the large icon.
+    flags |= size > GetSystemMetrics(SM_CXSMICON) ? SHGFI_LARGEICON : SHGFI_SMALLICON;
+    if (state == FolderState::Open) flags |= SHGFI_OPENICON;
+    SHFILEINFOW info{};
+    // With SHGFI_USEFILEATTRIBUTES the shell goes by the attributes and touches no disk; the name is a placeholder.
+    SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info, flags);
+    return Icon(info.hIcon);
 }
 
 std::wstring current_folder() {

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "win/picture.h"
+
 namespace quillomat {
 
 /// The kind of a drive.
@@ -33,6 +35,12 @@ FolderContent list_folder(const std::wstring& path);
 
 /// False for a folder on a drive that may be far away or asleep.
 bool answers_at_once(const std::wstring& path);
+
+/// How a folder is drawn.
+enum class FolderState { Closed, Open };
+
+/// Returns the system's icon of a folder for a size in pixels; null if there is none.
+Icon folder_icon(FolderState state, int size);
 
 /// The current folder of the process.
 std::wstring current_folder();

@@ -51,7 +51,13 @@ unsigned __stdcall Worker::run(void* passed) {
     return 0;
 }
 
-void Worker::check() const {
+Worker::~Worker() {
+    if (!left_alone_) WaitForSingleObject(thread_, INFINITE);
+    CloseHandle(thread_);
+}
+
+void Worker::join() const {
+    WaitForSingleObject(thread_, INFINITE);
     if (!task_->finished) throw Error(ErrorCode::Crashed);
     if (task_->failure) std::rethrow_exception(task_->failure);
 }

@@ -7,21 +7,23 @@
 
 namespace quillomat {
 
-/// Runs a work on a thread of its own. A work that crashes ends its thread, not the program. A work that has not ended
-/// when the object is destroyed goes on by itself.
+/// Runs a work on a thread of its own. A work that crashes ends its thread, not the program.
 class Worker {
   public:
     /// Starts the work. Throws `Error` with OutOfMemory if there is no room for another thread.
     explicit Worker(std::function<void()> work);
-    ~Worker() { CloseHandle(thread_); }
+    /// Waits for the end of the work, unless it was left alone.
+    ~Worker();
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
 
     /// Signalled once the work has ended.
     HANDLE thread() const { return thread_; }
-    /// To be called once the work has ended. Rethrows the exception that left the work; throws `Error` with Crashed if
-    /// the work has crashed.
-    void check() const;
+    /// Lets the work go on by itself.
+    void leave_alone() { left_alone_ = true; }
+    /// Waits for the end of the work. Rethrows the exception that left it; throws `Error` with Crashed if it has
+    /// crashed.
+    void join() const;
 
   private:
     struct Task;
@@ -29,6 +31,7 @@ class Worker {
 
     std::shared_ptr<Task> task_;
     HANDLE thread_;
+    bool left_alone_ = false;
 };
 
 }  // namespace quillomat

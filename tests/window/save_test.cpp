@@ -128,6 +128,19 @@ TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {
     EXPECT_EQ(window->Dir1.path(), place.wstring()) << "a folder that has vanished is not entered";
 }
 
+TEST_F(SaveTest, AMinimisedDialogComesBackWhenTheViewerIsCalledFor) {
+    open_viewer(database);
+    frmSave dialog(application, session, *link);
+    dialog.Timer1.on_timer = [&] {
+        if (!dialog.shown()) return;
+        dialog.set_window_state(WindowState::Minimised);
+        viewer->bring_to_foreground();
+        EXPECT_EQ(dialog.window_state(), WindowState::Normal);
+        dialog.close();
+    };
+    dialog.show_modal(nullptr);
+}
+
 /// A drive whose disk is gone, while it lives.
 struct GoneDrive {
     GoneDrive() { EXPECT_TRUE(DefineDosDeviceW(DDD_RAW_TARGET_PATH, L"Q:", L"\\??\\Z:\\no such folder at all")); }
