@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "win/gdi.h"
 
 namespace quillomat {
@@ -33,8 +35,8 @@ class ShownPixels {
         }
         return count;
     }
-    /// The part of an area in which another picture differs; empty if none does.
-    RECT difference(const ShownPixels& other, const RECT& area) const {
+    /// Returns the part of an area in which another picture differs; nothing if none does.
+    std::optional<RECT> difference(const ShownPixels& other, const RECT& area) const {
         RECT changed{};
         for (LONG y = area.top; y < area.bottom; ++y) {
             for (LONG x = area.left; x < area.right; ++x) {
@@ -42,6 +44,7 @@ class ShownPixels {
                 if (at(x, y) != other.at(x, y)) UnionRect(&changed, &changed, &pixel);
             }
         }
+        if (IsRectEmpty(&changed)) return std::nullopt;
         return changed;
     }
 
