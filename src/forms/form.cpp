@@ -90,8 +90,11 @@ Form::Form(Application& application, const FormDesign& design)
     const UINT system_dpi = GetDpiForWindow(window_);
     dpi_ = application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi);
     tool_tips_.create(window_, dpi_);
-    SetWindowPos(window_, nullptr, 0, 0, to_pixels(design.width, dpi_), to_pixels(design.height, dpi_),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (design.measured == FormSize::Inside) {
+        set_inner_size(design.width, design.height);
+    } else {
+        set_size(design.width, design.height);
+    }
 }
 
 Form::~Form() {
@@ -196,7 +199,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             if (wparam) close();
             return 0;
         case WM_SIZE:
-            if (shown_ && !closed_) resized();
+            if (shown_ && !closed_ && !resolution_changing_) resized();
             return 0;
         case WM_SIZING:
             limit_sizing(wparam, *reinterpret_cast<RECT*>(lparam));
@@ -338,6 +341,7 @@ void Form::set_caption(std::wstring caption) {
 }
 
 void Form::set_icon(const Picture& picture) {
+    icon_ = picture;
     const auto resolution = static_cast<UINT>(dpi_);
     // Pictures that take turns are loaded once.
     auto& [small_icon, large_icon] = icons_[{picture, dpi_}];
@@ -391,6 +395,10 @@ void Form::bring_to_foreground() {
 
 void Form::refresh() {
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void Form::paint_changes() {
+    RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 int Form::add_command(Menu& menu) {

@@ -28,10 +28,14 @@ enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 /// What frames a form and whether the user can change its size.
 enum class FormBorder { Sizable, Fixed, Dialog, None };
 
+/// What the size of a form's design counts: the whole window, or what is inside of its frame and title bar, so that the
+/// thickness of the frame, which differs between versions of Windows, cuts nothing.
+enum class FormSize { Outside, Inside };
+
 /// The shape of the pointer over a form.
 enum class PointerShape { Default, Hourglass };
 
-/// How a form looks before its handlers have run. Sizes are outer sizes in twips.
+/// How a form looks before its handlers have run. Sizes are in twips.
 struct FormDesign {
     /// Also the name of its window class, by which automation finds it.
     const wchar_t* name = nullptr;
@@ -39,6 +43,7 @@ struct FormDesign {
     double width = 0;
     double height = 0;
     FormBorder border = FormBorder::Sizable;
+    FormSize measured = FormSize::Outside;
     /// What the user can make it no smaller than by its border, in twips.
     WindowSize minimum{};
 };
@@ -127,6 +132,8 @@ class Form : public Container, public MouseEvents {
     void bring_to_foreground();
     /// Paints the window and all that stands on it now instead of when the program is idle.
     void refresh();
+    /// The same for what has changed only.
+    void paint_changes();
 
     /// The buttons that Enter and Escape press; null for none.
     void set_default_button(Control* button);
@@ -199,6 +206,8 @@ class Form : public Container, public MouseEvents {
     std::wstring caption_;
     std::map<std::pair<Picture, int>, std::pair<Icon, Icon>> icons_;  // the small and the large one, by the resolution
     WindowSize minimum_;
+    std::optional<WindowSize> inner_size_;  // kept at every resolution
+    Picture icon_;
     HWND window_ = nullptr;
     int dpi_ = 96;
     ToolTips tool_tips_;
@@ -216,6 +225,7 @@ class Form : public Container, public MouseEvents {
     bool load_begun_ = false;
     bool loading_ = false;
     bool shown_ = false;
+    bool resolution_changing_ = false;
     bool closed_ = false;
     int handlers_running_ = 0;
 };

@@ -82,6 +82,7 @@ double Form::inner_height() const {
 void Form::set_inner_size(double width, double height) {
     // A menu bar takes its room only now that it has its menus.
     if (GetMenu(window_)) DrawMenuBar(window_);
+    inner_size_ = WindowSize{width, height};
     const RECT area = outer();
     RECT client{};
     GetClientRect(window_, &client);
@@ -126,10 +127,14 @@ void Form::resolution_changed(int dpi, const RECT& suggested) {
     tool_tips_.fit_resolution(dpi_);
     items_resolution_changed();
     renew_menu_pictures();
+    if (icon_) set_icon(icon_);
+    resolution_changing_ = true;
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (inner_size_ && !IsIconic(window_)) set_inner_size(inner_size_->width, inner_size_->height);
+    resolution_changing_ = false;
     // A minimised window has nothing to lay out, and for its handler a minimised size means that it was minimised now.
-    if (shown_ && !IsIconic(window_)) raise(on_resize);
+    if (shown_ && !IsIconic(window_)) resized();
 }
 
 }  // namespace quillomat

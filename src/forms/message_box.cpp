@@ -2,6 +2,7 @@
 
 #include "forms/application.h"
 #include "forms/form.h"
+#include "text/error.h"
 
 namespace quillomat {
 namespace {
@@ -55,6 +56,10 @@ MessageAnswer show_message(Application& application, HWND wanted, const Message&
         default:
             return MessageAnswer::Ok;
     }
+}
+
+void show_error(HWND form, const Error& error) {
+    show_message(form, {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
 }
 
 void beep() {

@@ -7,6 +7,7 @@
 namespace quillomat {
 
 class Application;
+class Error;
 
 /// The answers a message box offers.
 enum class MessageButtons { Ok, OkCancel, YesNo };
@@ -28,6 +29,9 @@ struct Message {
 MessageAnswer show_message(HWND form, const Message& message);
 /// The same for a window that may have gone since, or for none (null).
 MessageAnswer show_message(Application& application, HWND owner, const Message& message);
+
+/// Shows a failure above a form, given by its window, in a critical message box with the title "Error!".
+void show_error(HWND form, const Error& error);
 
 /// Sounds the system's beep, for a key that does nothing.
 void beep();

@@ -222,7 +222,7 @@ void frmAddNew::report(const Error& error) {
         close();
         return;
     }
-    show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+    show_error(window(), error);
 }
 
 }  // namespace quillomat

@@ -27,9 +27,10 @@ constexpr int rule_width = 3;
 frmPrintGames::frmPrintGames(Application& application, Session& session, ViewerLink& viewer)
     : Form(application, {.name = L"frmPrintGames",
                          .caption = L"Number of Games",
-                         .width = 4830,
-                         .height = 3660,
-                         .border = FormBorder::Dialog}),
+                         .width = 4740,
+                         .height = 3285,
+                         .border = FormBorder::Dialog,
+                         .measured = FormSize::Inside}),
       session_(session),
       viewer_(viewer) {
     bind();

@@ -124,7 +124,7 @@ void frmSave::Drive1_Change() {
     try {
         Dir1.set_path(drive);
     } catch (const Error& error) {
-        show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+        show_error(window(), error);
         Drive1.select_drive_of(Dir1.path());
     }
 }
@@ -163,7 +163,7 @@ void frmSave::Command1_Click() {
     try {
         if (may_be_written() && write()) close();
     } catch (const Error& error) {
-        show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+        show_error(window(), error);
     }
 }
 

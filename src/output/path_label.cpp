@@ -13,9 +13,4 @@ void PathLabel::set_caption(const std::wstring& path) {
     set_tool_tip(path);
 }
 
-HBRUSH PathLabel::prepare_colours(HDC canvas) {
-    set_default_back_colour(container().back_colour());
-    return Control::prepare_colours(canvas);
-}
-
 }  // namespace quillomat

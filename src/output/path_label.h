@@ -13,8 +13,6 @@ class PathLabel : public Control {
     /// The whole path.
     std::wstring caption() const { return window_text(); }
     void set_caption(const std::wstring& path);
-
-    HBRUSH prepare_colours(HDC canvas) override;
 };
 
 }  // namespace quillomat

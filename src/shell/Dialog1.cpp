@@ -14,15 +14,18 @@ namespace {
 
 constexpr wchar_t title[] = L"about the author - tobin ferrand";
 constexpr int pause_between_steps = 5;
+constexpr double inner_width_designed = 5910;
+constexpr double frame_height = 375;  // of the title bar and the frame that the dialog's heights were drawn with
 
 }  // namespace
 
 Dialog1::Dialog1(Application& application, PointerState& pointer)
     : Form(application, {.name = L"Dialog1",
                          .caption = title,
-                         .width = 6000,
-                         .height = author_dialog_height,
-                         .border = FormBorder::Dialog}),
+                         .width = inner_width_designed,
+                         .height = author_dialog_height - frame_height,
+                         .border = FormBorder::Dialog,
+                         .measured = FormSize::Inside}),
       picSpin(PICTURE_COIN),
       Picture1{Picture(PICTURE_QUILL_FIRST), Picture(PICTURE_QUILL_FIRST + 1), Picture(PICTURE_QUILL_FIRST + 2)},
       picCopy(*this, picSpin, L"A coin that turns", {240, 240, 2340, 2340}, PictureBox::Edge::Thin),
@@ -87,11 +90,11 @@ void Dialog1::resize(std::optional<double> (*next_height)(double)) {
     while (const auto next = next_height(exact_height_)) {
         exact_height_ = *next;
         if (!animated) continue;
-        set_height(exact_height_);
-        RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        set_inner_size(inner_width_designed, exact_height_ - frame_height);
+        paint_changes();
         pause_milliseconds(pause_between_steps);
     }
-    set_height(exact_height_);
+    set_inner_size(inner_width_designed, exact_height_ - frame_height);
 }
 
 void Dialog1::Expand() {

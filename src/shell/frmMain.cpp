@@ -58,10 +58,6 @@ void frmMain::dress() {
 
 void frmMain::bind() {
     on_load = [this] { Form_Load(); };
-    // Another resolution changes the thickness of the border.
-    on_resize = [this] {
-        if (window_state() == WindowState::Normal) set_inner_size(design_width, design_height);
-    };
     on_unload = [this] { raise(windows_.close_all); };
     for (MouseEvents* surface :
          std::initializer_list<MouseEvents*>{this, &Frame1, &Picture1, &Name, &Subtitle, &Command7, &Command9}) {

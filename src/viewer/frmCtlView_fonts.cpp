@@ -67,7 +67,7 @@ void frmCtlView::offer_installed_fonts() {
     try {
         collect_fonts();
     } catch (const Error& error) {
-        show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+        show_error(window(), error);
         return;
     }
     if (closed()) return;

@@ -166,7 +166,7 @@ void frmCtlView::slide(Control& panel, double left, std::optional<double> (*next
 }
 
 void frmCtlView::show_slide_step() {
-    RedrawWindow(window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    paint_changes();
     Line1.refresh();
     pause_milliseconds(1);
 }

@@ -22,7 +22,7 @@ void frmCtlView::Form_Load() {
         const Hourglass hourglass(*this);
         start_up();
     } catch (const Error& error) {
-        show_message(window(), {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
+        show_error(window(), error);
     }
     centre_on_screen();
 }

@@ -37,7 +37,7 @@ void frmStatus::show_progress(int collected, int count) {
 void frmStatus::end() {
     set_caption(L"Please wait...");
     set_closable(true);
-    UpdateWindow(window());
+    paint_changes();
 }
 
 void frmStatus::Form_KeyDown(KeyEvent& event) {

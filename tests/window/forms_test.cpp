@@ -1,5 +1,9 @@
 // The rules that every window of the program relies on, held over every kind of control.
 
+#include <algorithm>
+#include <cstdint>
+#include <span>
+
 #include "controls/button.h"
 #include "controls/frame.h"
 #include "controls/graphics.h"
@@ -10,9 +14,11 @@
 #include "forms/menu.h"
 #include "forms/timer.h"
 #include "output/drop_down_list.h"
+#include "resources/pictures.h"
 #include "support.h"
 #include "text/error.h"
 #include "win/gdi.h"
+#include "win/picture.h"
 
 namespace quillomat {
 namespace {
@@ -121,6 +127,50 @@ TEST_F(FormsTest, GeometryIsKeptInTwipsAndReadBackInWholePixels) {
     }
 }
 
+TEST_F(FormsTest, AFixedWindowKeepsItsInsideAndIsLaidOutOnceAtEachResolution) {
+    Form fixed(application, {.name = L"frmFixed",
+                             .caption = L"Fixed",
+                             .width = 3000,
+                             .height = 1500,
+                             .border = FormBorder::Fixed,
+                             .measured = FormSize::Inside});
+    fixed.show();
+    int layouts = 0;
+    fixed.on_resize = [&] { ++layouts; };
+    for (const int dpi : {144, 96, 192}) {
+        layouts = 0;
+        const RECT suggested{10, 10, 400, 400};
+        SendMessageW(fixed.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+        EXPECT_EQ(layouts, 1);
+        EXPECT_TRUE(fixed.inner_width() == 3000 && fixed.inner_height() == 1500) << dpi;
+    }
+    const auto* start = reinterpret_cast<const BYTE*>(GetModuleHandleW(nullptr));
+    const auto* headers =
+        reinterpret_cast<const IMAGE_NT_HEADERS*>(start + reinterpret_cast<const IMAGE_DOS_HEADER*>(start)->e_lfanew);
+    EXPECT_EQ(headers->OptionalHeader.MajorSubsystemVersion, 10) << "Windows would draw the frames of older versions";
+}
+
+TEST_F(FormsTest, ANewThemeReachesTheControlsInFrames) {
+    show();
+    board.refresh();
+    ASSERT_FALSE(GetUpdateRect(board.Option1.window(), nullptr, FALSE));
+    SendMessageW(board.window(), WM_THEMECHANGED, 0, 0);
+    EXPECT_TRUE(GetUpdateRect(board.Option1.window(), nullptr, FALSE));
+}
+
+TEST_F(FormsTest, AMenuPictureIsSeeThroughWhereNothingIsDrawn) {
+    const GdiObject<HBITMAP> bitmap = Picture(PICTURE_GAME_PAD).bitmap(32);
+    DIBSECTION section{};
+    ASSERT_EQ(GetObjectW(bitmap.get(), sizeof section, &section), static_cast<int>(sizeof section));
+    const std::span pixels(static_cast<const std::uint32_t*>(section.dsBm.bmBits), 32 * 32);
+    EXPECT_EQ(pixels[0], 0U) << "a corner";
+    EXPECT_TRUE(std::ranges::any_of(pixels, [](std::uint32_t pixel) { return pixel >> 24 == 0xFF; }));
+    for (const std::uint32_t pixel : pixels) {
+        const std::uint32_t alpha = pixel >> 24;
+        EXPECT_TRUE((pixel & 0xFF) <= alpha && (pixel >> 8 & 0xFF) <= alpha && (pixel >> 16 & 0xFF) <= alpha);
+    }
+}
+
 TEST_F(FormsTest, ADropDownListFollowsTheResolution) {
     const auto dropped_height = [](const DropDownList& list) {
         RECT area{};
@@ -187,16 +237,6 @@ TEST_F(FormsTest, KeysReachTheHandlerFirstThenTheDialogThenTheControl) {
     board.Command2.on_click = [&] { other = true; };
     press_key('L', {VK_MENU});
     EXPECT_SOON(other) << "access keys press buttons";
-}
-
-TEST_F(FormsTest, TheDefaultButtonIsNotPaintedAgainForStayingTheDefault) {
-    show();
-    for (const auto& [button, painted] :
-         {std::pair{&board.Command1, true}, {&board.Command1, false}, {nullptr, true}}) {
-        board.refresh();
-        board.set_default_button(button);
-        EXPECT_EQ(GetUpdateRect(board.Command1.window(), nullptr, FALSE) != FALSE, painted);
-    }
 }
 
 TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
