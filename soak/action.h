@@ -7,28 +7,28 @@
 
 namespace quillomat::soak {
 
-/// One thing that a player does with mouse or keyboard, or `Rest`: everything but the main screen is put away and
-/// what the program holds is counted.
+/// One action of a player's mouse or keyboard; or `Rest`, which closes every window but the main screen and counts the
+/// program's system objects.
 struct Action {
     enum class Kind { Move, Click, DoubleClick, RightClick, Drag, Wheel, Key, Character, Rest };
-    /// Keys that are held meanwhile; and `Ahead`: the next action follows even if the program is still at work.
+    /// Keys held during the action. `Ahead` is no key: the next action follows even if the program is still busy.
     enum Modifier : unsigned { Shift = 1, Control = 2, Alt = 4, Ahead = 8 };
 
     Kind kind = Kind::Rest;
-    POINT at{};              ///< where the mouse does it, in pixels of the screen
-    POINT to{};              ///< where a drag ends
+    POINT at{};              ///< the pointer's place, in pixels of the screen
+    POINT to{};              ///< the end of a drag
     int value = 0;           ///< the virtual key, the character's code unit, or the notches of the wheel
     unsigned modifiers = 0;  ///< of `Modifier`
     int pause = 0;           ///< milliseconds before the next action
 };
 
-/// The action as a line of a log.
+/// Returns the action as a line of the log.
 std::string to_line(const Action& action);
-/// The action of such a line, of which everything behind a "#" is a remark; nothing for a line that has none. Throws
+/// Returns the action of a log line, or nothing if the line holds only a remark, which begins with "#". Throws
 /// `std::invalid_argument` for any other line.
 std::optional<Action> from_line(const std::string& line);
 
-/// Does it, by real input to whatever is there. Nothing for `Rest`, whose doing is the caller's.
+/// Performs the action as real input to whatever is on the screen. `Rest` is left to the caller.
 void perform(const Action& action);
 
 }  // namespace quillomat::soak

@@ -3,8 +3,9 @@
 //   soak PROGRAM DATABASE LOG SECONDS SEED
 //   soak PROGRAM DATABASE LOG replay ACTIONS      what the log of an earlier run says
 //
-// It refuses where the program could reach more than one drive: what is saved at random must not hit the user's files.
+// Refuses to run where the program could reach another drive than C:, so that it never saves over the user's files.
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <exception>
@@ -55,7 +56,7 @@ int run(int count, wchar_t** arguments) {
     const Actions actions =
         replay ? recorded_actions(arguments[5])
                : random_actions(std::stod(arguments[4]), static_cast<unsigned>(std::stoul(arguments[5])));
-    return soak.play(actions) == 0 ? 0 : 1;
+    return std::min(soak.play(actions), 1);
 }
 
 }  // namespace

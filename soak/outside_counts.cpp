@@ -29,7 +29,8 @@ ObjectCounts count_objects_of(HANDLE process) {
     const ObjectCounts counted{static_cast<int>(GetGuiResources(process, GR_GDIOBJECTS)),
                                static_cast<int>(GetGuiResources(process, GR_USEROBJECTS))};
     // Wine: answers 0, and tells nothing of another process's GDI objects.
-    return counted.gdi ? counted : ObjectCounts{.user = count_all_user_objects()};
+    if (counted.gdi) return counted;
+    return {.user = count_all_user_objects()};
 }
 
 }  // namespace quillomat::soak

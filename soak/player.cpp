@@ -21,7 +21,7 @@ bool confirms_exit(HWND control) {
     return std::wstring_view(caption) == L"&Yes" && class_of(GetParent(control)) == L"frmMain";
 }
 
-/// Whether a click there ends the program. Ways out are taken seldom: it must live to show what it loses in time.
+/// True if a click at the place may end the program. That is done seldom: leaks show only in a program that lives on.
 bool is_way_out(POINT place) {
     const HWND window = WindowFromPoint(place);
     if (class_of(window) == L"frmMain") {
@@ -32,7 +32,7 @@ bool is_way_out(POINT place) {
     return confirms_exit(window);
 }
 
-/// Whether a key ends the program.
+/// True if the key may end the program.
 bool is_way_out(const Action& action, const Scene& scene) {
     if (action.kind == Action::Kind::Key && action.value == VK_F4) return class_of(scene.topmost()) == L"frmMain";
     constexpr std::wstring_view pressing{L"\r yY"};
@@ -65,19 +65,26 @@ Action Player::next(const Scene& scene) {
     random_.seed(numbers);
     if (count_ % period == 0) return {};
     if (planned_.empty() && !scene.menu()) {
-        // Windows with a menu bar are there for much longer than those that are to be filled in.
+        // Windows with a menu bar stay open for much longer than those with boxes to fill in.
         const bool has_menu_bar = scene.topmost() && GetMenu(scene.topmost());
+        int percent = 15;
+        if (has_menu_bar) percent = 2;
         if (has_menu_bar && chance(2)) plan_command();
-        if (chance(has_menu_bar ? 2 : 15)) plan_filling_in(scene);
+        if (chance(percent)) plan_filling_in(scene);
     }
     if (!planned_.empty()) {
         const Action action = planned_.front();
         planned_.pop_front();
         return action;
     }
-    Action action = chance(60) || !scene.has_keyboard() ? with_mouse(scene) : with_key(scene);
+    Action action;
+    if (chance(60) || !scene.has_keyboard()) {
+        action = with_mouse(scene);
+    } else {
+        action = with_key(scene);
+    }
     if (is_way_out(action, scene) && !chance(5)) action = {.kind = Action::Kind::Key, .value = VK_TAB};
-    // Mostly as fast as it goes, and sometimes long enough for what a timer does.
+    // Mostly as fast as possible, and sometimes long enough for a timer to do its work.
     action.pause = number(0, 40);
     if (chance(10)) action.pause = number(50, 400);
     if (chance(20)) action.modifiers |= Action::Ahead;
@@ -111,8 +118,9 @@ bool Player::aim(const Scene& scene, POINT& place) {
 
 void Player::plan_command() {
     const auto press = [this](WORD key, int times) {
-        for (; times > 0; --times)
+        for (; times > 0; --times) {
             planned_.push_back({.kind = Action::Kind::Key, .value = key, .pause = number(0, 50)});
+        }
     };
     press(VK_F10, 1);
     press(VK_RIGHT, number(0, 2));
@@ -130,7 +138,7 @@ void Player::plan_filling_in(const Scene& scene) {
         if (class_of(control) != L"Edit") continue;
         click(control);
         for (int length = number(1, 12); length > 0; --length) {
-            // Rarely what the code page of the files lacks, which is refused.
+            // Rarely a character that the files' code page lacks: the program refuses it.
             const wchar_t letter = chance(98) ? any(characters.substr(0, 26)) : any(characters);
             planned_.push_back({.kind = Action::Kind::Character, .value = letter, .pause = number(0, 10)});
         }
@@ -170,7 +178,8 @@ Action Player::with_access_key() {
     } else if (kind <= 8) {
         action.value = VK_SPACE;
     } else if (kind <= 15) {
-        action.value = chance(50) ? VK_DOWN : VK_UP;
+        action.value = VK_DOWN;
+        if (chance(50)) action.value = VK_UP;
     } else {
         action.value = number('A', 'Z');
     }

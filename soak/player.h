@@ -8,8 +8,8 @@
 
 namespace quillomat::soak {
 
-/// Thinks out what to do next, by chance. With the same seed it does the same in the same scenes: every action draws
-/// its own numbers, so that one that turned out differently does not change those after it.
+/// Chooses the next action at random. The same seed gives the same actions in the same scenes: each action has random
+/// numbers of its own, so that one action that turns out differently does not change all later ones.
 class Player {
   public:
     explicit Player(unsigned seed) : seed_(seed) {}
@@ -22,13 +22,13 @@ class Player {
     template <class Values>
     auto any(const Values& values);
 
-    /// A place of the screen where the program is hit; false when none was found.
+    /// Finds a place of the screen that belongs to the program. Returns false if there is none.
     bool aim(const Scene& scene, POINT& place);
     POINT place_on(HWND window);
-    /// Picks a command of the menu bar.
+    /// Plans the keys that pick a command of the menu bar.
     void plan_command();
-    /// Types something into every box of a window and presses one of its buttons: by chance alone that would never
-    /// happen.
+    /// Plans to type into every text box of a window and to press one of its buttons, which would never happen by
+    /// chance.
     void plan_filling_in(const Scene& scene);
     Action with_mouse(const Scene& scene);
     Action with_key(const Scene& scene);

@@ -7,7 +7,7 @@
 namespace quillomat::soak {
 namespace {
 
-/// The windows that others wait for while they are up.
+/// Windows that all others wait for.
 constexpr std::wstring_view modal_classes[] = {message_box_class, L"frmAddNew",     L"frmSave",
                                                L"frmMailCheats",  L"frmPrintGames", L"frmAbout",
                                                L"Dialog1",        L"frmWait",       L"frmStatus"};
@@ -39,12 +39,14 @@ bool Scene::is_own(HWND window) const {
 
 HWND Scene::menu() const {
     const auto menu = std::ranges::find_if(windows_, [](HWND window) { return class_of(window) == L"#32768"; });
-    return menu == windows_.end() ? nullptr : *menu;
+    if (menu == windows_.end()) return nullptr;
+    return *menu;
 }
 
 HWND Scene::topmost() const {
     const auto window = std::ranges::find_if(windows_, [](HWND it) { return IsWindowEnabled(it); });
-    return window == windows_.end() ? nullptr : *window;
+    if (window == windows_.end()) return nullptr;
+    return *window;
 }
 
 std::string narrow(std::wstring text) {
@@ -60,7 +62,7 @@ std::string Scene::input_fault() const {
     // Wine: the system menu offers a box about Wine, which makes only its owner wait.
     if (std::ranges::any_of(windows, [](HWND window) { return text_of(window).starts_with(L"About Wine"); })) return {};
     const bool has_modal = std::ranges::any_of(windows, is_modal);
-    // Parts them, and keeps the order from front to back.
+    // Usable windows first; both parts keep their order from front to back.
     const auto unusable = std::ranges::stable_partition(windows, is_usable);
     const std::span usable(windows.begin(), unusable.begin());
     const HWND foreground = GetForegroundWindow();

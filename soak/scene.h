@@ -7,27 +7,27 @@
 
 namespace quillomat::soak {
 
-/// The text for the log, without control characters.
+/// Converts a text for the log, without its control characters.
 std::string narrow(std::wstring text);
 
-/// What of a program is on the screen now.
+/// The windows that a program shows now.
 class Scene {
   public:
     explicit Scene(DWORD process);
 
-    /// Its visible windows without the tool tips, the topmost first.
+    /// The program's visible windows except tooltips, the topmost first.
     const std::vector<HWND>& windows() const { return windows_; }
     bool is_own(HWND window) const;
-    /// The open menu; null when there is none.
+    /// The open menu, or null.
     HWND menu() const;
-    /// The topmost window that takes input; null when there is none.
+    /// The topmost window that takes input, or null.
     HWND topmost() const;
-    /// What is wrong about which windows take input; empty if nothing is. While a message box or a dialog is up, no
-    /// other window does, and without one every window does.
+    /// Describes which windows take input if those are the wrong ones; empty otherwise. While a message box or a dialog
+    /// is up, no other window may take input; without one, every window must.
     std::string input_fault() const;
-    /// Whether the keys that are pressed now go to the program.
+    /// True if the program receives the keys that are pressed now.
     bool has_keyboard() const { return is_own(GetForegroundWindow()); }
-    /// Whether a click at a place of the screen goes to the program.
+    /// True if the program receives a click at this place of the screen.
     bool has(POINT place) const { return is_own(WindowFromPoint(place)); }
 
   private:
@@ -35,10 +35,10 @@ class Scene {
     std::vector<HWND> windows_;
 };
 
-/// The visible controls of a window that have none of these in them.
+/// Returns the visible controls of a window, without those that contain other visible controls.
 std::vector<HWND> controls_of(HWND window);
 
-/// Closes what other programs show in front, like a mail program that was started by a link.
+/// Closes the windows of other programs, for example of a mail program that a link has started.
 void close_strangers(DWORD process);
 
 }  // namespace quillomat::soak

@@ -15,10 +15,10 @@ constexpr wchar_t main_screen_class[] = L"frmMain";
 
 using Clock = std::chrono::steady_clock;
 
-/// What does not answer for so long never will.
+/// A program that has not answered for this long has hung for good.
 constexpr std::chrono::duration<double> for_good{60};
 
-/// The number of records that are a text, each whole; nothing when something else is in it.
+/// Returns the number of records in the text, or nothing if the text holds anything but whole records.
 std::optional<std::size_t> whole_records(std::string_view text) {
     constexpr std::string_view marker = "$$$$$$$$$$$$$$$$$$$$ ";
     std::size_t records = 0;
@@ -29,10 +29,11 @@ std::optional<std::size_t> whole_records(std::string_view text) {
         const std::string_view line = text.substr(0, end);
         if (line.find_first_of("\r\n") != std::string_view::npos) return std::nullopt;
         complete = line.starts_with(marker) && line.size() > marker.size();
-        records += complete ? 1 : 0;
+        if (complete) ++records;
         text.remove_prefix(end + 2);
     }
-    return complete ? std::optional(records) : std::nullopt;
+    if (!complete) return std::nullopt;
+    return records;
 }
 
 std::string describe(std::span<const ObjectCounts> all) {
@@ -107,17 +108,19 @@ void Soak::fault(const std::string& what) {
 void Soak::note(const Action& action, const Scene& scene) {
     ++actions_;
     const HWND front = scene.topmost();
-    const std::string name = front ? narrow(class_of(front)) : "none";
+    std::string name = "none";
+    if (front) name = narrow(class_of(front));
     ++seen_[name];
     log_ << to_line(action) << " # " << actions_ << ' ' << name;
-    if (const HWND hit = WindowFromPoint(action.at); hit && action.at.x + action.at.y > 0)
+    if (const HWND hit = WindowFromPoint(action.at); hit && action.at.x + action.at.y > 0) {
         log_ << ' ' << narrow(class_of(hit));
-    // At once, for it may be the last one.
+    }
+    // Flushed, because this action may be the one that crashes the program or this one.
     log_ << std::endl;
 }
 
 std::string Soak::input_fault() {
-    // A window that opens or closes is in between for a moment.
+    // While a window opens or closes, the states of the others follow a moment later.
     constexpr std::chrono::seconds patience{5};
     std::string wrong;
     wait_until(
@@ -148,7 +151,7 @@ double Soak::seconds_without_answer() {
 
 void Soak::look_after_program() {
     if (!program_.running()) return restart();
-    // The machine may be busy with something else: one miss is no fault.
+    // A loaded machine alone makes the program miss a few seconds.
     if (const double seconds = seconds_without_answer(); seconds > 10) {
         fault("no answer for " + std::to_string(seconds) + " s");
         if (seconds < for_good.count()) return;
@@ -157,7 +160,7 @@ void Soak::look_after_program() {
     }
     const DWORD process = program_.process().dwProcessId;
     if (!wait_for_window()) {
-        fault(Scene(process).windows().empty() ? "runs without a window" : "no window takes input any more");
+        fault("no window takes input any more");
         program_.end();
         return start_program();
     }
@@ -189,7 +192,7 @@ void Soak::put_away(HWND window, const Scene& scene) {
     } else if (class_of(window) == message_box_class) {
         answer_message(window, refusing_button(window));
     } else if (class_of(window) == main_screen_class) {
-        // In front of the others, or behind as an icon.
+        // The main screen is in front of the other windows, or behind them as an icon.
         for (const HWND other : scene.windows()) {
             if (other != window && IsWindowEnabled(other)) PostMessageW(other, WM_CLOSE, 0, 0);
         }
@@ -202,8 +205,8 @@ bool Soak::put_away_windows() {
     return wait_until([this] {
         if (!program_.running()) return true;
         const Scene scene(program_.process().dwProcessId);
-        // The loop of a menu, or of moving a window by keys, must end first: it would hold up the window that is closed
-        // until the next key.
+        // A menu, or moving a window by keys, runs a message loop of its own. That loop must end first: closing its
+        // window from outside would leave the loop running until the next key.
         const GUITHREADINFO input = input_state(program_.process().dwThreadId);
         for (const HWND in_loop : {input.hwndMenuOwner, input.hwndMoveSize}) {
             if (!in_loop) continue;
@@ -234,9 +237,9 @@ void Soak::rest() {
 }
 
 void Soak::count_at_rest() {
-    // Away from everything that shows help.
+    // Away from every control that shows help.
     perform({.kind = Action::Kind::Move, .at = {GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2}});
-    // Something may be in use just then.
+    // The fewest of several counts: a paint handler may be holding objects at the moment of one of them.
     std::vector<ObjectCounts> counted;
     for (int attempt = 0; attempt < 5; ++attempt) {
         Sleep(50);
@@ -247,8 +250,8 @@ void Soak::count_at_rest() {
 }
 
 void Soak::judge_growth() {
-    // Much is made once and kept, by the program and by the system for it, and not all windows are opened before the
-    // first rests: only what goes on to grow from rest to rest is lost.
+    // The program and Windows cache objects on first use, and not every window has been open before the first rests.
+    // Only a count that keeps growing from rest to rest is a leak.
     constexpr std::size_t warm_up = 4;
     constexpr std::size_t judged = 5;
     constexpr int allowed = 2;

@@ -15,14 +15,14 @@
 
 namespace quillomat::soak {
 
-/// The next action for what is on the screen; nothing when the play is over.
+/// Returns the next action for the present scene, or nothing at the end.
 using Actions = std::function<std::optional<Action>(const Scene&)>;
 
-/// Plays with the program and watches what becomes of it: whether it crashes, hangs, stays without a window, lets
-/// the wrong windows take input, loses objects of the system, or harms its database.
+/// Plays with the program and detects if the program crashes, hangs, has no window any more, lets the wrong windows
+/// take input, leaks system objects, or harms its database.
 class Soak {
   public:
-    /// Every action goes to the file `log` before it is done.
+    /// Every action is written to the file `log` before it is performed.
     Soak(std::string database, const std::string& log);
 
     /// Plays until the actions end. Returns the number of faults, each of which has been printed.
@@ -33,9 +33,9 @@ class Soak {
     void fault(const std::string& what);
     bool wait_for_window();
     void note(const Action& action, const Scene& scene);
-    /// How long the program has kept a question waiting, in steps of 2 s.
+    /// Returns how long the program took to answer a message, in seconds.
     double seconds_without_answer();
-    /// What has stayed wrong about which windows take input.
+    /// Returns what is still wrong about which windows take input after a short wait; empty if nothing is.
     std::string input_fault();
     void look_after_program();
     void rest();

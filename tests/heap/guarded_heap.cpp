@@ -2,6 +2,7 @@
 // unreachable page, so that reading or writing behind it ends the program; a deleted object's pages become unreachable
 // and are never given out again, so that using it later ends the program, too.
 
+#include <algorithm>
 #include <atomic>
 #include <cstring>
 #include <new>
@@ -38,7 +39,7 @@ void end_program(UINT exit_code) {
 void* operator new(std::size_t size) {
     static std::atomic<std::size_t> used = 0;
     if (size > room) throw std::bad_alloc();
-    const std::size_t object = rounded_up(size ? size : 1, alignment);
+    const std::size_t object = rounded_up(std::max<std::size_t>(size, 1), alignment);
     const std::size_t pages = rounded_up(object, page);
     const std::size_t place = used.fetch_add(pages + page);
     if (place + pages + page > room) end_program(room_used_up);

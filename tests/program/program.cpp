@@ -74,7 +74,8 @@ HWND Program::find(const wchar_t* window_class) const {
     const auto found = std::ranges::find_if(windows, [&](HWND window) {
         return process_of(window) == process_.dwProcessId && class_of(window) == window_class;
     });
-    return found == windows.end() ? nullptr : *found;
+    if (found == windows.end()) return nullptr;
+    return *found;
 }
 
 bool Program::reach_viewer() {
@@ -82,7 +83,8 @@ bool Program::reach_viewer() {
     return wait_until([&] {
         if (find(message_box_class) || viewer()) return true;
         const HWND main_screen = find(L"frmMain");
-        const HWND next = main_screen ? main_screen : find(L"frmSplash");
+        HWND next = main_screen;
+        if (!next) next = find(L"frmSplash");
         if (!next || next == std::exchange(last, next)) return false;
         if (main_screen) {
             PostMessageW(FindWindowExW(next, nullptr, L"Button", L"&Click here to see the cheats!"), BM_CLICK, 0, 0);
@@ -95,7 +97,8 @@ bool Program::reach_viewer() {
 
 std::wstring Program::message() const {
     const HWND box = find(message_box_class);
-    return box ? text_of(box) + L": " + message_of(box) : L"";
+    if (!box) return {};
+    return text_of(box) + L": " + message_of(box);
 }
 
 bool Program::dismiss_message() const {

@@ -6,12 +6,12 @@
 
 #include "win/api.h"
 
-// What any program can see of the windows on the desktop, its own or another's.
+// What any process can see of the desktop's windows.
 namespace quillomat {
 
 constexpr wchar_t message_box_class[] = L"#32770";
 
-/// The text of a window or a control, which may be another process's.
+/// Returns the text of a window or a control of any process.
 inline std::wstring text_of(HWND window) {
     std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
     text.resize(
@@ -19,7 +19,7 @@ inline std::wstring text_of(HWND window) {
     return text;
 }
 
-/// The window's class; empty for a window that has gone.
+/// Returns the window's class, or an empty text if the window has gone.
 inline std::wstring class_of(HWND window) {
     wchar_t name[64]{};
     GetClassNameW(window, name, static_cast<int>(std::size(name)));
@@ -32,7 +32,7 @@ inline DWORD process_of(HWND window) {
     return process;
 }
 
-/// The visible top-level windows of all processes, the topmost first.
+/// Returns the visible top-level windows of all processes, the topmost first.
 inline std::vector<HWND> visible_windows() {
     std::vector<HWND> windows;
     EnumWindows(
@@ -44,14 +44,15 @@ inline std::vector<HWND> visible_windows() {
     return windows;
 }
 
-/// The text of a message box.
+/// Returns the text of a message box.
 inline std::wstring message_of(HWND box) {
     constexpr int text_control = 0xFFFF;
-    const HWND text = GetDlgItem(box, text_control);
-    return text_of(text ? text : FindWindowExW(box, nullptr, L"Static", nullptr));
+    HWND text = GetDlgItem(box, text_control);
+    if (!text) text = FindWindowExW(box, nullptr, L"Static", nullptr);
+    return text_of(text);
 }
 
-/// The button of a message box that agrees to nothing.
+/// Returns the button of a message box that declines: Cancel or No, or OK if the box has neither.
 inline int refusing_button(HWND box) {
     for (const int button : {IDCANCEL, IDNO}) {
         if (GetDlgItem(box, button)) return button;
@@ -59,12 +60,12 @@ inline int refusing_button(HWND box) {
     return IDOK;
 }
 
-/// Answers a message box by the button with this identifier, as soon as its process handles messages.
+/// Posts the press of a message box's button, by its identifier.
 inline void answer_message(HWND box, int button) {
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(box, button)));
 }
 
-/// What a thread's windows do with the keyboard and the mouse now.
+/// Returns the state of a thread's keyboard and mouse input; all zero if the thread has no windows.
 inline GUITHREADINFO input_state(DWORD thread) {
     GUITHREADINFO state{};
     state.cbSize = sizeof state;

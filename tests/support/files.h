@@ -8,7 +8,7 @@
 
 namespace quillomat {
 
-/// The content of a file; empty when there is none.
+/// Returns a file's content, or an empty text if there is no such file.
 inline std::string bytes_of(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -18,7 +18,7 @@ inline void write_bytes(const std::filesystem::path& path, std::string_view byte
     std::ofstream(path, std::ios::binary | mode).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
-/// A new folder of a test's own, removed with all that is in it.
+/// Creates a folder for a test and deletes it with its content on destruction.
 class TemporaryFolder {
   public:
     TemporaryFolder() {

@@ -8,7 +8,7 @@
 
 namespace quillomat {
 
-/// Settings of a test's own, empty at its beginning and gone at its end.
+/// Gives a test empty settings of its own and deletes them on destruction.
 class TemporarySettings {
   public:
     TemporarySettings() { remove(); }
@@ -18,7 +18,7 @@ class TemporarySettings {
 
     Settings settings() const { return Settings(application_); }
     const std::wstring& application() const { return application_; }
-    /// Where they are, below the user's part of the registry.
+    /// The settings' key below HKEY_CURRENT_USER.
     std::wstring key() const { return L"Software\\" + application_ + L"\\Settings"; }
 
   private:
@@ -27,7 +27,7 @@ class TemporarySettings {
     std::wstring application_ = L"QuillomatTest" + std::to_wstring(GetCurrentProcessId());
 };
 
-/// While it lives, this process finds a test's own, at first empty key in the place of a root of the registry.
+/// Redirects a root of the registry, for this process, to a key of the test's own that is empty at first.
 class RegistryOverride {
   public:
     explicit RegistryOverride(HKEY root) : root_(root) {
@@ -55,7 +55,7 @@ class RegistryOverride {
     std::wstring path_ = L"Software\\QuillomatTestRoot" + std::to_wstring(GetCurrentProcessId());
 };
 
-/// While it lives, web and mail addresses are opened by a program that writes them down.
+/// While it lives, a command that notes the address opens web and mail links.
 class CaughtLinks {
   public:
     CaughtLinks() {
@@ -66,7 +66,7 @@ class CaughtLinks {
         }
     }
 
-    /// What was opened last, with a line end.
+    /// The link opened last, with a line end.
     std::string last() const { return folder_.read("link.txt"); }
 
   private:

@@ -7,7 +7,7 @@
 
 namespace quillomat {
 
-/// The form of a kind that is open; null when there is none.
+/// Returns the open form of a class, or null.
 template <class Window>
 Window* find_form() {
     Window* found = nullptr;
@@ -22,7 +22,7 @@ Window* find_form() {
     return found;
 }
 
-/// Windows of the program with files and settings of the test's own.
+/// Tests windows of the program with files and settings of the test's own.
 struct SessionTest : WindowTest {
     SessionTest() {
         session.program_folder = folder.path().wstring();
@@ -30,7 +30,7 @@ struct SessionTest : WindowTest {
     }
 
     void write(const std::filesystem::path& name, std::string_view bytes) const { folder.write(name, bytes); }
-    /// The content of a file; empty when there is none.
+    /// Returns a file's content, or an empty text if there is no such file.
     std::string bytes(const std::filesystem::path& name) const { return folder.read(name); }
     bool exists(const std::filesystem::path& name) const { return std::filesystem::exists(folder.path() / name); }
 
