@@ -298,8 +298,8 @@ void WindowWalk::look_at_everything(HWND window) {
     expect_unique_access_keys(window);
     expect_spoken_names(window);
     walk_by_tab(window);
-    const Button* pressed_by_enter = Form::from(window)->default_button();
-    EXPECT_EQ(pressed_by_enter ? pressed_by_enter->caption() : L"",
+    const Control* pressed_by_enter = Form::from(window)->default_button();
+    EXPECT_EQ(pressed_by_enter ? text_of(pressed_by_enter->window()) : L"",
               std::wstring(GetParam().default_button ? GetParam().default_button : L""));
     if (GetParam().kind == State::Dialog) expect_only_one_takes_input(window);
 }
