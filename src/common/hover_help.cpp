@@ -13,8 +13,8 @@ namespace {
 
 constexpr Colour lit{0xFF8080};
 
-// While the pointer moves, the timer ticks as fast as it can. Once it has rested for a while, the timer only looks out
-// for windows that come and go under it, so rarely that nobody feels the cost; the next movement wakes it.
+// The timer ticks at full speed while the pointer moves. Once the pointer has rested for a while, slow ticks are enough
+// to notice windows that open or close under it; the next mouse move restores the full speed.
 constexpr int awake_milliseconds = 1;
 constexpr int asleep_milliseconds = 200;
 constexpr int ticks_until_asleep = 20;
@@ -73,7 +73,11 @@ void HoverHelp::add(Control& control, std::wstring text) {
 void HoverHelp::pass_focus_to(Control& receiver, Control& otherwise) {
     help_box_.on_got_focus = [this, &receiver, &otherwise] {
         help_box_.set_visible(false);
-        (receiver.enabled() ? receiver : otherwise).set_focus();
+        if (receiver.enabled()) {
+            receiver.set_focus();
+        } else {
+            otherwise.set_focus();
+        }
     };
 }
 
@@ -95,7 +99,7 @@ void HoverHelp::place_above_pointer(const Control& control, const MouseEvent& po
 void HoverHelp::tick() {
     UpdatePointer(pointer_);
     pace();
-    // First what is left, then what is entered: going straight from one control to another ends with a text shown.
+    // Handle leaving before entering: moving directly between two controls must end with the second one's help visible.
     for (Tip& tip : tips_) {
         if (tip.shown && pointer_.PointerWindow != tip.control.window()) {
             tip.shown = false;

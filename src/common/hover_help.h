@@ -18,14 +18,14 @@ class Timer;
 
 /// Places a help box, as far inside its form as it fits.
 void place_help_box(TextBox& help_box, double left, double top);
-/// Shows a help text for a control: in the help box, made as wide as the text, with the control lit up and underlined.
+/// Shows a help text in the help box, made as wide as the text, and lights up and underlines its control.
 void ShowTip(Control& control, TextBox& help_box, const std::wstring& text);
-/// Takes the light off the control and hides the help box.
+/// Gives the control its usual look back and hides the help box.
 void HideTip(Control& control, TextBox& help_box);
 
-/// Whether the pointer, when it was last read, was over a painted item and over nothing in front of its container.
+/// True if the last pointer position read lies on a painted item that nothing in front of its container covers.
 bool is_under_pointer(const PointerState& pointer, const Graphic& item);
-/// The same for a control, enabled or not: to the pointer a disabled one is a part of its container.
+/// The same for a control, enabled or not: Windows reports the container as the window under a disabled control.
 bool is_under_pointer(const PointerState& pointer, const Control& control);
 
 /// True if the pointer of a mouse event is inside the item. A pressed item receives events from outside its bounds,
@@ -41,20 +41,20 @@ class HoverHelp {
     HoverHelp(const HoverHelp&) = delete;
     HoverHelp& operator=(const HoverHelp&) = delete;
 
-    /// A help text has just been shown, with the pointer at this place of its control: it may have come to lie under
-    /// the pointer without a movement of the mouse.
+    /// A help text has just been shown. The event holds the pointer's place on the control; no mouse move need have
+    /// come before, because a control can open under a resting pointer.
     std::function<void(Control&, const MouseEvent&)> on_shown;
 
     /// Gives a control of the window a help text.
     void add(Control& control, std::wstring text);
-    /// The help box never keeps the focus: it hides and passes it to `receiver`. Takes over its focus event.
+    /// Hides the help box when it gets the focus, and passes the focus to `receiver`. Takes over the box's focus event.
     void pass_focus_to(Control& receiver) { pass_focus_to(receiver, receiver); }
-    /// The same with another receiver while the first one is disabled.
+    /// The same, passing the focus to `otherwise` while `receiver` is disabled.
     void pass_focus_to(Control& receiver, Control& otherwise);
-    /// Keeps the help box above the pointer while that is on one of the controls added so far, inside of the window as
-    /// far as it fits. Takes over their mouse movements and `on_shown`.
+    /// Keeps the help box above the pointer while the pointer is on one of the controls added so far. Takes over their
+    /// mouse moves and `on_shown`.
     void keep_above_pointer();
-    /// Compares the pointer with the controls and shows or hides.
+    /// Shows or hides help texts by what is under the pointer now.
     void tick();
 
   private:

@@ -1,13 +1,14 @@
 #include "common/line_count.h"
 
+#include <string>
+
 #include "common/clsTextBox.h"
 #include "controls/text_box.h"
-#include "text/game_list.h"
 
 namespace quillomat {
 
 void show_line_count(const clsTextBox& lines) {
-    lines.TextBox().set_tool_tip(line_count_tooltip(lines.LineCount()));
+    lines.TextBox().set_tool_tip(L"Total - " + std::to_wstring(lines.LineCount()) + L" lines.");
 }
 
 void keep_line_count(const clsTextBox& lines) {

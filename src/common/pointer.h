@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// Where the pointer was when a window last asked, shared by the hover timers of all windows.
+/// The pointer position read last, shared by the hover timers of all windows.
 struct PointerState {
     POINT PointerPos{};            ///< in pixels of the screen
     BOOL PointerResult = FALSE;    ///< whether the position could be read
@@ -14,22 +14,22 @@ struct PointerState {
 /// Reads the pointer's position and the window under it.
 void UpdatePointer(PointerState& pointer);
 
-/// What lengths on the screen are counted in.
+/// The unit of lengths on the screen.
 enum class ScreenUnit { Pixels, Twips };
 
 /// The width and height of the primary screen.
 void GetScreenSize(int& width, int& height, ScreenUnit unit = ScreenUnit::Pixels);
 
-/// A horizontal position in pixels on the scale of 65535 to the screen's width that `MoveMouseTo` works in.
+/// Converts a horizontal position from pixels to the units of `mouse_event`, of which the screen's width has 65535.
 int ToAbsoluteX(int x);
-/// A vertical position in pixels on the scale of 65535 to the screen's height.
+/// Converts a vertical position from pixels to the units of `mouse_event`, of which the screen's height has 65535.
 int ToAbsoluteY(int y);
 
 /// Moves the pointer to a position in pixels.
 void MoveMouseTo(int x, int y);
 
-/// Moves the pointer to the middle of a window or control. False, and the pointer stays, when the window is gone or
-/// its middle lies outside of the screen.
+/// Moves the pointer to the centre of a window or control. Returns false and leaves the pointer alone if the window is
+/// gone or its centre is off the screen.
 bool CenterMouseOn(HWND window);
 
 }  // namespace quillomat

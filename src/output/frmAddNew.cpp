@@ -5,16 +5,15 @@
 #include <optional>
 #include <utility>
 
-#include "common/desktop.h"
 #include "common/line_count.h"
 #include "common/minimum_size.h"
+#include "common/select_all_text.h"
 #include "common/window_settings.h"
 #include "database/record.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/add_game_layout.h"
 #include "text/error.h"
-#include "text/game_list.h"
 #include "text/numbers.h"
 #include "win/code_page.h"
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "common/desktop.h"
+#include "common/select_all_text.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/game_range.h"
@@ -71,9 +71,9 @@ void frmPrintGames::bind_hover_help() {
     hover_help_.add(Command1, L"Print Now!");
     hover_help_.add(Command2, L"Cancel Printing");
     hover_help_.on_shown = [this](Control& button, const MouseEvent&) {
-        Text4.move({button.left(), button.top() + button.height() + help_below_button, Text4.width(), Text4.height()});
+        place_help_box(Text4, button.left(), button.top() + button.height() + help_below_button);
     };
-    hover_help_.pass_focus_to(Command1);
+    hover_help_.pass_focus_to(Command1, Command2);
     Timer1.on_timer = [this] { hover_help_.tick(); };
 }
 

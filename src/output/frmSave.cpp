@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "common/desktop.h"
+#include "common/select_all_text.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/error.h"
-#include "text/game_list.h"
+#include "text/export_text.h"
 #include "text/line_end.h"
 #include "text/paths.h"
 #include "text/saved_file.h"
@@ -63,8 +63,11 @@ void frmSave::bind() {
 void frmSave::bind_hover_help() {
     hover_help_.add(Command1, L"Save cheat codes");
     hover_help_.add(Command2, L"Cancel save");
-    hover_help_.on_shown = [this](Control& button, const MouseEvent&) { place_help_box(button); };
-    hover_help_.pass_focus_to(Command1);
+    hover_help_.on_shown = [this](Control& button, const MouseEvent&) {
+        constexpr double gap = 30;
+        place_help_box(Text2, button.left(), button.top() + button.height() + gap);
+    };
+    hover_help_.pass_focus_to(Command1, Command2);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 
@@ -190,11 +193,6 @@ void frmSave::Timer1_Timer() {
     // The window gets its final place only after it was loaded.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(Command1.window());
     hover_help_.tick();
-}
-
-void frmSave::place_help_box(const Control& button) {
-    const double left = std::min(button.left(), inner_width() - Text2.width());
-    Text2.move({left, button.top() + button.height() + 30, Text2.width(), Text2.height()});
 }
 
 }  // namespace quillomat

@@ -53,7 +53,6 @@ class frmSave final : public Form {
     void Command1_Click();
     void Timer1_Timer();
 
-    void place_help_box(const Control& button);
     void open_first_folder();
     /// Asks before a file is overwritten.
     bool may_be_written();

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "common/desktop.h"
+#include "common/open_link.h"
 #include "forms/application.h"
 #include "resources/pictures.h"
 #include "text/author_links.h"

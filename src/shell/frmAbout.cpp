@@ -1,6 +1,6 @@
 #include "shell/frmAbout.h"
 
-#include "common/desktop.h"
+#include "common/open_link.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "resources/pictures.h"

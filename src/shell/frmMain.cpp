@@ -126,8 +126,7 @@ void frmMain::place_help_box(const Control& control, const MouseEvent& event) {
     const double to_the_left = event.x >= help_box_turn ? Text1.width() : Text1.width() / 2;
     const double left = control.left() + event.x - to_the_left;
     const double top = control.top() + event.y - help_box_rise;
-    Text1.move({std::clamp(left, 0.0, std::max(0.0, inner_width() - Text1.width())), std::max(top, 0.0), Text1.width(),
-                Text1.height()});
+    quillomat::place_help_box(Text1, left, top);
 }
 
 void frmMain::Form_Load() {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "common/desktop.h"
+#include "common/open_link.h"
 #include "forms/application.h"
 #include "output/frmAddNew.h"
 #include "output/frmMailCheats.h"

@@ -1,6 +1,5 @@
 #include "text/game_list.h"
 
-#include "text/line_end.h"
 #include "text/numbers.h"
 
 namespace quillomat {
@@ -45,18 +44,6 @@ std::optional<int> first_with_initial(wchar_t initial, int count, const ItemText
         if (item_text(index).starts_with(initial)) return index;
     }
     return std::nullopt;
-}
-
-std::wstring minimised_caption(std::wstring_view result) {
-    return std::wstring(L"Quillomat - ").append(result);
-}
-
-std::wstring export_text(std::wstring_view name, std::wstring_view cheats) {
-    return std::wstring(name).append(line_end).append(line_end).append(cheats);
-}
-
-std::wstring line_count_tooltip(int lines) {
-    return L"Total - " + std::to_wstring(lines) + L" lines.";
 }
 
 }  // namespace quillomat

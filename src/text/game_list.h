@@ -24,13 +24,4 @@ std::optional<int> next_group(int selected, int count, const ItemText& item_text
 /// The first item that begins with `initial`, exactly compared.
 std::optional<int> first_with_initial(wchar_t initial, int count, const ItemText& item_text);
 
-/// The viewer's caption while it is minimised.
-std::wstring minimised_caption(std::wstring_view result);
-
-/// What copying and saving give of a game: its name, an empty line, its cheats.
-std::wstring export_text(std::wstring_view name, std::wstring_view cheats);
-
-/// The tooltip of an editing window's main text box.
-std::wstring line_count_tooltip(int lines);
-
 }  // namespace quillomat

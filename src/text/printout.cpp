@@ -1,5 +1,6 @@
 #include "text/printout.h"
 
+#include "text/export_text.h"
 #include "text/line_end.h"
 #include "text/product.h"
 

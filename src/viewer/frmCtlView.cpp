@@ -15,12 +15,13 @@ namespace {
 
 constexpr double picture_size = 360;
 constexpr double picture_button_size = 420;
-// The image bar, so that the help text below each image, which is centred on the pointer from the third one on, stays
-// within the window: the way home, save and add, and the rest.
+// The image bar in three groups: home; save and add; the others. The help boxes of the third image and of those after
+// it are centred on the pointer and must stay within the window.
 constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
 constexpr double colour_image_left = 3530;
 constexpr std::size_t save_image = 1;
 constexpr double help_above_mode = 30;
+constexpr double help_below_pointer = 500;
 
 bool asks_for_menu(const KeyEvent& event) {
     return event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift);
@@ -107,9 +108,11 @@ void frmCtlView::add_hover_help(Control& control, const wchar_t* text) {
 void frmCtlView::place_help_box(const Control& control, const MouseEvent& event) {
     const bool in_panel = &control.container() == &Frame2;
     const double left = control.left() + event.x + (in_panel ? Frame2.left() : 0) - Text4.width() / 2;
-    // That of the two modes stands above them, or it would cover the keyword that the user types after a click.
-    const double top =
-        in_panel ? Frame2.top() + control.top() + event.y + 500 : control.top() - Text4.height() - help_above_mode;
+    // The help box of List and Search opens above them; below, it would hide the keyword field.
+    double top = control.top() - Text4.height() - help_above_mode;
+    if (in_panel) {
+        top = Frame2.top() + control.top() + event.y + help_below_pointer;
+    }
     quillomat::place_help_box(Text4, left, top);
 }
 
@@ -129,7 +132,7 @@ void frmCtlView::allow_saving(bool allowed) {
 
 void frmCtlView::Form_Resize() {
     if (window_state() == WindowState::Minimised) {
-        set_caption(minimised_caption(List1.text()));
+        set_caption(L"Quillomat - " + List1.text());
         return;
     }
     set_caption(session_.viewer.current_title);

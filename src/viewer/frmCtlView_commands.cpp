@@ -5,6 +5,7 @@
 #include "common/copied_text.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
+#include "text/export_text.h"
 #include "text/game_list.h"
 #include "text/printout.h"
 #include "viewer/frmCtlView.h"

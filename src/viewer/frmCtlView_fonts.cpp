@@ -16,7 +16,8 @@
 namespace quillomat {
 namespace {
 
-/// The names that a text file of this system can hold. The others are collected again when the user asks for it.
+/// Returns the names that the system's code page can encode. The others are missing after the next start, until the
+/// user collects the fonts again.
 std::vector<std::wstring> storable(std::vector<std::wstring> names) {
     std::erase_if(names, [](const std::wstring& name) {
         try {
@@ -82,13 +83,13 @@ void frmCtlView::offer_installed_fonts() {
 }
 
 void frmCtlView::collect_fonts() {
-    // Not undone by a failure: until the user closes the progress window, the two show that something went wrong.
+    // After a failure the hourglass stays until the user closes the progress window.
     set_mouse_pointer(PointerShape::Hourglass);
     const ScreenFonts fonts = session_.screen_fonts();
     menus.remove_fonts();
     open_status();
     {
-        // Nothing but the progress window can be used: its F10 is what ends the collection.
+        // Only the progress window takes input, because its F10 cancels the collection.
         const ModalScope modal(application(), status_->window());
         try {
             fill_font_menu(fonts);
@@ -108,7 +109,7 @@ void frmCtlView::collect_fonts() {
 }
 
 void frmCtlView::open_status() {
-    // A window that a failure has left open is used again.
+    // A progress window that a failed collection has left open is reused.
     if (!status_ || status_->closed()) status_ = std::make_unique<frmStatus>(application(), *this);
     status_->on_unload = [this] { set_mouse_pointer(PointerShape::Default); };
     status_->set_mouse_pointer(PointerShape::Hourglass);
@@ -130,8 +131,8 @@ void frmCtlView::fill_font_menu(const ScreenFonts& fonts) {
     for (int i = 1; i <= fonts.count; ++i) {
         application().let_pending_events_run();
         if (!status_->GoingOn || status_->closed() || closed()) return;
-        // Fonts count from 0, so the first one is not offered, and the entry past the last one has no name: sorted, it
-        // is the line that parts the fonts from the menu's own entry.
+        // Positions count from 0: the first font is not offered. The position past the last font yields an empty name,
+        // which is sorted to the top and becomes the separator below the menu's own entry.
         menus.add_font(fonts.name(i));
         status_->show_progress(i, fonts.count);
     }
@@ -141,7 +142,7 @@ void frmCtlView::QuickSort(int lower, int upper) {
     std::mt19937 generator(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
     std::uniform_real_distribution<double> random(0, 1);
     const auto& entries = menus.mnuFontName;
-    // Sorted apart from the menu, in which an entry must be searched for to change it.
+    // A copy is sorted, because changing a menu entry searches the whole menu for it.
     std::vector<std::wstring> captions;
     captions.reserve(entries.size());
     for (const auto& entry : entries) captions.push_back(entry->caption());

@@ -1,8 +1,8 @@
 // Searching the catalogue, and the two panels that take turns at the left of the viewer.
 
-#include "common/desktop.h"
 #include "common/hover_help.h"
 #include "common/pointer.h"
+#include "common/select_all_text.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/search_text.h"
@@ -25,7 +25,7 @@ void frmCtlView::bind_search() {
     menus.mnuTextBoxInCheats.on_click = [this] { SearchFor(SearchScope::Cheats); };
     menus.mnuSelectedSearch.on_click = [this] {
         Option2.set_value(true);
-        // Where the mode was set before, it has not called for the keyword.
+        // Option2 raises no click if the search panel is open already.
         SelectAllText(Text3);
         CenterMouseOn(Command1.window());
     };
@@ -58,8 +58,7 @@ void frmCtlView::Command1_Click() {
         session_.catalogue.search(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
                                   session_.viewer.search_keyword, session_.viewer.game_count,
                                   [this](int number) { List1.add(session_.catalogue.name(number)); });
-        // For all hits at once: nothing is painted between two of them, and telling the system of each took longer than
-        // the search.
+        // Once for all hits, because nothing is painted between two of them.
         if (List1.count() > 0) Line1.invalidate();
     }
     if (List1.count() == 0) {
@@ -95,7 +94,11 @@ bool frmCtlView::offer_search_for_selection() {
 }
 
 void frmCtlView::SearchFor(SearchScope scope) {
-    (scope == SearchScope::Names ? Option3 : Option4).set_value(true);
+    OptionButton* option = &Option4;
+    if (scope == SearchScope::Names) {
+        option = &Option3;
+    }
+    option->set_value(true);
     Option2.set_value(true);
     Text3.set_text(keyword_of(Text1.selected_text()));
     SelectAllText(Text3);
@@ -143,7 +146,7 @@ void frmCtlView::ShowFrame() {
     Text1.bring_to_front();
     Text4.bring_to_front();
     slide(Frame2, search_panel_start_left, next_search_panel_left);
-    // The panel covers the list; nothing of it is to be reached by the keyboard.
+    // The keyboard must not reach the list behind the panel.
     List2.set_visible(false);
 }
 

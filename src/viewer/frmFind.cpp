@@ -1,11 +1,26 @@
 #include "viewer/frmFind.h"
 
-#include "common/desktop.h"
+#include <cstdint>
+#include <limits>
+
 #include "forms/message_box.h"
 #include "text/error.h"
 #include "win/upper_case.h"
 
 namespace quillomat {
+namespace {
+
+/// Keeps a window above all others. Throws `Error` with Overflow for a handle that is no 16-bit signed number, as
+/// handles of old systems were.
+void StayOnTop(HWND window) {
+    const auto handle = reinterpret_cast<std::intptr_t>(window);
+    if (handle < std::numeric_limits<std::int16_t>::min() || handle > std::numeric_limits<std::int16_t>::max()) {
+        throw Error(ErrorCode::Overflow);
+    }
+    SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+}
+
+}  // namespace
 
 frmFind::frmFind(Application& application, FindState& state, Form& searched, TextBox& box)
     : Form(application,
@@ -14,7 +29,7 @@ frmFind::frmFind(Application& application, FindState& state, Form& searched, Tex
       searched_(searched),
       box_(box) {
     set_owner(searched);
-    // Low enough to cover no cheat text below the viewer's title bar, image bar and letters.
+    // Low enough to end above the viewer's cheat text.
     set_inner_size(6435, 780);
     txtFind.set_tool_tip(L"Text to Find");
     chkCase.set_tool_tip(L"Case Sensitivity");
@@ -49,7 +64,7 @@ void frmFind::Form_Load() {
     optDirection[state_.gFindDirection ? 1 : 0].set_value(true);
     chkCase.set_value(state_.gFindCase != 0);
     if (!state_.gFindString.empty()) {
-        // The user finds what was looked for last, and the next step goes on from the last one.
+        // Filling in the former text is no edit: the next step continues the former search.
         const bool changed = state_.gFirstTime;
         txtFind.set_text(state_.gFindString);
         state_.gFirstTime = changed;
@@ -63,7 +78,7 @@ void frmFind::stay_in_front() {
     try {
         StayOnTop(window());
     } catch (const Error& error) {
-        // For most windows it fails; the dialog is then in front of its own window only, which owns it.
+        // Most handles are too large. The dialog then stays in front of its owner only.
         if (error.code() != ErrorCode::Overflow) throw;
     }
 }

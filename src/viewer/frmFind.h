@@ -14,8 +14,8 @@ namespace quillomat {
 /// Looks for a text in a text box of another window, step by step, while the user goes on working there.
 class frmFind final : public Form {
   public:
-    /// Looks in `box`, which stands on `searched`; the dialog stays in front of that window and closes with it. What
-    /// is looked for comes from `state` and is kept there, which must outlive the dialog.
+    /// Searches `box`, a control of `searched`. The dialog stays in front of `searched` and closes with it. `state`
+    /// holds the search between two dialogs and must outlive them.
     frmFind(Application& application, FindState& state, Form& searched, TextBox& box);
 
     StaticLabel Label1{*this, L"Fi&nd What:", {120, 120, 930, 225}};

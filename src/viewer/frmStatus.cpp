@@ -48,7 +48,7 @@ void frmStatus::Form_KeyDown(KeyEvent& event) {
                                                 .title = L"Sure?",
                                                 .buttons = MessageButtons::YesNo});
     if (answer == MessageAnswer::Yes) GoingOn = false;
-    // The time to answer is none that the collection took.
+    // The time the user took to answer does not count.
     started_ += Clock::now() - asked;
 }
 

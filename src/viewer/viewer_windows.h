@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// The windows the viewer opens without knowing them. What is not bound does nothing.
+/// The windows that the viewer opens without including them. A hook that is not bound does nothing.
 struct ViewerWindows {
     std::function<void()> save;
     std::function<void()> add_game;

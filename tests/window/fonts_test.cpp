@@ -39,8 +39,9 @@ struct FontsTest : ShownViewerTest {
     /// Collects to the end, where a menu pops up; the answers are those to whether to cancel meanwhile.
     void collect_all(std::initializer_list<int> answers = {}, std::deque<WORD> keys_in_menu = {VK_ESCAPE}) {
         expect_question();
-        for (const int answer : answers)
+        for (const int answer : answers) {
             expect_message(L"Sure?", L"Are you sure you want to cancel collecting the fonts?", answer);
+        }
         expect_message(
             L"Success!",
             L"All fonts have been collected!\r\nYou may now choose any font which you would like from the FONT Menu!");
