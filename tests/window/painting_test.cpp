@@ -1,7 +1,9 @@
 // What each kind of item paints, by what its window shows.
 
 #include <algorithm>
+#include <set>
 
+#include "common/hover_help.h"
 #include "controls/button.h"
 #include "controls/check_box.h"
 #include "controls/frame.h"
@@ -26,6 +28,7 @@ namespace {
 
 constexpr Colour red = rgb(255, 0, 0);
 constexpr Colour green = rgb(0, 128, 0);
+constexpr Colour green_of_user = rgb(0, 255, 0);
 /// Large enough for strokes of the very colour of the text.
 const FontSpec large{.points = 20};
 
@@ -69,6 +72,10 @@ RECT inside_of(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
     return client;
+}
+
+bool differs(HWND window, const ShownPixels& before) {
+    return ShownPixels(window).difference(before, inside_of(window)).has_value();
 }
 
 /// The smallest rectangle around all pixels of an area that are not of the colour behind it.
@@ -138,6 +145,8 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
         {"narrow picture", board.Picture1.window(), [this](bool on) { board.Picture1.set_width_factor(on ? 0.5 : 1); }},
         {"mirrored picture", board.Picture1.window(),
          [this](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
+        {"help box", form,
+         [this](bool on) { on ? ShowTip(board.Button1, board.Help, L"Help") : HideTip(board.Button1, board.Help); }},
         {"disabled list", board.List1.window(), enable(board.List1)},
         {"selected item", board.List1.window(),
          [this](bool on) { SendMessageW(board.List1.window(), LB_SETCURSEL, on ? 0 : static_cast<WPARAM>(-1), 0); }},
@@ -152,9 +161,9 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
         set(false);
         const ShownPixels before(window);
         set(true);
-        EXPECT_TRUE(ShownPixels(window).difference(before, inside_of(window))) << what;
+        EXPECT_TRUE(differs(window, before)) << what;
         set(false);
-        EXPECT_FALSE(ShownPixels(window).difference(before, inside_of(window))) << "after " << what;
+        EXPECT_FALSE(differs(window, before)) << "after " << what;
     }
 }
 
@@ -297,6 +306,124 @@ TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) 
     EXPECT_EQ(shown.count(icon, resolve(colours::window_text)), 0);
     board.Drives.select_drive_of(L"C:\\");
     EXPECT_GT(count(board.Drives, colours::window_text), 5);
+}
+
+/// The user's own colours of Windows: white on black, with what is disabled in green.
+class HighContrast {
+  public:
+    HighContrast() {
+        for (std::size_t i = 0; i < std::size(elements_); ++i) former_[i] = GetSysColor(elements_[i]);
+        SetSysColors(static_cast<int>(std::size(elements_)), elements_, contrasting_);
+    }
+    ~HighContrast() { SetSysColors(static_cast<int>(std::size(elements_)), elements_, former_); }
+    HighContrast(const HighContrast&) = delete;
+    HighContrast& operator=(const HighContrast&) = delete;
+
+  private:
+    static constexpr int elements_[] = {COLOR_BTNFACE, COLOR_BTNTEXT, COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_GRAYTEXT};
+    static constexpr COLORREF contrasting_[] = {0x000000, 0xFFFFFF, 0x000000, 0xFFFFFF, 0x00FF00};
+    COLORREF former_[std::size(elements_)]{};
+};
+
+TEST_F(PaintingTest, TheUsersColoursReachEverything) {
+    const HighContrast high_contrast;
+    pump();
+    const POINT between{5, 5};
+    EXPECT_EQ(shown().at(between.x, between.y), colours::black.value);
+    EXPECT_GT(count(board.Label1, colours::white), 20);
+    board.Label1.set_enabled(false);
+    EXPECT_GT(count(board.Label1, green_of_user), 20);
+    for (const Control* control : std::initializer_list<const Control*>{&board.Option1, &board.Check1, &board.List1,
+                                                                        &board.Frame1, &board.Link1}) {
+        EXPECT_GT(count(*control, colours::white), 10) << text_of(control->window()).c_str();
+        EXPECT_GT(count(*control, colours::black), 500) << text_of(control->window()).c_str();
+    }
+}
+
+/// How many colours a bitmap has; 0 for none.
+std::size_t colours_of(HBITMAP bitmap) {
+    BITMAP header{};
+    if (!bitmap || !GetObjectW(bitmap, sizeof header, &header)) return 0;
+    const MemoryCanvas canvas(nullptr);
+    const Selection selected(canvas.get(), bitmap);
+    std::set<COLORREF> colours;
+    for (int y = 0; y < header.bmHeight; ++y) {
+        for (int x = 0; x < header.bmWidth; ++x) colours.insert(GetPixel(canvas.get(), x, y));
+    }
+    return colours.size();
+}
+
+struct ViewerPaintingTest : ShownViewerTest {
+    ViewerPaintingTest() {
+        open_viewer("Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Doom\r\n");
+        viewer->List2.select_index(0);
+    }
+    int count(const Control& control, Colour colour) const {
+        return ShownPixels(control.window()).count(inside_of(control.window()), colour.value);
+    }
+};
+
+TEST_F(ViewerPaintingTest, BothColourSchemesReachTextAndLists) {
+    viewer->Text1.set_font(large);
+    viewer->List2.set_font(large);
+    viewer->List1.set_font(large);
+    viewer->List1.add(L"Doom");
+    SendMessageW(viewer->List2.window(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    for (const bool coloured : {viewer->menus.mnuColour.checked(), !viewer->menus.mnuColour.checked()}) {
+        if (coloured != viewer->menus.mnuColour.checked()) viewer->menus.mnuColour.pick();
+        const Colour text = coloured ? rgb(128, 0, 128) : colours::black;
+        const Colour names = coloured ? rgb(0, 0, 255) : colours::black;
+        EXPECT_GT(count(viewer->Text1, text), 20);
+        EXPECT_GT(count(viewer->Text1, coloured ? rgb(255, 192, 255) : colours::white), 5000);
+        EXPECT_GT(count(viewer->List2, names), 20);
+        EXPECT_GT(count(viewer->List2, coloured ? rgb(192, 192, 255) : colours::white), 5000);
+        viewer->Option2.set_value(true);
+        EXPECT_GT(count(viewer->List1, names), 20) << "the results too";
+        viewer->Option1.set_value(true);
+    }
+}
+
+TEST_F(ViewerPaintingTest, MenuEntriesHaveTheirPictures) {
+    const ViewerMenus& menus = viewer->menus;
+    for (const Menu* entry : {&menus.mnuSave, &menus.mnuAddNew, &menus.mnuMailCheats, &menus.mnuExit, &menus.mnuCopy}) {
+        MENUITEMINFOW info{};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_CHECKMARKS;
+        const HMENU menu = entry == &menus.mnuCopy ? menus.mnuOptions.handle() : menus.mnuMenu.handle();
+        ASSERT_TRUE(GetMenuItemInfoW(menu, static_cast<UINT>(entry->id()), FALSE, &info));
+        EXPECT_GT(colours_of(info.hbmpUnchecked), 2u) << text_of(viewer->window()).c_str();
+        EXPECT_GT(colours_of(info.hbmpChecked), 2u);
+    }
+}
+
+TEST_F(ViewerPaintingTest, ControlsAndImagesHaveTheirToolTips) {
+    const auto tip_of = [this](HWND control) {
+        struct Search {
+            HWND owner;
+            HWND tips;
+        } search{viewer->window(), nullptr};
+        EnumThreadWindows(
+            GetCurrentThreadId(),
+            [](HWND window, LPARAM parameter) -> BOOL {
+                auto& [owner, tips] = *reinterpret_cast<Search*>(parameter);
+                if (class_of(window) == TOOLTIPS_CLASSW && GetWindow(window, GW_OWNER) == owner) tips = window;
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&search));
+        wchar_t text[200]{};
+        TTTOOLINFOW tool{};
+        tool.cbSize = sizeof tool;
+        tool.hwnd = viewer->window();
+        tool.uId = reinterpret_cast<UINT_PTR>(control);
+        tool.lpszText = text;
+        SendMessageW(search.tips, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
+        return std::wstring(text);
+    };
+    EXPECT_EQ(tip_of(viewer->Text1.window()), L"Double-click a word to search for it");
+    viewer->Text1.set_tool_tip(L"Another");
+    EXPECT_EQ(tip_of(viewer->Text1.window()), L"Another");
+    viewer->Text1.set_tool_tip({});
+    EXPECT_EQ(tip_of(viewer->Text1.window()), L"");
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "support.h"
 
+#include "layout_checks.h"
+
 namespace quillomat {
 namespace {
 
@@ -40,6 +42,7 @@ void WindowTest::expect_message(std::wstring title, std::wstring text, int butto
 }
 
 void WindowTest::answer(HWND box) {
+    expect_only_one_takes_input(box);
     const std::wstring title = text_of(box);
     const std::wstring text = message_of(box);
     int button = refusing_button(box);

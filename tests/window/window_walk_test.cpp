@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "controls/button.h"
 #include "layout_checks.h"
 #include "object_counts.h"
 #include "output/frmAddNew.h"
