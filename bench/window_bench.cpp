@@ -117,8 +117,8 @@ void measure_frames(OpenedViewer& open) {
 LRESULT CALLBACK on_window_event(int code, WPARAM wparam, LPARAM lparam) {
     const auto window = reinterpret_cast<HWND>(wparam);
     constexpr DWORD dialog_class = 32770;
-    if (code == HCBT_ACTIVATE && GetClassLongW(window, GCW_ATOM) == dialog_class)
-        PostMessageW(window, WM_COMMAND, IDOK, 0);
+    const bool box_opened = code == HCBT_ACTIVATE && GetClassLongW(window, GCW_ATOM) == dialog_class;
+    if (box_opened) PostMessageW(window, WM_COMMAND, IDOK, 0);
     return CallNextHookEx(nullptr, code, wparam, lparam);
 }
 

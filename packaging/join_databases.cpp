@@ -77,8 +77,8 @@ std::string read(const wchar_t* path) {
     const File file(_wfopen(path, L"rb"));
     if (!file) throw std::runtime_error("cannot be opened");
     std::string bytes(static_cast<std::size_t>(_filelengthi64(_fileno(file.get()))), '\0');
-    if (std::fread(bytes.data(), 1, bytes.size(), file.get()) != bytes.size())
-        throw std::runtime_error("cannot be read");
+    const std::size_t length = std::fread(bytes.data(), 1, bytes.size(), file.get());
+    if (length != bytes.size()) throw std::runtime_error("cannot be read");
     return bytes;
 }
 

@@ -14,11 +14,11 @@ namespace quillomat {
 /// What of the games is searched.
 enum class SearchScope { Names, Cheats };
 
-/// The games and their cheat texts: two parallel tables of `slot_count` slots. Slot k of both is game number k, which
-/// is also the game's place in the list a player sees.
+/// The names and cheat texts of all games: two parallel tables of `slot_count` slots. Slot k of both tables belongs to
+/// game number k, which is also the game's position in the list of the viewer.
 ///
 /// A loaded database is kept as one text that the slots point into, so that it takes no more memory than its
-/// characters; only a game added later owns its strings.
+/// characters.
 class Catalogue {
   public:
     static constexpr int slot_count = 2501;

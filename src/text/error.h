@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// What can go wrong in the program, by the number users and support people know it by.
+/// The errors of the program, by the numbers that users and support people know.
 enum class ErrorCode {
     InvalidArgument = 5,
     Overflow = 6,
@@ -23,11 +23,11 @@ enum class ErrorCode {
     MailFailure = 32002,
     /// A library of another program has crashed.
     Crashed = 32003,
-    /// The user has changed their mind; no message tells them so.
+    /// The user cancelled; no message is shown.
     Cancelled = 32755,
 };
 
-/// The one exception type of the program: a number and a sentence that can be shown to the user as it stands.
+/// The exception type of the program: a number, and a description that can be shown to the user.
 class Error : public std::exception {
   public:
     /// An error with the standard description of its number, such as "File not found".

@@ -10,7 +10,7 @@ std::optional<std::size_t> find_in_text(const FindState& state, std::wstring tex
     const std::size_t start = caret + (on_last_match ? 1 : 0);
     std::wstring wanted = state.gFindString;
 
-    // What the step cannot reach need not be converted.
+    // Only the part that this step can reach is converted.
     std::size_t begin = 0;
     std::size_t end = text.size();
     if (state.gFindDirection) {

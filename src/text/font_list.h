@@ -7,16 +7,16 @@
 
 namespace quillomat {
 
-/// No font of the system has a longer name.
+/// The length of the longest font name that Windows allows, in characters.
 inline constexpr std::size_t longest_font_name = 31;
-/// More fonts than any system has, and as many entries as a menu can still be opened with.
+/// More fonts than any system has, and the largest number of entries with which a menu still opens.
 inline constexpr std::size_t most_listed_fonts = 10'000;
 
-/// The font names of a font list file, one to a line, in the file's order. Lines that can name no font are passed over:
-/// empty ones, longer ones than any name, and those with control characters. Past the most that are listed, so are all.
+/// Returns the font names of a font list file, one per line, in the file's order, at most `most_listed_fonts`. Skips
+/// lines that cannot be a font name: empty ones, ones that are too long, and ones with control characters.
 std::vector<std::wstring> font_names(std::wstring_view file_text);
 
-/// The text of a font list file: the names, one to a line. A list without a name has one empty line.
+/// Returns the text of a font list file: one name per line, or one empty line if there are no names.
 std::wstring font_list_text(const std::vector<std::wstring>& names);
 
 }  // namespace quillomat

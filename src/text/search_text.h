@@ -6,10 +6,11 @@
 
 namespace quillomat {
 
-/// The menu caption that offers to search for a text selected by a double-click; nothing where no word was met.
+/// Returns the caption of the menu entry that searches for the text selected by a double-click, or nothing if the
+/// selection is empty or a line end.
 std::optional<std::wstring> search_menu_caption(std::wstring_view selected);
 
-/// The keyword made of a selected text: without the blanks at its ends.
+/// Returns the selected text without leading and trailing blanks.
 std::wstring keyword_of(std::wstring_view selected);
 
 }  // namespace quillomat

@@ -11,7 +11,7 @@ namespace {
 
 static_assert(system_code_page == CP_ACP);
 
-/// Characters whose bytes can surely be counted in an int.
+/// The longest text whose bytes can be counted in an int in every code page.
 constexpr std::size_t most_encoded = std::numeric_limits<int>::max() / 4;
 
 bool holds_every_character(unsigned code_page) {
@@ -20,22 +20,21 @@ bool holds_every_character(unsigned code_page) {
     return actual == CP_UTF8 || actual == gb_18030;
 }
 
-/// How many bytes a text was written as, or, for no room at all, would be; 0 when the code page lacks a character of
-/// it.
+/// Returns the number of bytes written (or needed, if room is 0); 0 if the code page cannot encode the text.
 int encode_into(char* bytes, int room, std::wstring_view text, unsigned code_page) {
     const auto length = static_cast<int>(text.size());
-    // Half a surrogate pair is all that these lack, and they report it in another way.
+    // These code pages lack nothing but unpaired surrogates, which they report in another way.
     if (holds_every_character(code_page)) {
         return WideCharToMultiByte(code_page, WC_ERR_INVALID_CHARS, text.data(), length, bytes, room, nullptr, nullptr);
     }
-    // Left to itself the system writes a letter that looks alike, and the text would come back as another one.
+    // By default Windows writes a similar letter instead, and the text would read back differently.
     BOOL lacking = FALSE;
     const int size =
         WideCharToMultiByte(code_page, WC_NO_BEST_FIT_CHARS, text.data(), length, bytes, room, nullptr, &lacking);
     return lacking ? 0 : size;
 }
 
-/// The character at the beginning of a text: two places when it is a surrogate pair.
+/// The first character of a text: two code units if it is a surrogate pair.
 std::wstring_view first_character(std::wstring_view text) {
     return text.substr(0, text.size() > 1 && IS_SURROGATE_PAIR(text[0], text[1]) ? 2 : 1);
 }

@@ -5,7 +5,7 @@
 namespace quillomat {
 namespace {
 
-/// The system's sentence for a code, in the user's language; empty when it has none.
+/// Windows' description of a code in the user's language; empty if there is none.
 std::wstring system_description(DWORD code) {
     wchar_t text[512];
     DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text,
@@ -46,7 +46,7 @@ Error error_from_code(DWORD code) {
         case ERROR_OUTOFMEMORY:
             return Error(ErrorCode::OutOfMemory);
         case ERROR_SUCCESS:
-            // The call failed without saying why; "completed successfully" would be the wrong thing to show.
+            // The call failed without setting an error; "completed successfully" must not be shown.
             return Error(ErrorCode::DeviceError);
         default:
             const std::wstring description = system_description(code);

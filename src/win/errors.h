@@ -5,11 +5,11 @@
 
 namespace quillomat {
 
-/// The error for a code of the system: a number of the program's own where there is one, else a device error with the
-/// system's sentence.
+/// Converts a Windows error code: to the matching ErrorCode if there is one, else to DeviceError with the description
+/// that Windows gives.
 Error error_from_code(DWORD code);
 
-/// Throws the error of the system call that failed last.
+/// Throws the `Error` for GetLastError().
 [[noreturn]] void throw_last_error();
 
 }  // namespace quillomat

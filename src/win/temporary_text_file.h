@@ -7,10 +7,10 @@
 
 namespace quillomat {
 
-/// A text file that is there for as long as the object lives.
+/// Creates a text file and deletes it on destruction.
 class TemporaryTextFile {
   public:
-    /// Writes the file, over any older one. Throws `Error` as `TextFileSlot::replace` does.
+    /// Writes the file, replacing an older one. Throws `Error` as `TextFileSlot::replace` does.
     TemporaryTextFile(TextFileSlot& slot, std::wstring path, std::wstring_view text);
     ~TemporaryTextFile();
     TemporaryTextFile(const TemporaryTextFile&) = delete;

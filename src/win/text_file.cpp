@@ -10,7 +10,7 @@
 namespace quillomat {
 namespace {
 
-/// Bytes of the largest file that is read. No text is larger, and its characters take twice as much memory.
+/// The largest file that is read, in bytes: its length has to fit into an int to be decoded.
 constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
 
 LONGLONG size_of(HANDLE file) {
@@ -40,7 +40,7 @@ void check_changeable(const std::wstring& path) {
     if (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) throw Error(ErrorCode::PermissionDenied);
 }
 
-/// Closes the slot when a write ends, whichever way: only reading leaves it open.
+/// RAII guard that closes the slot after a write, even a failed one: only reading leaves the slot open.
 class Closing {
   public:
     explicit Closing(FileHandle& file) : file_(file) {}
@@ -54,7 +54,7 @@ class Closing {
 
 enum class AtClosing { Keep, Delete };
 
-/// What the system does with a file as soon as it is closed, even if that is because the program was ended.
+/// Sets what Windows does with a file when its handle is closed, even by the end of the process.
 void set_fate(HANDLE file, AtClosing fate) {
     FILE_DISPOSITION_INFO info{fate == AtClosing::Delete};
     if (!SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info)) throw_last_error();

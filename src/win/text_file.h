@@ -7,20 +7,20 @@
 
 namespace quillomat {
 
-/// Whether there is a file (not a folder) at a path.
+/// Returns true if there is a file (not a folder) at the path.
 bool file_exists(const std::wstring& path);
 
 /// "File number 1": the one slot through which the program opens its text files, which are in the system's code page.
 /// A load that fails in the middle keeps it for the rest of the run; every later use then throws FileAlreadyOpen.
 class TextFileSlot {
   public:
-    /// Whether a file is open, by a load that goes on or has failed.
+    /// Returns true while a file is open: during a load, and after one that failed.
     bool is_open() const { return static_cast<bool>(file_); }
 
     /// Throws `Error`: FileAlreadyOpen when the slot is in use, else what the system says (FileNotFound, PathNotFound,
     /// PermissionDenied, ...).
     void open_for_reading(const std::wstring& path);
-    /// The whole file that is open. Throws `Error`, OutOfMemory for one of 2 GB and more, and leaves the slot open.
+    /// Reads and decodes the whole open file. Throws `Error`, with OutOfMemory for 2 GB and more; the slot stays open.
     std::wstring read_all();
     void close() { file_.close(); }
 

@@ -52,8 +52,9 @@ int run(const std::wstring& command) {
 }
 
 fs::path installer(const wchar_t* release) {
-    for (const auto& entry : fs::directory_iterator(packages / release))
+    for (const auto& entry : fs::directory_iterator(packages / release)) {
         if (entry.path().extension() == L".exe") return entry.path();
+    }
     throw std::runtime_error("there is no installer");
 }
 
