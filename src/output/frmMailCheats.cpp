@@ -143,6 +143,11 @@ void frmMailCheats::lay_out_list(double width) {
     const double list_top = margin + two_lines;
     Label1.move({margin, margin, width, two_lines});
     List1.move({margin, list_top, width, hint_top - list_top - margin / 2});
+    // The last row is shown whole or not at all.
+    RECT inside{};
+    GetClientRect(List1.window(), &inside);
+    const auto cut_off = static_cast<int>(inside.bottom % SendMessageW(List1.window(), LB_GETITEMHEIGHT, 0, 0));
+    List1.set_height(List1.height() - to_twips(cut_off, dpi()));
     Label7.move({margin, hint_top, width, two_lines});
 }
 

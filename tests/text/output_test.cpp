@@ -54,12 +54,6 @@ TEST(LineFlow, LinesGoOnOnFurtherPagesAndNoneIsCut) {
     EXPECT_EQ(too_small.next(), (Place{next, 0}));
 }
 
-TEST(SavedFile, ATypedNameGetsItsExtensionUnlessItHasExactlyThat) {
-    EXPECT_EQ(file_name_of(L"Doom.txt"), L"Doom.txt");
-    EXPECT_EQ(file_name_of(L"Doom.TXT"), L"Doom.TXT.txt");
-    EXPECT_EQ(file_name_of(L"dots..."), L"dots....txt") << "what no name may end with is no longer the end";
-}
-
 TEST(SavedFile, NamesThatNoFileCanHaveSayWhy) {
     for (const wchar_t* const name : {L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt", L".txt", L"dots....txt",
                                       L"Console.txt", L"COM0.txt", L"COM10.txt", L"my con.txt"}) {

@@ -277,13 +277,6 @@ TEST_F(MailMeTest, APickedSubjectAndATypedMessageReachTheAuthor) {
     ASSERT_SOON(form->Text1.text() == L"no\r\n");
     EXPECT_EQ(form->Text1.tool_tip(), L"Total - 2 lines.");
 
-    refuse("MAPISendMailW", 1);
-    expect_message(L"Quillomat", L"The message was not sent: you cancelled it.");
-    press(form->Command1);
-    ASSERT_TRUE(form);
-    EXPECT_EQ(mail_program.take_calls().back(), "MAPILogoff");
-    refuse("", 0);
-    form->Text1.set_focus();
     for (const WORD key : {VK_TAB, VK_TAB, VK_SPACE}) press_key(key);
     expect_message(L"Quillomat", L"The message was sent!");
     ASSERT_SOON(!form);
@@ -292,7 +285,7 @@ TEST_F(MailMeTest, APickedSubjectAndATypedMessageReachTheAuthor) {
     EXPECT_EQ(mail_program.file.first, L"");
 }
 
-TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
+TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowAndThrowsAwayAProposal) {
     open();
     const auto is_dropped = [this] { return SendMessageW(form->Combo1.window(), CB_GETDROPPEDSTATE, 0, 0) != 0; };
     press_key(VK_DOWN, {VK_MENU});
@@ -304,9 +297,6 @@ TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowUnlessSomethingIsWritten) {
     form->Text1.set_text(L"written");
     form->propose_message(L"[Question]");
     EXPECT_EQ(form->Text1.text(), L"written") << "what is written is never replaced";
-    press_key(VK_ESCAPE);
-    pump();
-    ASSERT_TRUE(form && !form->closed());
     form->Text1.set_text(L"");
     form->propose_message(L"[Question]");
     press_key(VK_TAB);
