@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "forms/font.h"
 #include "forms/graphic.h"
 #include "win/colour.h"
+#include "win/font.h"
 #include "win/picture.h"
 
 namespace quillomat {

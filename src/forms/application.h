@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "forms/faults.h"
-#include "forms/font.h"
 #include "forms/modality.h"
+#include "win/font.h"
 
 namespace quillomat {
 

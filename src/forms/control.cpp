@@ -68,7 +68,7 @@ void Control::recreate(DWORD style) {
     if (focused) {
         set_focus();
     } else {
-        form().move_last_focus(former, window_);
+        form().keyboard().move_last_focus(former, window_);
     }
 }
 
@@ -138,7 +138,7 @@ bool Control::raise_key_down(int key) {
 }
 
 void Control::set_focus() {
-    form().focus(window_);
+    form().keyboard().focus(window_);
 }
 
 Colour Control::back_colour() const {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "forms/font.h"
 #include "forms/item.h"
 #include "win/colour.h"
+#include "win/font.h"
 
 namespace quillomat {
 

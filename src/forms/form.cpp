@@ -5,7 +5,6 @@
 
 #include "forms/application.h"
 #include "forms/control.h"
-#include "forms/menu.h"
 #include "forms/message_box.h"
 #include "forms/timer.h"
 #include "win/errors.h"
@@ -211,21 +210,25 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             timer_has_run(wparam);
             return 0;
         case WM_COMMAND:
-            if (!lparam && pick_command(LOWORD(wparam))) return 0;
+            if (!lparam && commands_.pick(LOWORD(wparam))) return 0;
             break;
         case WM_INITMENUPOPUP:
-            menu_opens(reinterpret_cast<HMENU>(wparam));
+            commands_.opens(reinterpret_cast<HMENU>(wparam));
             return 0;
         case WM_ACTIVATE:
             // A window that is being minimised has lost the focus already; where it was counts when it comes back.
-            if (LOWORD(wparam) == WA_INACTIVE && IsChild(window_, GetFocus())) last_focus_ = GetFocus();
+            if (LOWORD(wparam) == WA_INACTIVE) keyboard_.remember_focus();
             break;
         case WM_NEXTDLGCTL:
             // The access key of a caption gives that the focus, and then asks for the next control.
-            LOWORD(lparam) ? static_cast<void>(SetFocus(reinterpret_cast<HWND>(wparam))) : move_focus(wparam != 0);
+            if (LOWORD(lparam)) {
+                SetFocus(reinterpret_cast<HWND>(wparam));
+            } else {
+                keyboard_.move_focus(wparam != 0);
+            }
             return 0;
         case WM_SETFOCUS:
-            restore_focus();
+            keyboard_.restore_focus();
             return 0;
         case WM_SETCURSOR:
             // A press on a window that waits: what it waits for may be hidden behind it.
@@ -247,19 +250,6 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
 void Form::timer_has_run(UINT_PTR id) {
     const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(id));
     if (timer != timers_.end() && !closed_) (*timer)->tick();
-}
-
-bool Form::pick_command(int id) {
-    const auto command = commands_.find(id);
-    if (command == commands_.end()) return false;
-    command->second->pick();
-    return true;
-}
-
-void Form::menu_opens(HMENU opening) {
-    const auto opened = std::find_if(commands_.begin(), commands_.end(),
-                                     [opening](const auto& command) { return command.second->handle() == opening; });
-    if (opened != commands_.end()) raise(opened->second->on_click);
 }
 
 void Form::load() {
@@ -286,7 +276,7 @@ void Form::show() {
         // Focus frames and underlined access keys show as the user's settings and the last input ask for.
         SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
         resized();
-        if (IsWindowEnabled(window_)) restore_focus();
+        if (IsWindowEnabled(window_)) keyboard_.restore_focus();
     }
     constexpr int commands[] = {SW_SHOWNORMAL, SW_SHOWMINIMIZED, SW_SHOWMAXIMIZED};
     ShowWindow(window_, IsWindowVisible(window_) ? SW_SHOW : commands[static_cast<int>(state)]);
@@ -399,52 +389,6 @@ void Form::refresh() {
 
 void Form::paint_changes() {
     RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-}
-
-int Form::add_command(Menu& menu) {
-    // A command reaches the window as 16 bits, of which the system has the upper numbers for itself, and entries come
-    // and go: a number is used again when its entry has gone.
-    constexpr int first = 100;
-    constexpr int last = 0xEFFF;
-    if (commands_.size() > last - first) throw Error(ErrorCode::OutOfMemory);
-    while (!commands_.try_emplace(next_command_id_, &menu).second) {
-        next_command_id_ = next_command_id_ < last ? next_command_id_ + 1 : first;
-    }
-    return next_command_id_;
-}
-
-void Form::remove_command(int id) {
-    commands_.erase(id);
-}
-
-void Form::set_menu_bar(HMENU bar) {
-    SetMenu(window_, bar);
-}
-
-void Form::renew_menu_pictures() {
-    for (const auto& [id, menu] : commands_) menu->renew_pictures();
-}
-
-void Form::menu_changed() {
-    if (IsWindowVisible(window_)) DrawMenuBar(window_);
-}
-
-void Form::pop_up(Menu& menu, double left, double top, const Menu* default_item) {
-    POINT point{to_pixels(left, dpi_), to_pixels(top, dpi_)};
-    ClientToScreen(window_, &point);
-    pop_up_at(menu, point, default_item);
-}
-
-void Form::pop_up(Menu& menu, const Menu* default_item) {
-    POINT point{};
-    GetCursorPos(&point);
-    pop_up_at(menu, point, default_item);
-}
-
-void Form::pop_up_at(Menu& menu, POINT screen, const Menu* default_item) {
-    if (default_item) SetMenuDefaultItem(menu.handle(), static_cast<UINT>(default_item->id()), FALSE);
-    pick_command(
-        TrackPopupMenu(menu.handle(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0, window_, nullptr));
 }
 
 }  // namespace quillomat

@@ -4,13 +4,14 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "forms/container.h"
 #include "forms/events.h"
+#include "forms/form_keyboard.h"
 #include "forms/geometry.h"
+#include "forms/menu_commands.h"
 #include "forms/modality.h"
 #include "forms/tool_tips.h"
 #include "text/window_size.h"
@@ -19,7 +20,6 @@
 namespace quillomat {
 
 class Application;
-class Menu;
 class Timer;
 
 /// How a form is shown, by the numbers that the settings hold.
@@ -136,33 +136,20 @@ class Form : public Container, public MouseEvents {
     void paint_changes();
 
     /// The buttons that Enter and Escape press; null for none.
-    void set_default_button(Control* button);
-    Control* default_button() const { return default_button_; }
-    void set_cancel_button(Control* button) { cancel_button_ = button; }
-
-    /// Shows a menu at a position in twips and runs the command the user picks; `default_item` is drawn bold.
-    void pop_up(Menu& menu, double left, double top, const Menu* default_item = nullptr);
-    /// The same at the pointer.
-    void pop_up(Menu& menu, const Menu* default_item = nullptr);
+    void set_default_button(Control* button) { keyboard_.set_default_button(button); }
+    Control* default_button() const { return keyboard_.default_button(); }
+    void set_cancel_button(Control* button) { keyboard_.set_cancel_button(button); }
 
     // For the toolkit.
     static Form* from(HWND window);
     int next_control_id() { return next_control_id_++; }
-    int add_command(Menu& menu);
-    void remove_command(int id);
-    void set_menu_bar(HMENU bar);
-    void menu_changed();
     void add(Timer& timer) { timers_.push_back(&timer); }
     void remove(Timer& timer) { std::erase(timers_, &timer); }
     using Container::add;
     using Container::remove;
-    /// Gives the focus to a control, at once or when the window is first shown.
-    void focus(HWND control);
-    /// A control has got another window: a focus that the form keeps for its next activation goes to that one.
-    void move_last_focus(HWND former, HWND present);
     ToolTips& tool_tips() { return tool_tips_; }
-    /// Gives the dialog keys and key events of a message to where they belong; true when it needs nothing further.
-    bool translate(MSG& message);
+    MenuCommands& commands() { return commands_; }
+    FormKeyboard& keyboard() { return keyboard_; }
     /// Runs what may raise events, for a message of the system or for none: no exception gets out to the system, it is
     /// reported to the user later instead; and the form stays alive until the work is done.
     template <class Work>
@@ -170,8 +157,6 @@ class Form : public Container, public MouseEvents {
         // Once for every message, so without the memory that a std::function would take.
         return run_guarded([](void* what) -> LRESULT { return (*static_cast<Work*>(what))(); }, &work, message);
     }
-    /// Draws the keyboard cues (focus frame, underlined access keys) from now on.
-    void show_keyboard_cues();
 
   protected:
     MouseEvents& surface() override { return *this; }
@@ -182,21 +167,12 @@ class Form : public Container, public MouseEvents {
     LRESULT run_guarded(LRESULT (*work)(void* what), void* what, UINT message);
     static LRESULT window_destroyed(Form& form, HWND window, WPARAM wparam, LPARAM lparam);
     void timer_has_run(UINT_PTR id);
-    /// False when no command has this number.
-    bool pick_command(int id);
-    void menu_opens(HMENU opening);
     void load();
     void resized();
     void drag();
     void set_pixel_size(LONG width, LONG height);
     void limit_sizing(WPARAM edge, RECT& area) const;
     void resolution_changed(int dpi, const RECT& suggested);
-    void renew_menu_pictures();
-    void pop_up_at(Menu& menu, POINT screen, const Menu* default_item);
-    bool raise_key_down(int key);
-    bool handle_dialog_key(const MSG& message);
-    void move_focus(bool backwards);
-    void restore_focus();
     void destroy_when_idle();
     void forget_window();
     std::vector<Form*> owned_forms() const;
@@ -212,12 +188,9 @@ class Form : public Container, public MouseEvents {
     int dpi_ = 96;
     ToolTips tool_tips_;
     std::vector<Timer*> timers_;
-    std::unordered_map<int, Menu*> commands_;
+    MenuCommands commands_;
+    FormKeyboard keyboard_{*this};
     int next_control_id_ = 1000;
-    int next_command_id_ = 100;
-    Control* default_button_ = nullptr;
-    Control* cancel_button_ = nullptr;
-    HWND last_focus_ = nullptr;
     WindowState state_ = WindowState::Normal;
     PointerShape pointer_ = PointerShape::Default;
     std::optional<ModalScope> alone_;

@@ -1,4 +1,4 @@
-// How the keyboard reaches a form: key events first, then the keys that every dialog knows.
+#include "forms/form_keyboard.h"
 
 #include <algorithm>
 #include <iterator>
@@ -33,39 +33,39 @@ void collect_in_reading_order(const Container& container, std::vector<HWND>& win
 
 }  // namespace
 
-bool Form::translate(MSG& message) {
-    if (closed_) return false;
+bool FormKeyboard::translate(MSG& message) {
+    if (form_.closed()) return false;
     bool handled = false;
-    guarded([&] {
-        if (message.message == WM_MOUSEMOVE) raise(on_pointer_moved);
-        if (is_key_down(message.message)) raise(on_key_pressed);
+    form_.guarded([&] {
+        if (message.message == WM_MOUSEMOVE) raise(form_.on_pointer_moved);
+        if (is_key_down(message.message)) raise(form_.on_key_pressed);
         Control* control = is_key_down(message.message) ? Control::from(message.hwnd) : nullptr;
         if (control) handled = control->raise_key_down(static_cast<int>(message.wParam));
-        if (message.hwnd == window_ && is_key_down(message.message)) {
+        if (message.hwnd == form_.window() && is_key_down(message.message)) {
             handled = raise_key_down(static_cast<int>(message.wParam));
         }
-        if (!handled && !closed_) {
-            handled =
-                (message.message == WM_KEYDOWN && handle_dialog_key(message)) || IsDialogMessageW(window_, &message);
+        if (!handled && !form_.closed()) {
+            handled = (message.message == WM_KEYDOWN && handle_dialog_key(message)) ||
+                      IsDialogMessageW(form_.window(), &message);
         }
         // Unless the system hears of a key pressed with Alt, it opens the menu bar when Alt is released. Alt itself it
         // has heard of; told twice, it takes that for such a key, and Alt alone would not open the bar.
         const bool with_alt = message.message == WM_SYSKEYDOWN && (message.lParam & alt_held);
-        if (handled && with_alt && message.wParam != VK_F4 && message.wParam != VK_MENU && window_) {
-            DefWindowProcW(window_, message.message, message.wParam, message.lParam);
+        if (handled && with_alt && message.wParam != VK_F4 && message.wParam != VK_MENU && form_.window()) {
+            DefWindowProcW(form_.window(), message.message, message.wParam, message.lParam);
         }
         return LRESULT{};
     });
-    return handled || closed_;
+    return handled || form_.closed();
 }
 
-bool Form::handle_dialog_key(const MSG& message) {
+bool FormKeyboard::handle_dialog_key(const MSG& message) {
     const auto wanted = SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
     const Modifiers modifiers = current_modifiers();
     switch (message.wParam) {
         case VK_TAB:
             if (modifiers.control) return false;
-            show_keyboard_cues();
+            show_cues();
             move_focus(modifiers.shift);
             return true;
         case VK_RETURN: {
@@ -92,9 +92,9 @@ bool Form::handle_dialog_key(const MSG& message) {
     }
 }
 
-void Form::move_focus(bool backwards) {
+void FormKeyboard::move_focus(bool backwards) {
     std::vector<HWND> windows;
-    collect_in_reading_order(*this, windows);
+    collect_in_reading_order(form_, windows);
     if (backwards) std::reverse(windows.begin(), windows.end());
     // From the one behind the focus, which need not be a stop itself, once around.
     const Control* focused = Control::from(GetFocus());
@@ -108,23 +108,27 @@ void Form::move_focus(bool backwards) {
     if (is_input && !(GetWindowLongPtrW(*next, GWL_STYLE) & ES_MULTILINE)) SendMessageW(*next, EM_SETSEL, 0, -1);
 }
 
-void Form::focus(HWND control) {
+void FormKeyboard::focus(HWND control) {
     last_focus_ = control;
-    if (shown_) SetFocus(control);
+    if (form_.shown()) SetFocus(control);
 }
 
-void Form::move_last_focus(HWND former, HWND present) {
+void FormKeyboard::move_last_focus(HWND former, HWND present) {
     if (last_focus_ == former) last_focus_ = present;
 }
 
-void Form::restore_focus() {
+void FormKeyboard::remember_focus() {
+    if (IsChild(form_.window(), GetFocus())) last_focus_ = GetFocus();
+}
+
+void FormKeyboard::restore_focus() {
     // The window itself may not be visible yet.
     const auto style = last_focus_ ? GetWindowLongPtrW(last_focus_, GWL_STYLE) : 0;
-    if (IsChild(window_, last_focus_) && (style & WS_VISIBLE) && !(style & WS_DISABLED)) {
+    if (IsChild(form_.window(), last_focus_) && (style & WS_VISIBLE) && !(style & WS_DISABLED)) {
         SetFocus(last_focus_);
         return;
     }
-    for (const Control* control : controls()) {
+    for (const Control* control : form_.controls()) {
         if ((GetWindowLongPtrW(control->window(), GWL_STYLE) & WS_TABSTOP) && control->visible() &&
             control->enabled()) {
             SetFocus(control->window());
@@ -133,17 +137,17 @@ void Form::restore_focus() {
     }
 }
 
-bool Form::raise_key_down(int key) {
+bool FormKeyboard::raise_key_down(int key) {
     KeyEvent event{.key = key, .modifiers = current_modifiers()};
-    raise(on_key_down, event);
+    raise(form_.on_key_down, event);
     return event.handled;
 }
 
-void Form::show_keyboard_cues() {
-    SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
+void FormKeyboard::show_cues() {
+    SendMessageW(form_.window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
 }
 
-void Form::set_default_button(Control* button) {
+void FormKeyboard::set_default_button(Control* button) {
     if (button == default_button_) return;
     Control* const former = std::exchange(default_button_, button);
     if (former) InvalidateRect(former->window(), nullptr, FALSE);

@@ -118,15 +118,23 @@ void Form::limit_sizing(WPARAM edge, RECT& area) const {
     const LONG height = std::max<LONG>(area.bottom - area.top, to_pixels(minimum_.height, dpi_));
     const bool pulls_left = edge == WMSZ_LEFT || edge == WMSZ_TOPLEFT || edge == WMSZ_BOTTOMLEFT;
     const bool pulls_top = edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT;
-    pulls_left ? area.left = area.right - width : area.right = area.left + width;
-    pulls_top ? area.top = area.bottom - height : area.bottom = area.top + height;
+    if (pulls_left) {
+        area.left = area.right - width;
+    } else {
+        area.right = area.left + width;
+    }
+    if (pulls_top) {
+        area.top = area.bottom - height;
+    } else {
+        area.bottom = area.top + height;
+    }
 }
 
 void Form::resolution_changed(int dpi, const RECT& suggested) {
     dpi_ = application_.forced_dpi() ? application_.forced_dpi() : dpi;
     tool_tips_.fit_resolution(dpi_);
     items_resolution_changed();
-    renew_menu_pictures();
+    commands_.renew_pictures();
     if (icon_) set_icon(icon_);
     resolution_changing_ = true;
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,

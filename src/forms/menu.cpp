@@ -15,31 +15,31 @@ std::wstring without_access_keys(std::wstring_view text) {
 
 MenuBar::MenuBar(Form& form) : form_(form), handle_(CreateMenu()) {
     if (!handle_) throw_last_error();
-    form_.set_menu_bar(handle_);
+    SetMenu(form_.window(), handle_);
 }
 
 MenuBar::~MenuBar() {
-    if (form_.window()) form_.set_menu_bar(nullptr);
+    if (form_.window()) SetMenu(form_.window(), nullptr);
     DestroyMenu(handle_);
 }
 
 Menu::Menu(MenuBar& bar, std::wstring caption)
-    : form_(bar.form()), handle_(CreatePopupMenu()), id_(form_.add_command(*this)), caption_(std::move(caption)) {
+    : form_(bar.form()), handle_(CreatePopupMenu()), id_(form_.commands().add(*this)), caption_(std::move(caption)) {
     attach(bar.handle());
-    form_.menu_changed();
+    if (IsWindowVisible(form_.window())) DrawMenuBar(form_.window());
 }
 
 Menu::Menu(Form& form, std::wstring caption)
-    : form_(form), handle_(CreatePopupMenu()), id_(form_.add_command(*this)), caption_(std::move(caption)) {}
+    : form_(form), handle_(CreatePopupMenu()), id_(form_.commands().add(*this)), caption_(std::move(caption)) {}
 
 Menu::Menu(Menu& parent, std::wstring caption, Ampersands ampersands)
-    : form_(parent.form_), id_(form_.add_command(*this)), caption_(std::move(caption)), ampersands_(ampersands) {
+    : form_(parent.form_), id_(form_.commands().add(*this)), caption_(std::move(caption)), ampersands_(ampersands) {
     parent.become_submenu();
     attach(parent.handle_);
 }
 
 Menu::~Menu() {
-    form_.remove_command(id_);
+    form_.commands().remove(id_);
     const int place = position();
     if (place >= 0) RemoveMenu(container_, static_cast<UINT>(place), MF_BYPOSITION);
     if (handle_) DestroyMenu(handle_);
@@ -131,6 +131,24 @@ void Menu::renew_pictures() {
     // The former ones are in use until here.
     unchecked_bitmap_ = std::move(unchecked);
     checked_bitmap_ = std::move(checked);
+}
+
+void Menu::pop_up(double left, double top, const Menu* default_item) {
+    POINT point{to_pixels(left, form_.dpi()), to_pixels(top, form_.dpi())};
+    ClientToScreen(form_.window(), &point);
+    pop_up_at(point, default_item);
+}
+
+void Menu::pop_up(const Menu* default_item) {
+    POINT point{};
+    GetCursorPos(&point);
+    pop_up_at(point, default_item);
+}
+
+void Menu::pop_up_at(POINT screen, const Menu* default_item) {
+    if (default_item) SetMenuDefaultItem(handle_, static_cast<UINT>(default_item->id()), FALSE);
+    form_.commands().pick(
+        TrackPopupMenu(handle_, TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0, form_.window(), nullptr));
 }
 
 void Menu::pick() {

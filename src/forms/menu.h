@@ -63,6 +63,11 @@ class Menu {
     /// The pictures shown beside the entry, without and with its check mark.
     void set_pictures(const Picture& unchecked, const Picture& checked);
 
+    /// Shows the menu at a position of the form in twips and runs the command the user picks; `default_item` is bold.
+    void pop_up(double left, double top, const Menu* default_item = nullptr);
+    /// The same at the pointer.
+    void pop_up(const Menu* default_item = nullptr);
+
     // For the toolkit.
     HMENU handle() const { return handle_; }
     int id() const { return id_; }
@@ -74,6 +79,7 @@ class Menu {
   private:
     void attach(HMENU parent);
     void become_submenu();
+    void pop_up_at(POINT screen, const Menu* default_item);
     int position() const;
     std::wstring shown_caption() const;
     UINT shown_type() const;

@@ -26,7 +26,11 @@ void Timer::stop() {
 void Timer::set_enabled(bool enabled) {
     if (enabled == enabled_) return;
     enabled_ = enabled;
-    enabled ? start() : stop();
+    if (enabled) {
+        start();
+    } else {
+        stop();
+    }
 }
 
 void Timer::set_interval(int milliseconds) {

@@ -6,12 +6,12 @@
 #include "common/hover_help.h"
 #include "common/session.h"
 #include "controls/button.h"
-#include "controls/combo_box.h"
 #include "controls/graphics.h"
 #include "controls/static_label.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
+#include "output/combo_box.h"
 
 namespace quillomat {
 

@@ -4,11 +4,11 @@
 
 #include "common/hover_help.h"
 #include "controls/button.h"
-#include "controls/link.h"
 #include "controls/static_label.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
+#include "shell/link.h"
 #include "shell/picture_box.h"
 #include "text/author_animation.h"
 

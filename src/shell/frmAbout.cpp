@@ -50,14 +50,14 @@ frmAbout::frmAbout(Application& application, PointerState& pointer, std::int16_t
 void frmAbout::bind() {
     on_load = [this] { Form_Load(); };
     on_mouse_up = [this](const MouseEvent& event) {
-        if (event.button == MouseButton::Right) pop_up(mnuBox);
+        if (event.button == MouseButton::Right) mnuBox.pop_up();
     };
     Label4.on_mouse_down = [this](const MouseEvent&) { emboss(EmbossStyle::PressedIn); };
     Label4.on_mouse_up = [this](const MouseEvent&) { emboss(EmbossStyle::Raised); };
     Label4.on_click = [this] { Label4_Click(); };
     Label2.on_click = [this] { OpenLink(*this, web_site_link()); };
     lblDisclaimer.on_click = [this] {
-        pop_up(mnuMail, lblDisclaimer.left(), lblDisclaimer.top() + lblDisclaimer.height());
+        mnuMail.pop_up(lblDisclaimer.left(), lblDisclaimer.top() + lblDisclaimer.height());
     };
     cmdButton[0].on_click = [this] { close(); };
     cmdButton[1].on_click = [this] { StartSysInfo(); };

@@ -5,13 +5,13 @@
 
 #include "common/hover_help.h"
 #include "controls/graphics.h"
-#include "controls/link.h"
 #include "controls/static_label.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/menu.h"
 #include "forms/timer.h"
 #include "shell/emboss_label.h"
+#include "shell/link.h"
 #include "shell/picture_box.h"
 #include "text/about_animation.h"
 

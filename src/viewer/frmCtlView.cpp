@@ -256,14 +256,14 @@ void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
     if (event.button != MouseButton::Right) return;
     list.select_text(list.item(list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()))));
     menus.mnuSelectedSave.set_enabled(menus.mnuSave.enabled());
-    pop_up(menus.mnuSelected, &menus.mnuSelectedSave);
+    menus.mnuSelected.pop_up(&menus.mnuSelectedSave);
 }
 
 void frmCtlView::pop_up_at_corner(Menu& menu, const Control& control, const Menu* default_item) {
     constexpr double inset = 300;
     const bool in_panel = &control.container() == &Frame2;
-    pop_up(menu, control.left() + (in_panel ? Frame2.left() : 0) + inset,
-           control.top() + (in_panel ? Frame2.top() : 0) + inset, default_item);
+    menu.pop_up(control.left() + (in_panel ? Frame2.left() : 0) + inset,
+                control.top() + (in_panel ? Frame2.top() : 0) + inset, default_item);
 }
 
 }  // namespace quillomat

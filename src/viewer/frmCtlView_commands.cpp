@@ -136,7 +136,7 @@ void frmCtlView::Image2_Click(std::size_t index) {
     Menu& entry = *entries[index];
     const Image& image = Image2[index];
     if (entry.handle()) {
-        pop_up(entry, image.left(), image.top() + image.height());
+        entry.pop_up(image.left(), image.top() + image.height());
     } else {
         entry.pick();
     }

@@ -79,7 +79,7 @@ void frmCtlView::offer_installed_fonts() {
     POINT pointer = session_.pointer.PointerPos;
     ScreenToClient(window(), &pointer);
     constexpr double menu_left = 1750;
-    pop_up(menus.mnuFont, menu_left, to_twips(pointer.y, dpi()));
+    menus.mnuFont.pop_up(menu_left, to_twips(pointer.y, dpi()));
 }
 
 void frmCtlView::collect_fonts() {

@@ -19,7 +19,7 @@ void frmCtlView::bind_search() {
     Text1.on_double_click = [this] { Text1_DblClick(); };
     Text1.on_context_menu = [this] {
         offer_search_for_selection();
-        pop_up(menus.mnuTextBox);
+        menus.mnuTextBox.pop_up();
     };
     menus.mnuTextBoxInGames.on_click = [this] { SearchFor(SearchScope::Names); };
     menus.mnuTextBoxInCheats.on_click = [this] { SearchFor(SearchScope::Cheats); };
@@ -79,7 +79,7 @@ void frmCtlView::List1_Click() {
 }
 
 void frmCtlView::Text1_DblClick() {
-    if (offer_search_for_selection()) pop_up(menus.mnuTextBox);
+    if (offer_search_for_selection()) menus.mnuTextBox.pop_up();
 }
 
 bool frmCtlView::offer_search_for_selection() {

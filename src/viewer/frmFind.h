@@ -1,13 +1,13 @@
 #pragma once
 
 #include "controls/button.h"
-#include "controls/check_box.h"
 #include "controls/frame.h"
 #include "controls/option_button.h"
 #include "controls/static_label.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "text/find_in_text.h"
+#include "viewer/check_box.h"
 
 namespace quillomat {
 

@@ -53,7 +53,7 @@ TEST_F(LeakTest, CommandsAndHoverHelp) {
     Menu* const menus[] = {&viewer.menus.mnuMenu, &viewer.menus.mnuOptions, &viewer.menus.mnuFont,
                            &viewer.menus.mnuSelected, &viewer.menus.mnuTextBox};
     int opened = 0;
-    repeat("menus", 40, [&] { viewer.pop_up(*menus[opened++ % std::size(menus)], 100, 100); });
+    repeat("menus", 40, [&] { menus[opened++ % std::size(menus)]->pop_up(100, 100); });
     KillTimer(nullptr, timer);
     // The pointer goes to and fro between two helped controls.
     int shown = 0;

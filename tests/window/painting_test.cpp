@@ -5,10 +5,8 @@
 
 #include "common/hover_help.h"
 #include "controls/button.h"
-#include "controls/check_box.h"
 #include "controls/frame.h"
 #include "controls/graphics.h"
-#include "controls/link.h"
 #include "controls/list_box.h"
 #include "controls/option_button.h"
 #include "controls/text_box.h"
@@ -17,9 +15,11 @@
 #include "output/folder_list_box.h"
 #include "resources/pictures.h"
 #include "shell/emboss_label.h"
+#include "shell/link.h"
 #include "shell/picture_box.h"
 #include "shown_pixels.h"
 #include "shown_viewer.h"
+#include "viewer/check_box.h"
 // Needs the above.
 #include <commctrl.h>
 

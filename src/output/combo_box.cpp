@@ -1,4 +1,4 @@
-#include "controls/combo_box.h"
+#include "output/combo_box.h"
 
 #include "text/error.h"
 

@@ -1,4 +1,4 @@
-#include "forms/font.h"
+#include "win/font.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "controls/check_box.h"
+#include "viewer/check_box.h"
 
 namespace quillomat {
 

@@ -1,4 +1,4 @@
-#include "controls/link.h"
+#include "shell/link.h"
 
 #include "forms/application.h"
 #include "forms/container.h"

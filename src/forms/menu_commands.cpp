@@ -1,0 +1,41 @@
+#include "forms/menu_commands.h"
+
+#include <algorithm>
+
+#include "forms/events.h"
+#include "forms/menu.h"
+#include "text/error.h"
+
+namespace quillomat {
+
+int MenuCommands::add(Menu& menu) {
+    // A command reaches the window as 16 bits, of which the system has the upper numbers for itself, and entries come
+    // and go: a number is used again when its entry has gone.
+    constexpr int first = 100;
+    constexpr int last = 0xEFFF;
+    if (menus_.size() > last - first) throw Error(ErrorCode::OutOfMemory);
+    while (!menus_.try_emplace(next_id_, &menu).second) {
+        ++next_id_;
+        if (next_id_ > last) next_id_ = first;
+    }
+    return next_id_;
+}
+
+bool MenuCommands::pick(int id) const {
+    const auto command = menus_.find(id);
+    if (command == menus_.end()) return false;
+    command->second->pick();
+    return true;
+}
+
+void MenuCommands::opens(HMENU menu) const {
+    const auto opened = std::find_if(menus_.begin(), menus_.end(),
+                                     [menu](const auto& command) { return command.second->handle() == menu; });
+    if (opened != menus_.end()) raise(opened->second->on_click);
+}
+
+void MenuCommands::renew_pictures() const {
+    for (const auto& [id, menu] : menus_) menu->renew_pictures();
+}
+
+}  // namespace quillomat
