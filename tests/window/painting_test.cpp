@@ -15,6 +15,7 @@
 #include "output/folder_list_box.h"
 #include "resources/pictures.h"
 #include "shell/emboss_label.h"
+#include "shell/frmSplash.h"
 #include "shell/link.h"
 #include "shell/picture_box.h"
 #include "shown_pixels.h"
@@ -65,7 +66,8 @@ struct Board : Form {
     TextBox Text1{*this, {5400, 2850, 2400, 600}};
     FolderListBox Folders{*this, {120, 4500, 3000, 2100}};
     DriveListBox Drives{*this, {3300, 4500, 3000, 315}};
-    TextBox Help{*this, {5400, 3600, 1500, 270}, TextBoxKind::Help};
+    /// Over the list, which is made before it and so lies in front of it at first.
+    TextBox Help{*this, {2760, 3600, 1500, 270}, TextBoxKind::Help};
 };
 
 RECT inside_of(HWND window) {
@@ -233,6 +235,15 @@ TEST_F(PaintingTest, ImagesShapesAndLinesStandWhereTheyShould) {
     EXPECT_GT(ink.bottom - ink.top, box.bottom * 3 / 4);
 }
 
+TEST_F(PaintingTest, TheSplashHasItsBackground) {
+    frmSplash splash(application, [] {});
+    splash.show();
+    const ShownPixels painted(splash.window());
+    std::set<COLORREF> colours;
+    for (LONG x = 0; x < inside_of(splash.window()).right; ++x) colours.insert(painted.at(x, x / 2));
+    EXPECT_GT(colours.size(), 20u);
+}
+
 TEST_F(PaintingTest, AnEmbossedTextStandsBetweenItsEdges) {
     const RECT place = board.Raised.pixels();
     for (const auto style : {EmbossStyle::Raised, EmbossStyle::PressedIn}) {
@@ -271,10 +282,11 @@ TEST_F(PaintingTest, ControlsHaveTheirColoursAndTextsThatCanBeRead) {
     board.List1.set_fore_colour(rgb(0, 0, 255));
     EXPECT_GT(count(board.List1, rgb(192, 192, 255)), 1000);
     EXPECT_GT(count(board.List1, rgb(0, 0, 255)), 20);
-    board.Help.set_font(large);
-    board.Help.set_text(L"Help");
-    board.Help.set_visible(true);
-    EXPECT_GT(count(board.Help, colours::tip_background), 100);
+    ShowTip(board.Button1, board.Help, L"Help");
+    RECT place{};
+    GetWindowRect(board.Help.window(), &place);
+    MapWindowPoints(nullptr, board.window(), reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_GT(shown().count(place, resolve(colours::tip_background)), 100) << "in front of the list";
 }
 
 TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) {
