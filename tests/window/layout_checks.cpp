@@ -68,7 +68,8 @@ std::vector<HWND> controls_on(HWND window) {
     std::vector<HWND> controls;
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const RECT area = area_of(child);
-        if (!(style_of(child) & WS_VISIBLE) || IsRectEmpty(&area) || is_help_box(child)) continue;
+        const bool is_name = kind_of(child) == L"static" && IsRectEmpty(&area);
+        if (!(style_of(child) & WS_VISIBLE) || is_name || is_help_box(child)) continue;
         controls.push_back(child);
         if (button_type(child) != BS_GROUPBOX) continue;
         for (const HWND inner : controls_on(child)) controls.push_back(inner);

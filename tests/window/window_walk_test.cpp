@@ -211,7 +211,9 @@ const State states[] = {
     {"Find", L"frmFind", [](WindowWalk& walk) { walk.viewer().menus.mnuTextBoxFind.pick(); }, nullptr, L"&Find"},
     {"Save", L"frmSave", [](WindowWalk& walk) { walk.viewer().menus.mnuSave.pick(); }, nullptr, L"&OK", State::ByEscape,
      State::Dialog},
-    {"PrintAll", L"frmPrintGames", open_range, nullptr, L"&OK", State::ByEscape, State::Dialog},
+    {"PrintAll", L"frmPrintGames", open_range,
+     [](WindowWalk&) { EXPECT_FALSE(find_form<frmPrintGames>()->Text1.enabled()); }, L"&OK", State::ByEscape,
+     State::Dialog},
     {"PrintRange", L"frmPrintGames", open_range,
      [](WindowWalk&) { find_form<frmPrintGames>()->Option2.set_value(true); }, L"&OK", State::ByEscape, State::Dialog},
     {"MailCheats", L"frmMailCheats", open_mail, nullptr, nullptr, State::ByEscape, State::Dialog},
@@ -284,6 +286,17 @@ void WindowWalk::close(HWND window) {
 
 void WindowWalk::look_at_layout(HWND window) {
     expect_whole_layout(window);
+    if (!(GetWindowLongPtrW(window, GWL_STYLE) & WS_THICKFRAME)) return;
+    SCOPED_TRACE("as small as the user can make it");
+    RECT former{};
+    GetWindowRect(window, &former);
+    RECT pulled{former.left, former.top, former.left + 1, former.top + 1};
+    SendMessageW(window, WM_SIZING, WMSZ_BOTTOMRIGHT, reinterpret_cast<LPARAM>(&pulled));
+    SetWindowPos(window, nullptr, 0, 0, pulled.right - pulled.left, pulled.bottom - pulled.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    expect_whole_layout(window);
+    SetWindowPos(window, nullptr, 0, 0, former.right - former.left, former.bottom - former.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void WindowWalk::look_at_everything(HWND window) {
@@ -293,7 +306,7 @@ void WindowWalk::look_at_everything(HWND window) {
     GetWindowRect(window, &area);
     IntersectRect(&inside, &area, &screen);
     EXPECT_TRUE(EqualRect(&area, &inside)) << "the window does not fit on the screen";
-    expect_whole_layout(window);
+    look_at_layout(window);
     expect_unique_access_keys(window);
     expect_spoken_names(window);
     walk_by_tab(window);
