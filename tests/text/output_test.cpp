@@ -41,45 +41,39 @@ TEST(PrintedLines, NothingOfATextIsLost) {
 
 TEST(LineFlow, LinesGoOnOnFurtherPagesAndNoneIsCut) {
     using Place = LineFlow::Place;
-    constexpr auto same = LineFlow::Page::Same;
-    constexpr auto next = LineFlow::Page::Next;
+    using enum LineFlow::Page;
     LineFlow flow(50, 15);
     flow.set_top(5);
-    for (const Place& expected : {Place{same, 5}, {same, 20}, {same, 35}, {next, 5}, {same, 20}}) {
-        EXPECT_EQ(flow.next(), expected);
+    for (const Place& place : {Place{Same, 5}, {Same, 20}, {Same, 35}, {Next, 5}, {Same, 20}}) {
+        EXPECT_EQ(flow.next(), place);
     }
-
     LineFlow too_small(10, 15);
-    EXPECT_EQ(too_small.next(), (Place{same, 0})) << "a page that holds no line gets one all the same";
-    EXPECT_EQ(too_small.next(), (Place{next, 0}));
+    for (const Place& place : {Place{Same, 0}, {Next, 0}})
+        EXPECT_EQ(too_small.next(), place) << "one line all the same";
 }
 
 TEST(SavedFile, NamesThatNoFileCanHaveSayWhy) {
-    for (const wchar_t* const name : {L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt", L".txt", L"dots....txt",
-                                      L"Console.txt", L"COM0.txt", L"COM10.txt", L"my con.txt"}) {
+    for (const std::wstring& name : {std::wstring(L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt"),
+                                     std::wstring(L"dots....txt"), std::wstring(L"Console.txt"),
+                                     std::wstring(L"COM0.txt"), std::wstring(L"my con.txt"), std::wstring(255, L'x')}) {
         EXPECT_EQ(file_name_fault(name), std::nullopt) << testing::PrintToString(name);
     }
-    EXPECT_EQ(file_name_fault(std::wstring(255, L'x')), std::nullopt);
-
-    for (const wchar_t character : std::wstring_view(L"\\/:?*\"|<>")) {
-        const auto fault = file_name_fault(std::wstring(L"a") + character + L"b.txt");
-        EXPECT_NE(fault.value_or(L"").find(std::wstring(L"the character ") + character), std::wstring::npos);
-    }
-    const std::pair<std::wstring, const wchar_t*> cases[] = {
+    std::vector<std::pair<std::wstring, std::wstring>> cases{
         {std::wstring(L"a\0b.txt", 7), L"control character"},
         {L"name.", L"full stop"},
         {L"name ", L"blank"},
         {L"con.txt", L"device"},
         {L"Aux .txt", L"device"},
-        {L"LPT9.txt", L"device"},
         {L"com\u00B9.txt", L"device"},
         {L"CONOUT$.txt", L"device"},
         {std::wstring(252, L'x') + L".txt", L"256 characters"},
     };
+    for (const wchar_t letter : std::wstring_view(L"\\/:?*\"|<>")) {
+        cases.emplace_back(std::wstring(L"a") + letter, std::wstring(L"the character ") + letter);
+    }
     for (const auto& [name, mentioned] : cases) {
-        const auto fault = file_name_fault(name);
-        ASSERT_TRUE(fault) << testing::PrintToString(name);
-        EXPECT_NE(fault->find(mentioned), std::wstring::npos) << testing::PrintToString(*fault);
+        EXPECT_NE(file_name_fault(name).value_or(L"").find(mentioned), std::wstring::npos)
+            << testing::PrintToString(name);
     }
 }
 
