@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +11,8 @@
 namespace quillomat {
 namespace {
 
+using Names = std::vector<std::wstring>;
+
 const std::wstring marker(20, L'$');
 
 std::wstring name_lines(int count) {
@@ -20,27 +21,23 @@ std::wstring name_lines(int count) {
     return text;
 }
 
-using Names = std::vector<std::wstring>;
-
-std::optional<ErrorCode> load(Catalogue& catalogue, const std::wstring& text) {
+/// The names that are listed, and behind them the error that ends the list, if one does.
+Names listed(const std::function<void(const Catalogue::ListName&)>& list) {
+    Names names;
     try {
-        catalogue.load(text, [](std::wstring_view) {});
-        return std::nullopt;
+        list([&](std::wstring_view name) { names.emplace_back(name); });
     } catch (const Error& error) {
-        return error.code();
+        names.push_back(error.description());
     }
+    return names;
 }
 
-/// The names that are listed again, and behind them "..." for the error of a list that is full.
+Names load(Catalogue& catalogue, const std::wstring& text) {
+    return listed([&](const Catalogue::ListName& list_name) { catalogue.load(text, list_name); });
+}
+
 Names relist(const Catalogue& catalogue) {
-    Names listed;
-    try {
-        catalogue.relist([&](std::wstring_view name) { listed.emplace_back(name); });
-    } catch (const Error& error) {
-        EXPECT_EQ(error.code(), ErrorCode::SubscriptOutOfRange);
-        listed.emplace_back(L"...");
-    }
-    return listed;
+    return listed([&](const Catalogue::ListName& list_name) { catalogue.relist(list_name); });
 }
 
 TEST(Catalogue, FillsTheSlots) {
@@ -55,40 +52,34 @@ TEST(Catalogue, FillsTheSlots) {
         {"lone CRs at the beginning", L"\r\ra\r\r" + marker + L" A\r" + marker + L" B", {L"A", L"B"}, {L"a\r\n", L""}},
         {"a lone LF does not", L"a\n" + marker + L" A\r\n", {}, {L"a\n" + marker + L" A"}},
         {"NUL characters", std::wstring(L"a\0b\r\n", 5) + marker + L" A", {L"A"}, {{L"a\0b", 3}}},
+        {"no room for a name",
+         name_lines(1) + L"read\r\n" + marker + L"\r\n" + name_lines(1),
+         {L"Game 0", L"Invalid procedure call or argument"},
+         {L"", L"read"}},
     };
     for (const auto& [what, text, names, cheats] : cases) {
         Catalogue catalogue{upper_case};
-        Names listed;
-        catalogue.load(text, [&](std::wstring_view name) { listed.emplace_back(name); });
-        EXPECT_EQ(listed, names) << what;
+        EXPECT_EQ(load(catalogue, text), names) << what;
         for (std::size_t slot = 0; slot < cheats.size(); ++slot) {
             EXPECT_EQ(catalogue.cheats(static_cast<int>(slot)), cheats[slot]) << what << ", slot " << slot;
         }
     }
 }
 
-TEST(Catalogue, HoldsAllItsSlotsAndNoLineMore) {
-    const std::pair<std::wstring, std::optional<ErrorCode>> cases[] = {
-        {L"", std::nullopt},
-        {L"\r\n", ErrorCode::SubscriptOutOfRange},
-        {L"x", ErrorCode::SubscriptOutOfRange},
-        {marker, ErrorCode::SubscriptOutOfRange},
-    };
-    for (const auto& [more, error] : cases) {
-        Catalogue catalogue{upper_case};
-        EXPECT_EQ(load(catalogue, name_lines(2501) + more), error);
-        const Names listed = relist(catalogue);
-        EXPECT_EQ(listed.size(), 2502U);
-        EXPECT_EQ(listed[2500] + listed[2501], L"Game 2500...");
-    }
-}
-
-TEST(Catalogue, KeepsWhatItReadBeforeANameLineWithoutRoomForAName) {
+TEST(Catalogue, HoldsAllItsSlotsAndNothingBeyond) {
+    const std::wstring full = L"Subscript out of range";
     Catalogue catalogue{upper_case};
-    EXPECT_EQ(load(catalogue, name_lines(1) + L"read\r\n" + marker + L"\r\n" + name_lines(1)),
-              ErrorCode::InvalidArgument);
-    EXPECT_EQ(relist(catalogue), Names{L"Game 0"});
-    EXPECT_EQ(catalogue.cheats(1), L"read");
+    for (const std::wstring& more : {std::wstring(), std::wstring(L"\r\n"), std::wstring(L"x"), marker}) {
+        EXPECT_EQ(load(catalogue, name_lines(2501) + more).back(), more.empty() ? L"Game 2500" : full);
+        EXPECT_EQ(relist(catalogue).size(), 2502U);
+        EXPECT_EQ(relist(catalogue).back(), full);
+        EXPECT_EQ(catalogue.name(2500), L"Game 2500");
+    }
+    for (const int number : {-1, 2501, 32768}) {
+        EXPECT_THROW(catalogue.name(number), Error);
+        EXPECT_THROW(catalogue.cheats(number), Error);
+        EXPECT_THROW(catalogue.store(number, L"A", L"a"), Error);
+    }
 }
 
 TEST(Catalogue, RelistsUpToTheFirstEmptyNameWithAddedGames) {
@@ -103,15 +94,6 @@ TEST(Catalogue, RelistsUpToTheFirstEmptyNameWithAddedGames) {
     load(catalogue, name_lines(1));
     EXPECT_EQ(relist(catalogue), Names{L"Game 0"});
     EXPECT_EQ(catalogue.cheats(4), L"");
-}
-
-TEST(Catalogue, RefusesNumbersOutsideItsSlots) {
-    Catalogue catalogue{upper_case};
-    for (const int number : {-1, 2501, 32768}) {
-        EXPECT_THROW(catalogue.name(number), Error);
-        EXPECT_THROW(catalogue.cheats(number), Error);
-        EXPECT_THROW(catalogue.store(number, L"A", L"a"), Error);
-    }
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "text/mail_result.h"
 #include "text/paths.h"
 #include "text/print_page.h"
 #include "text/printout.h"
@@ -85,10 +84,6 @@ TEST(Paths, StepsLeadFromTheRootDown) {
         {L"\\\\host", {{L"\\\\host\\", L"\\\\host\\"}}},
     };
     for (const auto& [path, steps] : cases) EXPECT_EQ(folder_steps(path), steps) << testing::PrintToString(path);
-}
-
-TEST(Mail, ANumberNobodyKnowsIsToldSoThatSomebodyCanLookItUp) {
-    EXPECT_NE(mail_failure_description(MailResult{0x80004005}).find(L"2147500037"), std::wstring::npos);
 }
 
 }  // namespace

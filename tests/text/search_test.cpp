@@ -14,11 +14,8 @@
 namespace quillomat {
 namespace {
 
-/// Name and cheats.
-using Game = std::pair<std::wstring, std::wstring>;
-
 struct Library {
-    explicit Library(const std::vector<Game>& games) {
+    explicit Library(const std::vector<std::pair<const wchar_t*, const wchar_t*>>& games) {
         std::wstring text;
         for (const auto& [name, cheats] : games) text += record_text(name, cheats);
         catalogue.load(text, [](std::wstring_view) {});
@@ -84,33 +81,28 @@ TEST(Search, AgreesWithPlainSubstringSearch) {
         const unsigned alphabet = 1 + random() % 4;
         const std::wstring text = letters(random() % 300, alphabet);
         const std::wstring keyword = letters(random() % 12, alphabet);
-        ASSERT_EQ(occurs_in(text, keyword), text.find(keyword) != std::wstring::npos)
-            << testing::PrintToString(keyword);
+        ASSERT_EQ(occurs_in(text, keyword), text.find(keyword) != text.npos) << testing::PrintToString(keyword);
     }
 }
 
 constexpr std::size_t none = std::wstring::npos;
-
-enum class Way { Forwards, Backwards };
+constexpr bool forwards = true;
+constexpr bool backwards = false;
 
 /// A step in `text` from `caret`, when the step before left it at `last`; `none` makes it a first step.
-std::size_t found(const std::wstring& text, const std::wstring& wanted, Way way, std::size_t caret, std::size_t last,
+std::size_t found(const std::wstring& text, const std::wstring& wanted, bool way, std::size_t caret, std::size_t last,
                   std::int16_t match_case) {
-    const FindState state{.gFindString = wanted,
-                          .gFindCase = match_case,
-                          .gFindDirection = way == Way::Forwards,
-                          .gCurPos = last == none ? caret : last,
-                          .gFirstTime = last == none};
+    const FindState state{wanted, match_case, way, last == none ? caret : last, last == none};
     return find_in_text(state, text, caret, upper_case).value_or(none);
 }
 
 TEST(FindInText, StartsFromTheCaretAndMatchesTheCaseOnlyWhenAsked) {
-    EXPECT_EQ(found(L"abab", L"ab", Way::Forwards, 0, 2, 1), 0U) << "the caret has moved";
-    EXPECT_EQ(found(L"ab", L"b", Way::Backwards, 9, none, 1), 1U) << "the text has become shorter";
-    EXPECT_EQ(found(L"ab", L"b", Way::Forwards, 9, none, 1), none);
-    EXPECT_EQ(found(L"x\u00c9", L"\u00e9", Way::Forwards, 0, none, 0), 1U);
-    EXPECT_EQ(found(L"AB..", L"ab", Way::Backwards, 4, none, 0), 0U);
-    EXPECT_EQ(found(L"ABAB", L"ab", Way::Forwards, 0, none, 1), none);
+    EXPECT_EQ(found(L"abab", L"ab", forwards, 0, 2, 1), 0U) << "the caret has moved";
+    EXPECT_EQ(found(L"ab", L"b", backwards, 9, none, 1), 1U) << "the text has become shorter";
+    EXPECT_EQ(found(L"ab", L"b", forwards, 9, none, 1), none);
+    EXPECT_EQ(found(L"x\u00c9", L"\u00e9", forwards, 0, none, 0), 1U);
+    EXPECT_EQ(found(L"AB..", L"ab", backwards, 4, none, 0), 0U);
+    EXPECT_EQ(found(L"ABAB", L"ab", forwards, 0, none, 1), none);
 }
 
 /// Against the library's search for every text of few letters: backwards, a match begins two places before the caret.
@@ -124,8 +116,8 @@ TEST(FindInText, AgreesWithTheRuleEverywhere) {
                     const std::size_t start = caret + (last == caret ? 1 : 0);
                     const std::size_t before = start < 2 ? none : text.rfind(wanted, start - 2);
                     SCOPED_TRACE(testing::PrintToString(text) + " " + std::to_string(caret));
-                    EXPECT_EQ(found(text, wanted, Way::Forwards, caret, last, 1), text.find(wanted, start));
-                    EXPECT_EQ(found(text, wanted, Way::Backwards, caret, last, 1), before);
+                    EXPECT_EQ(found(text, wanted, forwards, caret, last, 1), text.find(wanted, start));
+                    EXPECT_EQ(found(text, wanted, backwards, caret, last, 1), before);
                 }
             }
         }

@@ -39,15 +39,14 @@ TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
 
     std::wstring previous;
     for (const std::wstring& name : names) {
+        SCOPED_TRACE(testing::PrintToString(name));
         std::wstring upper = name;
         upper_case(upper.data(), upper.size());
-        ASSERT_FALSE(name.empty());
+        EXPECT_LT(std::exchange(previous, upper), upper);
         const bool findable = (name[0] >= L'0' && name[0] <= L'9') || (name[0] >= L'A' && name[0] <= L'Z');
-        EXPECT_TRUE(findable) << testing::PrintToString(name) << " is out of the alphabet bar's reach";
-        EXPECT_FALSE(name.ends_with(L' ')) << testing::PrintToString(name);
-        EXPECT_LT(previous, upper);
-        EXPECT_NE(catalogue.cheats(static_cast<int>(&name - names.data())), L"") << testing::PrintToString(name);
-        previous = upper;
+        EXPECT_TRUE(findable) << "out of the alphabet bar's reach";
+        EXPECT_FALSE(name.ends_with(L' '));
+        EXPECT_NE(catalogue.cheats(static_cast<int>(&name - names.data())), L"");
     }
 }
 
