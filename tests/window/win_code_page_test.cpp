@@ -49,22 +49,21 @@ TEST(CodePage, TheFirstCharacterThatIsMissingIsNamed) {
         {utf_8, L"ab\xD83D", L"(U+D83D)"},
     };
     for (const auto& [code_page, text, number] : cases) {
+        std::wstring fault;
         try {
             encode(text, code_page);
-            ADD_FAILURE() << "encoded " << testing::PrintToString(text);
         } catch (const Error& error) {
-            EXPECT_EQ(error.code(), ErrorCode::InvalidArgument);
-            EXPECT_NE(error.description().find(number), std::wstring::npos) << testing::PrintToString(text);
+            fault = error.description();
         }
+        EXPECT_NE(fault.find(number), fault.npos) << testing::PrintToString(text);
     }
 }
 
 TEST(SystemErrors, ACodeOfNoNumberOfOursKeepsTheSystemsSentenceIfThereIsOne) {
-    const Error error = error_from_code(ERROR_INVALID_NAME);
-    EXPECT_EQ(error.code(), ErrorCode::DeviceError);
-    EXPECT_NE(error.description(), L"Device I/O error");
-    for (const DWORD code : {DWORD{ERROR_SUCCESS}, DWORD{0x2FFFFFFF}}) {
-        EXPECT_EQ(error_from_code(code).description(), L"Device I/O error");
+    for (const DWORD code : {DWORD{ERROR_INVALID_NAME}, DWORD{ERROR_SUCCESS}, DWORD{0x2FFFFFFF}}) {
+        const Error error = error_from_code(code);
+        EXPECT_EQ(error.code(), ErrorCode::DeviceError);
+        EXPECT_EQ(error.description() == L"Device I/O error", code != ERROR_INVALID_NAME);
     }
 }
 
