@@ -246,12 +246,14 @@ TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
     expect_message(L"Tick", L"tick");
     timer.on_timer = [&] {
         ++ticks;
+        timer.tick();
         show_message(board.window(), {.text = L"tick", .title = L"Tick"});
         EXPECT_EQ(ticks, 1) << "ticked below its own message";
         timer.set_enabled(false);
     };
     EXPECT_SOON(!timer.enabled());
     timer.on_timer = [] { FAIL() << "ticked after it was stopped"; };
+    timer.tick();
     Timer other(board, 1);
     other.on_timer = [&] { ++ticks; };
     EXPECT_SOON(ticks == 5);

@@ -319,26 +319,26 @@ void WindowWalk::look_at_everything(HWND window) {
 void WindowWalk::walk_by_tab(HWND window) {
     const std::vector<HWND> inputs = inputs_of(window);
     if (inputs.size() < 2) return;
-    const auto stop_after = [this](bool backwards) {
-        const HWND former = GetFocus();
-        backwards ? press_key(VK_TAB, {VK_SHIFT}) : press_key(VK_TAB);
-        EXPECT_SOON(GetFocus() != former) << "Tab leads nowhere";
-        // In a box whose list drops down, the part that is typed into has the focus.
-        return GetAncestor(GetFocus(), GA_PARENT) && Control::from(GetFocus()) ? Control::from(GetFocus())->window()
-                                                                               : GetFocus();
-    };
     std::vector<HWND> walked;
     const auto walk = [&](bool backwards) {
         walked.clear();
-        for (std::size_t i = 0; i < inputs.size() && !HasFailure(); ++i) walked.push_back(stop_after(backwards));
-        EXPECT_TRUE(std::is_permutation(walked.begin(), walked.end(), inputs.begin(), inputs.end()))
-            << "Tab does not reach every input once";
+        for (std::size_t i = 0; i < inputs.size(); ++i) {
+            const HWND former = GetFocus();
+            backwards ? press_key(VK_TAB, {VK_SHIFT}) : press_key(VK_TAB);
+            if (!pump_until([former] { return GetFocus() != former; })) break;
+            // In a box whose list drops down, the part that is typed into has the focus.
+            const Control* control = Control::from(GetFocus());
+            walked.push_back(control ? control->window() : GetFocus());
+        }
+        const bool reached = std::is_permutation(walked.begin(), walked.end(), inputs.begin(), inputs.end());
+        EXPECT_TRUE(reached) << "Tab does not reach every input once";
+        return reached;
     };
-    walk(true);
+    if (!walk(true)) return;
     // Both walks end where they began.
     std::reverse(walked.begin(), std::prev(walked.end()));
     const std::vector<HWND> reversed = walked;
-    walk(false);
+    if (!walk(false)) return;
     EXPECT_EQ(walked, reversed) << "Shift and Tab do not walk the other way";
     expect_reading_order(walked);
 }
