@@ -36,7 +36,8 @@ void ListBox::clear() {
 }
 
 void ListBox::add(std::wstring_view text) {
-    if (send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
+    // Past the handlers, which have nothing to do with it: thousands are added at once.
+    if (default_message(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
         throw Error(ErrorCode::OutOfMemory);
     }
 }

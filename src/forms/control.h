@@ -102,7 +102,7 @@ class Control : public Item {
     void apply_enabled() override;
 
   private:
-    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR, DWORD_PTR);
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     void create_window(std::wstring_view text, DWORD style);
     void destroy_window();
     void apply_font();
@@ -111,6 +111,7 @@ class Control : public Item {
     const wchar_t* system_class_;
     DWORD extended_style_;
     HWND window_ = nullptr;
+    WNDPROC system_procedure_ = nullptr;
     std::optional<Colour> back_colour_;
     Colour fore_colour_ = colours::window_text;
     FontSpec font_;

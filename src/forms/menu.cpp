@@ -4,8 +4,27 @@
 
 #include "forms/form.h"
 #include "win/errors.h"
+#include "win/gdi.h"
 
 namespace quillomat {
+namespace {
+
+/// The picture as Windows blends it onto a menu entry.
+GdiObject<HBITMAP> menu_bitmap(const Picture& picture, int pixels) {
+    GdiObject<HBITMAP> bitmap = picture.bitmap(pixels);
+    // Wine: menus copy bitmaps without blending them, so the menu's colour must be behind the picture.
+    const bool is_copied = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    if (is_copied && bitmap) {
+        const MemoryCanvas memory(nullptr);
+        const Selection selected(memory.get(), bitmap.get());
+        const RECT area{0, 0, pixels, pixels};
+        fill(memory.get(), area, colours::menu);
+        picture.draw(memory.get(), area);
+    }
+    return bitmap;
+}
+
+}  // namespace
 
 std::wstring without_access_keys(std::wstring_view text) {
     std::wstring caption;
@@ -125,8 +144,8 @@ void Menu::set_pictures(const Picture& unchecked, const Picture& checked) {
 void Menu::renew_pictures() {
     if (!unchecked_picture_ && !checked_picture_) return;
     const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(form_.dpi()));
-    auto unchecked = unchecked_picture_.bitmap(size);
-    auto checked = checked_picture_.bitmap(size);
+    auto unchecked = menu_bitmap(unchecked_picture_, size);
+    auto checked = menu_bitmap(checked_picture_, size);
     SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked.get(), checked.get());
     // The former ones are in use until here.
     unchecked_bitmap_ = std::move(unchecked);
