@@ -52,9 +52,9 @@ TEST(LineFlow, LinesGoOnOnFurtherPagesAndNoneIsCut) {
 }
 
 TEST(SavedFile, NamesThatNoFileCanHaveSayWhy) {
-    for (const std::wstring& name : {std::wstring(L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt"),
-                                     std::wstring(L"dots....txt"), std::wstring(L"Console.txt"),
-                                     std::wstring(L"COM0.txt"), std::wstring(L"my con.txt"), std::wstring(255, L'x')}) {
+    for (const std::wstring& name :
+         std::initializer_list<std::wstring>{L"a b & c, (d) [e] {f} 'g' ~#%+=@!^`$;.txt", L"dots....txt",
+                                             L"Console.txt", L"COM0.txt", L"my con.txt", std::wstring(255, L'x')}) {
         EXPECT_EQ(file_name_fault(name), std::nullopt) << testing::PrintToString(name);
     }
     std::vector<std::pair<std::wstring, std::wstring>> cases{

@@ -42,7 +42,7 @@ TEST_F(AddGameTest, AppendsExactlyTheRecordAndShowsTheGameHoweverLong) {
     EXPECT_TRUE(bytes("Cheats.dat") == database + encode(cheats + L"\r\n$$$$$$$$$$$$$$$$$$$$ " + name + L"\r\n"));
 }
 
-TEST_F(AddGameTest, ANameThatExistsIsShownAndAnotherOneProposed) {
+TEST_F(AddGameTest, ARefusalIsExplainedAndLeavesTheFileAsItWasAndWhatWasTyped) {
     open();
     expect_message(L"beta already exists!",
                    L"The cheat codes for beta already exist. Try using a different name.\r\n(You can use the name I "
@@ -52,6 +52,21 @@ TEST_F(AddGameTest, ANameThatExistsIsShownAndAnotherOneProposed) {
     EXPECT_EQ(window->Text1.selected_text(), L"beta (Custom)");
     EXPECT_TRUE(window->Text1.has_focus());
     expect_unchanged(2);
+    // What the code page lacks is refused before the game is anywhere.
+    expect_message(L"Error!",
+                   L"The character \"\xD83D\" (U+D83D) cannot be written to a text file in this system's "
+                   L"character set. Please replace it and try again.");
+    add(L"Half", L"a pair \xD83D");
+    EXPECT_EQ(window->Text2.text(), L"a pair \xD83D");
+    expect_unchanged(2);
+    const std::filesystem::path file = folder.path() / "Cheats.dat";
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
+    expect_added(L"First");
+    expect_message(L"Error!", L"Permission denied");
+    add(L"First", L"text");
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+    EXPECT_EQ(window->Text2.text(), L"text");
+    expect_unchanged(3);  // what was done stays done
 }
 
 TEST_F(AddGameTest, TheHelpOfTheDisabledButtonStaysOnlyWhileThePointerIsOnIt) {
@@ -72,25 +87,6 @@ TEST_F(AddGameTest, TheLimitIsToldAndNothingIsStored) {
     EXPECT_SOON(!window);
     EXPECT_EQ(bytes("Cheats.dat"), full);
     EXPECT_EQ(viewer->List2.count(), Catalogue::slot_count);
-}
-
-TEST_F(AddGameTest, AFailureLeavesTheFileAsItWasAndWhatWasTyped) {
-    const std::filesystem::path file = folder.path() / "Cheats.dat";
-    open();
-    // What the code page lacks is refused before the game is anywhere.
-    expect_message(L"Error!",
-                   L"The character \"\xD83D\" (U+D83D) cannot be written to a text file in this system's "
-                   L"character set. Please replace it and try again.");
-    add(L"Half", L"a pair \xD83D");
-    EXPECT_EQ(window->Text2.text(), L"a pair \xD83D");
-    expect_unchanged(2);
-    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-    expect_added(L"First");
-    expect_message(L"Error!", L"Permission denied");
-    add(L"First", L"text");
-    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_EQ(window->Text2.text(), L"text");
-    expect_unchanged(3);  // what was done stays done
 }
 
 TEST_F(AddGameTest, KeysLeadThroughTheWindow) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "text/error.h"
@@ -28,7 +27,7 @@ class MetafilePrinter final : public PrintDevice {
     void start_document(const std::wstring& name) override { printed_.document = name; }
     HDC start_page() override { return canvas_ = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr); }
     void end_page() override {
-        const HENHMETAFILE metafile = CloseEnhMetaFile(std::exchange(canvas_, nullptr));
+        const HENHMETAFILE metafile = CloseEnhMetaFile(canvas_);
         std::vector<std::wstring> page;
         EnumEnhMetaFile(nullptr, metafile, read_record, &page, nullptr);
         DeleteEnhMetaFile(metafile);
@@ -36,10 +35,7 @@ class MetafilePrinter final : public PrintDevice {
         printed_.pages.push_back(std::move(page));
     }
     void end_document() override { ++printed_.documents_ended; }
-    void abort_document() noexcept override {
-        if (canvas_) DeleteEnhMetaFile(CloseEnhMetaFile(std::exchange(canvas_, nullptr)));
-        ++printed_.documents_aborted;
-    }
+    void abort_document() noexcept override { ++printed_.documents_aborted; }
 
   private:
     static int CALLBACK read_record(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM page) {

@@ -42,16 +42,12 @@ class FilePrinter {
 
   private:
     static constexpr char description[] =
-        "*PPD-Adobe: \"4.3\"\n*LanguageLevel: \"3\"\n*ColorDevice: False\n*TTRasterizer: Type42\n"
-        "*DefaultResolution: 600dpi\n*DefaultPageSize: A4\n*PageSize A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
-        "*DefaultPageRegion: A4\n*PageRegion A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
-        "*DefaultImageableArea: A4\n*ImageableArea A4: \"18 18 577 824\"\n"
-        "*DefaultPaperDimension: A4\n*PaperDimension A4: \"595 842\"\n";
+        "*PPD-Adobe: \"4.3\"\n*TTRasterizer: Type42\n*DefaultResolution: 600dpi\n"
+        "*DefaultPageSize: A4\n*PageSize A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
+        "*ImageableArea A4: \"18 18 577 824\"\n*PaperDimension A4: \"595 842\"\n";
 
     HANDLE printer_ = nullptr;
 };
-
-using Pages = std::vector<std::vector<std::wstring>>;
 
 struct PrintGamesTest : ShownViewerTest {
     void open(int games) {
@@ -87,15 +83,11 @@ TEST_F(PrintGamesTest, ARangeIsTypedCheckedPrintedAndRemembered) {
     for (int times = 0; times < 2; ++times) press_key(VK_RETURN);
     ASSERT_SOON(!form) << "by way of the button";
     const std::wstring last_line = L"Made with Quillomat - www.tobferrand.example";
-    EXPECT_EQ(printed.pages, (Pages{{L"List of Games", L"", L"Game 12", L"Game 13", L"", last_line}}));
+    EXPECT_EQ(printed.pages,
+              (decltype(printed.pages){{L"List of Games", L"", L"Game 12", L"Game 13", L"", last_line}}));
 
     open(20);
     EXPECT_EQ(form->Text1.text() + form->Text2.text(), L"1213");
-    form->Text2.set_text(L"70000");
-    press_key(VK_ESCAPE);
-    ASSERT_SOON(!form);
-    open(20);
-    EXPECT_EQ(form->Text2.text(), L"21") << "what is no number of a game gives way to the default";
 }
 
 TEST_F(PrintGamesTest, TheListGoesThroughThePrintingSystemOrTheUserIsToldWhyNot) {

@@ -31,10 +31,6 @@ struct SaveTest : ShownViewerTest {
                            L" already exist in this directory.\r\nDo you want to overwrite them?",
                        answer);
     }
-    void select(ListBox& list, const wchar_t* name) {
-        list.select_text(name);
-        ASSERT_EQ(list.text(), name);
-    }
     void double_click(const ListBox& list) {
         SendMessageW(window->window(), WM_COMMAND, MAKEWPARAM(0, LBN_DBLCLK), reinterpret_cast<LPARAM>(list.window()));
     }
@@ -60,7 +56,7 @@ TEST_F(SaveTest, EnterWritesExactlyTheNameAndTheCheats) {
 TEST_F(SaveTest, AsksBeforeOverwriting) {
     write("place/old.txt", "a much longer text than the new one, so that a rest of it would be seen");
     open();
-    select(window->File1, L"old.txt");
+    window->File1.select_text(L"old.txt");
     expect_question(L"old.txt", IDCANCEL);
     window->Command1.click();
     EXPECT_FALSE(window->closed());
@@ -104,12 +100,12 @@ TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {
     const auto steps = folder_steps(place.wstring());
     EXPECT_EQ(window->Dir1.count(), static_cast<int>(steps.size()) + 1) << "the one folder that is not hidden";
 
-    select(window->Dir1, L"inner");
+    window->Dir1.select_text(L"inner");
     EXPECT_EQ(window->Dir1.path(), place.wstring()) << "selecting opens nothing";
     double_click(window->Dir1);
     EXPECT_EQ(window->Label3.caption(), (place / "inner").wstring());
     window->Dir1.set_focus();
-    select(window->Dir1, L"deep");
+    window->Dir1.select_text(L"deep");
     EXPECT_EQ(window->default_button(), nullptr) << "Enter opens the folder";
     press_key(VK_RETURN);
     EXPECT_SOON(window->Dir1.path().ends_with(L"inner\\deep"));
@@ -119,7 +115,7 @@ TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {
 
     window->Dir1.set_path(place.wstring());
     std::filesystem::remove_all(place / "inner");
-    select(window->Dir1, L"inner");
+    window->Dir1.select_text(L"inner");
     expect_message(L"Quillomat", L"Path not found");
     press_key(VK_RETURN);
     pump();
@@ -139,18 +135,13 @@ TEST_F(SaveTest, AMinimisedDialogComesBackWhenTheViewerIsCalledFor) {
     dialog.show_modal(nullptr);
 }
 
-/// A drive whose disk is gone, while it lives.
-struct GoneDrive {
-    GoneDrive() { EXPECT_TRUE(DefineDosDeviceW(DDD_RAW_TARGET_PATH, L"Q:", L"\\??\\Z:\\no such folder at all")); }
-    ~GoneDrive() { DefineDosDeviceW(DDD_REMOVE_DEFINITION, L"Q:", nullptr); }
-};
-
 TEST_F(SaveTest, ADriveThatIsGoneIsToldAndNotChosen) {
-    const GoneDrive gone;
+    ASSERT_TRUE(DefineDosDeviceW(DDD_RAW_TARGET_PATH, L"Q:", L"\\??\\Z:\\no such folder at all"));
     open();
     const std::wstring own = window->Drive1.drive();
     expect_message(L"Error!", L"Path not found");
     window->Drive1.select_drive_of(L"Q:\\");
+    DefineDosDeviceW(DDD_REMOVE_DEFINITION, L"Q:", nullptr);
     EXPECT_EQ(window->Drive1.drive(), own);
     EXPECT_EQ(window->Dir1.path(), place.wstring());
     const wchar_t* const other = own == L"C:\\" ? L"Z:\\" : L"C:\\";
