@@ -132,13 +132,9 @@ TEST_F(Package, IsInstalledAndGoesWithoutATraceWhenNothingWasChanged) {
     expect_files(shipped_database);
     EXPECT_TRUE(holds(shortcut, file(L"Quillomat.exe").string()));
     EXPECT_TRUE(holds(shortcut, _wgetenv(L"USERPROFILE") + L"\\Documents"s)) << "the folder the program starts in";
-    const std::pair<const wchar_t*, std::wstring> registered[] = {
-        {L"DisplayName", product::title},       {L"DisplayVersion", product::release},
-        {L"Publisher", product::author},        {L"DisplayIcon", file(L"Quillomat.exe").wstring()},
-        {L"InstallLocation", folder.wstring()}, {L"UninstallString", L"\"" + file(L"Uninstall.exe").wstring() + L"\""},
-    };
-    for (const auto& [name, text] : registered) EXPECT_EQ(user_text(registered_key, name), text);
-    expect_runs(folder);
+    EXPECT_EQ(user_text(registered_key, L"DisplayVersion"), product::release);
+    EXPECT_EQ(user_text(registered_key, L"DisplayIcon"), file(L"Quillomat.exe").wstring());
+    EXPECT_EQ(user_text(registered_key, L"UninstallString"), L"\"" + file(L"Uninstall.exe").wstring() + L"\"");
 
     append(file(L"Fonts.dat"), "Arial\r\n");
     ASSERT_EQ(install(L"newer"), 0);
@@ -203,16 +199,6 @@ TEST_F(Package, KnowsThePlayersGamesFromThoseItInstalled) {
     ASSERT_EQ(install(L"newer"), 0);
     // Nothing tells any more what was installed.
     expect_files(shipped_database + added_game, {L"Cheats.new.dat"});
-}
-
-TEST_F(Package, KeepsADatabaseTooLargeToLookInto) {
-    constexpr auto too_large = std::uintmax_t{5} << 30;
-    fs::create_directories(folder);
-    append(database, added_game);
-    fs::resize_file(database, too_large);
-    EXPECT_EQ(install(L"now"), 0);
-    EXPECT_EQ(fs::file_size(database), too_large);
-    EXPECT_EQ(bytes_of(file(L"Cheats.new.dat")), shipped_database);
 }
 
 TEST_F(Package, ChangesNothingWhileTheProgramRuns) {

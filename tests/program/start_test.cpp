@@ -26,32 +26,18 @@ void expect_start(Program& program, const std::wstring& message, const Games& ga
 }
 
 TEST(Start, ShowsWhatItCanReadAndChangesNothing) {
-    const std::tuple<std::string, std::wstring, Games> databases[] = {
-        {record(std::string("Gru\xDF\0\x80", 6), "\xC9t\xE9"), L"", {L"\u00C9t\u00E9"}},
-        {record(std::string(50 << 20, 'x'), "Long"), L"", {L"Long"}},
-        {record("a", "Doom") + "$$$$$$$$$$$$$$$$$$$$\r\n" + record("b", "Quake"),
-         L"Error!: Invalid procedure call or argument",
-         {L"Doom"}},
+    Program program;
+    expect_start(program, L"Error!: File not found\r\n" + program.database().wstring(), {});
+    EXPECT_FALSE(std::filesystem::exists(program.database())) << "reading makes no file";
+    const std::pair<std::string, std::wstring> games[] = {
+        {record(std::string("Gru\xDF\0\x80", 6), "\xC9t\xE9"), L"\u00C9t\u00E9"},
+        {record(std::string(50 << 20, 'x'), "Long"), L"Long"},
     };
-    for (const auto& [bytes, message, games] : databases) {
-        Program program;
+    for (const auto& [bytes, game] : games) {
         program.write_database(bytes);
-        expect_start(program, message, games);
+        expect_start(program, L"", {game});
         EXPECT_TRUE(program.read_database() == bytes);
     }
-}
-
-TEST(Start, WithADatabaseThatIsMissingOrLocked) {
-    Program program;
-    const std::wstring path = L"\r\n" + program.database().wstring();
-    expect_start(program, L"Error!: File not found" + path, {});
-    EXPECT_FALSE(std::filesystem::exists(program.database())) << "reading makes no file";
-    program.write_database(record("a", "Doom"));
-    const HANDLE lock = CreateFileW(program.database().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(lock, INVALID_HANDLE_VALUE);
-    expect_start(program, L"Error!: Permission denied" + path, {});
-    CloseHandle(lock);
-    EXPECT_EQ(program.read_database(), record("a", "Doom"));
 }
 
 TEST(Start, WithAQuestionShowsTheViewerWithItsAnswer) {

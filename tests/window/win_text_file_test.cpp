@@ -29,12 +29,9 @@ std::optional<ErrorCode> error_of(const std::function<void()>& something) {
 /// A folder of its own for every test, where files are looked at byte by byte.
 struct TextFile : testing::Test {
     std::wstring path(const wchar_t* name) const { return (folder_.path() / name).wstring(); }
-    std::wstring make(const wchar_t* name, std::string_view bytes) const {
-        folder_.write(name, bytes);
-        return path(name);
-    }
 
     const TemporaryFolder folder_;
+    const std::wstring file_ = path(L"a.txt");
     TextFileSlot slot_;
 };
 
@@ -50,22 +47,22 @@ INSTANTIATE_TEST_SUITE_P(AppendAndReplace, TextFileWriting,
 
 TEST_F(TextFile, ReadsTheWholeFileAndKeepsNobodyFromWriting) {
     const std::string line(100'000, 'x');
-    const std::wstring file = make(L"a.txt", line + "\r\n\0end"s);
-    slot_.open_for_reading(file);
+    folder_.write(file_, line + "\r\n\0end"s);
+    slot_.open_for_reading(file_);
     EXPECT_EQ(slot_.read_all(), std::wstring(100'000, L'x') + L"\r\n\0end"s);
-    folder_.write(L"a.txt", "new");
-    EXPECT_EQ(folder_.read(file), "new");
+    folder_.write(file_, "new");
+    EXPECT_EQ(folder_.read(file_), "new");
     // Only the one slot is taken, not the file.
-    EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), ErrorCode::FileAlreadyOpen);
+    EXPECT_EQ(error_of([&] { slot_.open_for_reading(file_); }), ErrorCode::FileAlreadyOpen);
 }
 
 TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
-    const std::wstring locked = make(L"locked.txt", "x");
-    const FileHandle lock(CreateFileW(locked.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    folder_.write(file_, "x");
+    const FileHandle lock(CreateFileW(file_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     const std::pair<std::wstring, ErrorCode> cases[] = {
         {path(L"none.txt"), ErrorCode::FileNotFound},
         {folder_.path().wstring(), ErrorCode::PermissionDenied},
-        {locked, ErrorCode::PermissionDenied},
+        {file_, ErrorCode::PermissionDenied},
     };
     for (const auto& [file, code] : cases) {
         EXPECT_EQ(error_of([&] { slot_.open_for_reading(file); }), code) << testing::PrintToString(file);
@@ -74,68 +71,67 @@ TEST_F(TextFile, WhatCannotBeOpenedSaysWhyAndLeavesTheSlotFree) {
 }
 
 TEST_F(TextFile, AppendingWritesInPlaceAndReplacingDoesNot) {
-    const std::wstring file = make(L"a.txt", "no line end");
-    std::filesystem::create_hard_link(file, path(L"link.txt"));
-    slot_.append(file, L" here\r\n");
-    slot_.append(file, L"");
-    slot_.append(file, L"last\r\n");
+    folder_.write(file_, "no line end");
+    std::filesystem::create_hard_link(file_, path(L"link.txt"));
+    slot_.append(file_, L" here\r\n");
+    slot_.append(file_, L"");
+    slot_.append(file_, L"last\r\n");
     EXPECT_EQ(folder_.read(L"link.txt"), "no line end here\r\nlast\r\n");
     TextFileSlot reader;
-    reader.open_for_reading(file);
-    slot_.replace(file, L"new\r\n");
-    EXPECT_EQ(folder_.read(file), "new\r\n");
-    slot_.replace(file, L"");
-    EXPECT_EQ(folder_.read(file), "");
+    reader.open_for_reading(file_);
+    slot_.replace(file_, L"new\r\n");
+    EXPECT_EQ(folder_.read(file_), "new\r\n");
+    slot_.replace(file_, L"");
+    EXPECT_EQ(folder_.read(file_), "");
     EXPECT_EQ(reader.read_all(), L"no line end here\r\nlast\r\n") << "never half of the old and half of the new";
 }
 
 TEST_P(TextFileWriting, MakesItsFileAndTouchesNoOther) {
-    const std::wstring file = path(L"a.txt");
     EXPECT_EQ(write(path(L"none\\a.txt"), L"old"), ErrorCode::PathNotFound);
     EXPECT_FALSE(slot_.is_open());
     const std::wstring taken = L"~quillomat-" + std::to_wstring(GetCurrentProcessId()) + L"-1.tmp";
     folder_.write(taken, "the user's");
-    EXPECT_EQ(write(file, L"new"), std::nullopt);
+    EXPECT_EQ(write(file_, L"new"), std::nullopt);
     EXPECT_EQ(folder_.read(taken), "the user's");
-    EXPECT_EQ(folder_.read(file), "new");
+    EXPECT_EQ(folder_.read(file_), "new");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 2);
 }
 
 TEST_P(TextFileWriting, WaitsForAnotherProgramThatWrites) {
-    const std::wstring file = make(L"a.txt", "old");
-    FileHandle other(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+    folder_.write(file_, "old");
+    FileHandle other(CreateFileW(file_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
     std::thread closer([&] {
         Sleep(50);
         other.close();
     });
-    EXPECT_EQ(write(file, L" new"), std::nullopt);
+    EXPECT_EQ(write(file_, L" new"), std::nullopt);
     closer.join();
-    EXPECT_TRUE(folder_.read(file).ends_with(" new"));
+    EXPECT_TRUE(folder_.read(file_).ends_with(" new"));
 }
 
 TEST_P(TextFileWriting, AFailureChangesNothing) {
-    const std::wstring file = make(L"a.txt", "old\r\n");
+    folder_.write(file_, "old\r\n");
     const auto expect_refused = [&](const std::wstring& path, const wchar_t* text, ErrorCode code) {
         EXPECT_EQ(write(path, text), code);
-        EXPECT_EQ(folder_.read(file), "old\r\n");
+        EXPECT_EQ(folder_.read(file_), "old\r\n");
         // Wine: ReplaceFile leaves an empty file of its own when it fails.
         const auto is_ours = [](const auto& entry) { return !entry.path().filename().wstring().starts_with(L"rf"); };
         EXPECT_EQ(std::ranges::count_if(std::filesystem::directory_iterator(folder_.path()), is_ours), 1);
     };
 
     // Half a pair is a character that no single-byte code page has, and no UTF-8 text either.
-    expect_refused(file, L"half \xD83D", ErrorCode::InvalidArgument);
+    expect_refused(file_, L"half \xD83D", ErrorCode::InvalidArgument);
     expect_refused(path(L"new.txt"), L"half \xD83D", ErrorCode::InvalidArgument);
     expect_refused(folder_.path().wstring(), L"new", ErrorCode::PermissionDenied);
     {
         // Another program that lets nobody write.
         const FileHandle lock(
-            CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-        expect_refused(file, L"new", ErrorCode::PermissionDenied);
+            CreateFileW(file_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        expect_refused(file_, L"new", ErrorCode::PermissionDenied);
     }
     EXPECT_FALSE(slot_.is_open());
-    slot_.open_for_reading(file);
-    expect_refused(file, L"new", ErrorCode::FileAlreadyOpen);
+    slot_.open_for_reading(file_);
+    expect_refused(file_, L"new", ErrorCode::FileAlreadyOpen);
     EXPECT_TRUE(slot_.is_open());
 }
 
