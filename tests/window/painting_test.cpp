@@ -56,7 +56,8 @@ struct Board : Form {
     Label Highlight{*this, {}, {6000, 120, 3000, 600}};
     Label Raised{*this, L"Raised", {6000, 120, 3000, 600}};
     Button Button1{*this, L"Button", {120, 1200, 2400, 750}};
-    Button Button2{*this, L"Other", {2700, 1200, 2400, 750}};
+    /// Without a caption, so that only its face tells whether it is pressed.
+    Button Button2{*this, {}, {2700, 1200, 2400, 750}};
     OptionButton Option1{*this, L"Option", {120, 2100, 2400, 600}, OptionButton::Group::Starts};
     CheckBox Check1{*this, L"Check", {2700, 2100, 2400, 600}};
     Link Link1{*this, L"Link", 5400, 2100};
@@ -127,7 +128,7 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
         {"hidden image", form, [this](bool on) { board.Image1.set_visible(!on); }},
         {"hidden line", form, [this](bool on) { board.Line1.set_visible(!on); }},
         {"disabled button", board.Button1.window(), enable(board.Button1)},
-        {"pressed button", board.Button1.window(), button_message(board.Button1, BM_SETSTATE, BM_SETSTATE)},
+        {"pressed button", board.Button2.window(), button_message(board.Button2, BM_SETSTATE, BM_SETSTATE)},
         {"hovered button", board.Button1.window(), button_message(board.Button1, WM_MOUSEMOVE, WM_MOUSELEAVE)},
         {"default button", board.Button1.window(),
          [this](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
