@@ -71,19 +71,12 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     EXPECT_EQ(viewer->List1.back_colour(), colours::white);
 }
 
-TEST_F(ViewerTest, AFailedLoadShowsWhyAndKeepsWhatWasRead) {
+TEST_F(ViewerTest, AFailedLoadShowsWhyAndOffersNothing) {
     std::filesystem::remove(folder.path() / "Cheats.dat");
     expect_message(L"Error!", L"File not found\r\n" + (folder.path() / "Cheats.dat").wstring());
     open_viewer();
     EXPECT_FALSE(viewer->Shape1.visible() || viewer->Label1[0].visible()) << "what has no meaning yet";
     EXPECT_FALSE(viewer->Image2[1].enabled() || viewer->menus.mnuSave.enabled() || viewer->Command1.enabled());
-    close_viewer();
-    session.viewer = {};
-    expect_message(L"Error!", L"Invalid procedure call or argument");
-    open_viewer("a\r\n$$$$$$$$$$$$$$$$$$$$ One\r\n$$$$$$$$$$$$$$$$$$$$\r\n");
-    EXPECT_TRUE(session.text_file.is_open()) << "file number 1 stays open";
-    viewer->List2.select_index(0);
-    EXPECT_EQ(viewer->caption(), L"One") << "what was read can be used";
 }
 
 TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
@@ -260,11 +253,8 @@ TEST_F(ViewerTest, TheCheatTextCanBeMadeLarger) {
     EXPECT_SOON(points() == usual);
 }
 
-TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised) {
+TEST_F(ViewerTest, NamesTheResultWhileMinimisedAndIsLaidOutAnewAfterwards) {
     open_viewer();
-    SetWindowPos(viewer->window(), nullptr, 0, 0, 100, 100, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_NEAR(viewer->height(), 5340, 8);
-    EXPECT_NEAR(viewer->width(), 5970, 8);
     viewer->List2.select_index(0);
     viewer->List1.add(L"Result");
     SendMessageW(viewer->List1.window(), LB_SETCURSEL, 0, 0);
@@ -276,30 +266,6 @@ TEST_F(ViewerTest, NeverGetsSmallerThanItsContentAndNamesTheResultWhileMinimised
     viewer->set_window_state(WindowState::Normal);
     EXPECT_SOON(viewer->caption() == L"Alpha");
     EXPECT_DOUBLE_EQ(viewer->Text1.left(), to_twips(to_pixels(2680, 120), 120)) << "and not as 96 dpi has rounded it";
-}
-
-TEST_F(ViewerTest, AScreenBelowTheSmallestSizeIsMadeUseOf) {
-    // At this resolution the smallest sizes are larger than any window the system allows on the tests' screen.
-    application.force_dpi(480);
-    open_viewer();
-    EXPECT_NEAR(viewer->Text1.width(), viewer->width() - 2980, 15);
-    EXPECT_NEAR(viewer->List2.height(), viewer->height() - 2115, 15);
-    EXPECT_NEAR(viewer->List1.top() + viewer->List1.height(), viewer->Frame2.height(), 15);
-}
-
-TEST_F(ViewerTest, OpensUsableWhateverTheSettingsSay) {
-    const std::pair<const wchar_t*, const wchar_t*> corrupt[] = {
-        {L"FrmCtlViewHeight", L"-5000"},
-        {L"FrmCtlViewWidth", L"32767"},
-        {L"FrmCtlViewWindowState", L"7"},
-        {L"Font", L"No Such Font At All With A Very Long Name Indeed"},
-        {L"DefaultGame", L"No such game"}};
-    for (const auto& [key, text] : corrupt) session.settings.write(Setting<std::wstring_view>{key, L""}, text);
-    open_viewer();
-    RECT area{};
-    GetWindowRect(viewer->window(), &area);
-    EXPECT_TRUE(area.left >= 0 && area.right <= GetSystemMetrics(SM_CXSCREEN) && area.bottom - area.top >= 300);
-    EXPECT_TRUE(IsWindowVisible(viewer->window()) && !IsIconic(viewer->window()));
 }
 
 }  // namespace
