@@ -135,6 +135,7 @@ TEST_F(MailCheatsTest, ARefusalAtAnyCallLeavesEverythingAsItWasTyped) {
         mail_program.refused = function;
         mail_program.refusal = answer;
         expect_answer(why, calls);
+        ASSERT_TRUE(form);
         expect_filled_in();
         EXPECT_EQ(form->List1.picked_indexes(), (std::vector{3, 7, 11}));
         EXPECT_FALSE(form->Label6.visible()) << "nothing waits any more";

@@ -82,7 +82,7 @@ TEST_F(ClipboardTest, WindowsRepaintWhileAnotherProgramKeepsItOpen) {
     std::unique_ptr<Form> form;
     open_in(form, FormDesign{.name = L"frmTest", .caption = L"", .width = 3000, .height = 3000});
     std::promise<void> opened;
-    std::thread other_program([&] {
+    std::jthread other_program([&] {
         const HWND window = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
         EXPECT_TRUE(OpenClipboard(window));
         opened.set_value();
