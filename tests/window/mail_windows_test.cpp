@@ -185,6 +185,7 @@ TEST_F(MailCheatsTest, WindowsRepaintTakeNoInputAndMayCloseWhileTheMailProgramIs
         if (dialog.shown() && mail_program.calls.empty()) press(dialog.Command1);
     };
     mail_program.while_sending = [&](HWND owner) {
+        ASSERT_TRUE(is_repainted(owner)) << "the calls below would wait for ever";
         EnableWindow(owner, TRUE);  // as mail programs do behind their dialogs
         PostMessageW(dialog.Command1.window(), BM_CLICK, 0, 0);
         PostMessageW(dialog.Text1.window(), WM_CHAR, 'x', 1);
