@@ -48,7 +48,7 @@ struct FontsTest : ShownViewerTest {
         press_in_menus(std::move(keys_in_menu), [this] { collect(); });
     }
     /// As a message, like the user's: while it is handled, the viewer is not destroyed.
-    void collect() {
+    void collect() const {
         SendMessageW(viewer->window(), WM_COMMAND, static_cast<WPARAM>(viewer->menus.mnuFontName[0]->id()), 0);
     }
     static frmStatus* status() { return find_form<frmStatus>(); }
@@ -66,52 +66,45 @@ struct FontsTest : ShownViewerTest {
 };
 
 TEST_F(FontsTest, CollectsAllButTheFirstSortedIntoMenuAndFile) {
-    fonts = {L"First", L"Tahoma", L"Zeta & Sons", L"arial", L"Beta", L"Courier"};
+    fonts = {L"First", L"Zeta & Sons", L"arial", L"Tahoma"};
     open_viewer();
     std::wstring captions;
     on_asked = [&](int position) {
         ASSERT_TRUE(status() && IsWindowVisible(status()->window()));
         EXPECT_FALSE(IsWindowEnabled(viewer->window()));
-        EXPECT_NEAR(bar_shown(), 8775 * (position - 1) / 6, 20) << position;
+        EXPECT_NEAR(bar_shown(), 8775 * (position - 1) / 4, 20) << position;
         captions += status()->caption().substr(0, status()->caption().find(L'%')) + L"|";
     };
     collect_all({}, {VK_UP, VK_UP, VK_RETURN});
-    EXPECT_EQ(captions,
-              L"Progress...|Please wait... 16|Please wait... 33|Please wait... 50|Please wait... 66|"
-              L"Please wait... 83|");
-    EXPECT_EQ(listed(), (Names{L"", L"Beta", L"Courier", L"Tahoma", L"Zeta & Sons", L"arial"}));
-    EXPECT_EQ(bytes("Fonts.dat"), "Beta\r\nCourier\r\nTahoma\r\nZeta & Sons\r\narial\r\n");
+    EXPECT_EQ(captions, L"Progress...|Please wait... 25|Please wait... 50|Please wait... 75|");
+    EXPECT_EQ(listed(), (Names{L"", L"Tahoma", L"Zeta & Sons", L"arial"}));
+    EXPECT_EQ(bytes("Fonts.dat"), "Tahoma\r\nZeta & Sons\r\narial\r\n");
     EXPECT_EQ(viewer->Text1.font().name, L"Zeta & Sons") << "picked in the menu that popped up";
     EXPECT_SOON(!status());
     EXPECT_TRUE(IsWindowEnabled(viewer->window()));
 
     close_viewer();
     open_viewer();
-    EXPECT_EQ(listed(), (Names{L"Beta", L"Courier", L"Tahoma", L"Zeta & Sons", L"arial"}));
+    EXPECT_EQ(listed(), (Names{L"Tahoma", L"Zeta & Sons", L"arial"}));
     EXPECT_EQ(viewer->Text1.font().name, L"Zeta & Sons");
 }
 
 TEST_F(FontsTest, KeepsWhatWasCollectedUntilF10) {
     write("Fonts.dat", "Old\r\n");
-    fonts = {L"First", L"Beta", L"Alpha"};
-    fonts.insert(fonts.end(), 400, L"Gamma");
+    fonts = Names(400, L"Gamma");
     open_viewer();
     expect_question(IDCANCEL);
     collect();
     EXPECT_EQ(listed(), Names{L"Old"});
     EXPECT_EQ(bytes("Fonts.dat"), "Old\r\n");
     int asked = 0;
-    on_asked = [&](int position) {
-        ++asked;
-        if (position == 3 || position == 9) press_key(VK_F10);
+    on_asked = [&](int) {
+        if (++asked == 3 || asked == 9) press_key(VK_F10);
     };
     collect_all({IDNO, IDYES});
-    EXPECT_GE(asked, 9);
-    EXPECT_LT(asked, 20);
-    Names expected{L"Alpha", L"Beta"};
-    expected.resize(static_cast<std::size_t>(asked), L"Gamma");
-    EXPECT_EQ(listed(), expected);
-    EXPECT_TRUE(bytes("Fonts.dat").starts_with("Alpha\r\nBeta\r\nGamma\r\n"));
+    EXPECT_TRUE(asked >= 9 && asked < 20) << asked;
+    EXPECT_EQ(listed(), Names(static_cast<std::size_t>(asked), L"Gamma"));
+    EXPECT_TRUE(bytes("Fonts.dat").starts_with("Gamma\r\nGamma\r\n"));
 }
 
 TEST_F(FontsTest, AFailureIsReportedAndTheNextTryCanSucceed) {
@@ -128,22 +121,17 @@ TEST_F(FontsTest, AFailureIsReportedAndTheNextTryCanSucceed) {
     ASSERT_TRUE(status()) << "stays open, and can be closed";
     EXPECT_EQ(GetMenuState(GetSystemMenu(status()->window(), FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED, 0u);
     status()->close();
-    EXPECT_SOON(!status());
-    EXPECT_TRUE(IsWindowEnabled(viewer->window()));
-
     on_asked = nullptr;
     collect_all();
     EXPECT_EQ(bytes("Fonts.dat"), "Alpha\r\nBeta\r\n");
-    EXPECT_SOON(!status());
 }
 
 TEST_F(FontsTest, ClosingTheViewerMeanwhileEndsTheCollection) {
     fonts = Names(100, L"Same");
     open_viewer();
     int asked = 0;
-    on_asked = [&](int position) {
-        ++asked;
-        if (position == 3) PostMessageW(viewer->window(), WM_CLOSE, 0, 0);
+    on_asked = [&](int) {
+        if (++asked == 3) PostMessageW(viewer->window(), WM_CLOSE, 0, 0);
     };
     expect_question();
     collect();

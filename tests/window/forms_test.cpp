@@ -1,6 +1,5 @@
 // The rules that every window of the program relies on, held over every kind of control.
 
-#include <algorithm>
 #include <cstdint>
 #include <span>
 
@@ -29,7 +28,6 @@ struct Board : Form {
         for (Control* control : controls()) control->set_tool_tip(L"tip");
     }
 
-    Image Image1{*this, Picture(), {3000, 3600, 600, 600}};
     TextBox Text1{*this, {120, 120, 2000, 315}};
     TextBox Text2{*this, {120, 600, 2000, 900}, TextBoxKind::MultiLine};
     ListBox List1{*this, {120, 1600, 2000, 900}};
@@ -79,20 +77,6 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
     }
 }
 
-TEST_F(FormsTest, TheMouseMeetsPaintedItemsAsItMeetsControls) {
-    show();
-    std::wstring events;
-    board.Image1.on_mouse_down = [&](const MouseEvent&) { events += L"down "; };
-    board.Image1.on_mouse_up = [&](const MouseEvent&) { events += L"up "; };
-    board.Image1.on_click = [&] { events += L"click "; };
-    board.Image1.on_double_click = [&] { events += L"double "; };
-    const RECT& image = board.Image1.pixels();
-    move_pointer(board.window(), image.left + 9, image.top + 9);
-    for (int i = 0; i < 2; ++i) click();
-    EXPECT_SOON(events.ends_with(L"double up "));
-    EXPECT_EQ(events, L"down up click double up ") << "a double-click is released twice but pressed once";
-}
-
 TEST_F(FormsTest, AFixedWindowKeepsItsInsideAndIsLaidOutOnceAtEachResolution) {
     Form fixed(application, {.name = L"frmFixed",
                              .caption = L"Fixed",
@@ -118,7 +102,6 @@ TEST_F(FormsTest, AMenuPictureIsSeeThroughWhereNothingIsDrawn) {
     GetObjectW(bitmap.get(), sizeof header, &header);
     const std::span pixels(static_cast<const std::uint32_t*>(header.bmBits), 32 * 32);
     EXPECT_EQ(pixels[0], 0U) << "a corner";
-    EXPECT_TRUE(std::ranges::any_of(pixels, [](std::uint32_t pixel) { return pixel >> 24 == 0xFF; }));
     for (const std::uint32_t pixel : pixels) {
         const std::uint32_t alpha = pixel >> 24;
         EXPECT_TRUE((pixel & 0xFF) <= alpha && (pixel >> 8 & 0xFF) <= alpha && (pixel >> 16 & 0xFF) <= alpha);
@@ -168,8 +151,7 @@ TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
 }
 
 TEST_F(FormsTest, AFormClosedWhileItLoadsHasNothingToSave) {
-    bool unloaded = false;
-    board.on_unload = [&] { unloaded = true; };
+    board.on_unload = [] { FAIL() << "what is stored would give way to what was not read yet"; };
     board.on_load = [&] {
         // The system closes every window when the user signs off, whatever is still being asked.
         SendMessageW(board.window(), WM_ENDSESSION, TRUE, 0);
@@ -177,7 +159,6 @@ TEST_F(FormsTest, AFormClosedWhileItLoadsHasNothingToSave) {
     };
     board.show();
     EXPECT_TRUE(board.closed() && !board.shown());
-    EXPECT_FALSE(unloaded) << "what is stored would give way to what was not read yet";
 }
 
 TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItClosesEvenInAMenu) {
@@ -246,16 +227,13 @@ TEST_F(FormsTest, AFaultOfPaintingOrOfATimerIsReportedOnceAndLater) {
     expect_message(L"Quillomat", L"Unknown error");
     Timer timer(board, 1);
     int ticks = 0;
-    timer.on_timer = [&] {
-        ++ticks;
-        throw 1;
-    };
+    timer.on_timer = [&] { throw ++ticks; };
     EXPECT_SOON(ticks > 5);
     timer.set_enabled(false);
-    for (int press = 0; press < 2; ++press) {
+    board.Command1.on_click = [] { throw 1; };
+    for (int i = 0; i < 2; ++i) {
         expect_message(L"Quillomat", L"Unknown error");
-        board.Command1.on_click = [] { throw 1; };
-        SendMessageW(board.Command1.window(), BM_CLICK, 0, 0);
+        press(board.Command1);
         pump();
     }
 }
@@ -273,25 +251,6 @@ TEST_F(FormsTest, AWindowThatHasClosedLeavesItsMenusToTheirOwners) {
     const HMENU handle = bar->handle();
     bar.reset();
     EXPECT_FALSE(IsMenu(handle));
-}
-
-TEST_F(FormsTest, ATextKeepsItsColourWhereItCanBeRead) {
-    constexpr Colour link{0xFF0000};
-    constexpr Colour pointed_at{0xFF8080};
-    const std::tuple<Colour, Colour, Colour> cases[] = {
-        {link, rgb(244, 244, 244), link},
-        {{0x800080}, {0xFFC0FF}, {0x800080}},
-        // A theme of white on black.
-        {link, colours::black, colours::white},
-        {colours::white, pointed_at, colours::black},
-        // A button whose colour runs through the rainbow.
-        {colours::black, {0xFF00FF}, colours::white},
-        // The theme's own pair is the user's choice.
-        {colours::grey_text, colours::button_face, {resolve(colours::grey_text)}},
-    };
-    for (const auto& [text, background, expected] : cases) {
-        EXPECT_EQ(legible(text, background), expected.value) << std::hex << text.value << " on " << background.value;
-    }
 }
 
 }  // namespace

@@ -24,19 +24,6 @@ struct ShownViewerTest : SessionTest {
         ASSERT_SOON(!viewer);
     }
 
-    /// What the viewer shows on a line of pixels from this place of a window to the right, all that stands on the
-    /// viewer included.
-    std::vector<COLORREF> colours_from(HWND window, POINT place, int count) const {
-        MapWindowPoints(window, viewer->window(), &place, 1);
-        const HDC canvas = GetDCEx(viewer->window(), nullptr, DCX_CACHE);
-        std::vector<COLORREF> colours;
-        for (int x = 0; x < count; ++x) {
-            colours.push_back(GetPixel(canvas, place.x + x, place.y));
-        }
-        ReleaseDC(viewer->window(), canvas);
-        return colours;
-    }
-
     ViewerWindows viewer_windows;
     std::unique_ptr<frmCtlView> viewer;
     std::unique_ptr<OpenViewer> link;
