@@ -56,35 +56,27 @@ TEST_F(ClsTextBoxTest, ShortcutsSelectAllAndCutTheLineOfTheCaret) {
     EXPECT_SOON(passed_on == 2) << "with another key held they are no shortcuts";
 }
 
-struct ClipboardTest : WindowTest {
-    ~ClipboardTest() override { DestroyWindow(owner); }
-
-    HWND owner = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
-};
-
-TEST_F(ClipboardTest, HoldsWhatWasCopiedToTheEndAlsoAfterAWindowKeptItOpen) {
+TEST_F(ClsTextBoxTest, TheClipboardHoldsAllThatWasCopiedAlsoAfterAWindowKeptItOpen) {
     const std::wstring text = std::wstring(L"a\0b\u65E5\r\n", 6) + std::wstring(100'000, L'x') + L"end";
-    put_on_clipboard(owner, text);
+    put_on_clipboard(page.window(), text);
     ASSERT_TRUE(OpenClipboard(nullptr));
-    EXPECT_THROW(put_on_clipboard(owner, L"after"), Error);
+    EXPECT_THROW(put_on_clipboard(page.window(), L"after"), Error);
     EXPECT_TRUE(CloseClipboard()) << "it is still open for the window";
     EXPECT_EQ(clipboard_text(), L"a b" + text.substr(3)) << "nothing behind a NUL is lost";
 }
 
-TEST_F(ClipboardTest, WindowsRepaintWhileAnotherProgramKeepsItOpen) {
-    std::unique_ptr<Form> form;
-    open_in(form, FormDesign{.name = L"frmTest", .caption = L"", .width = 3000, .height = 3000});
+TEST_F(ClsTextBoxTest, WindowsRepaintWhileAnotherProgramKeepsTheClipboardOpen) {
     std::promise<void> opened;
     std::jthread other_program([&] {
         const HWND window = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
         EXPECT_TRUE(OpenClipboard(window));
         opened.set_value();
-        EXPECT_TRUE(is_repainted(form->window()));
+        EXPECT_TRUE(is_repainted(page.window()));
         CloseClipboard();
         DestroyWindow(window);
     });
     opened.get_future().wait();
-    CopyText(*form, L"copied");
+    CopyText(page, L"copied");
     other_program.join();
     EXPECT_EQ(clipboard_text(), L"copied");
 }
