@@ -76,6 +76,9 @@ TEST_F(FindTest, CoversNoneOfTheTextAndClosesWithTheViewer) {
     viewer->close();
     EXPECT_SOON(!find_form<frmFind>() && !find_form<frmCtlView>());
     EXPECT_EQ(state.gFindString, L"typed");
+    // The last window has asked the program to end.
+    MSG quit{};
+    EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
 }  // namespace

@@ -78,21 +78,17 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
 }
 
 TEST_F(FormsTest, AFixedWindowKeepsItsInsideAndIsLaidOutOnceAtEachResolution) {
-    Form fixed(application, {.name = L"frmFixed",
-                             .caption = L"Fixed",
-                             .width = 3000,
-                             .height = 1500,
-                             .border = FormBorder::Fixed,
-                             .measured = FormSize::Inside});
+    FormDesign design{.name = L"frmFixed", .caption = L"", .border = FormBorder::Fixed, .measured = FormSize::Inside};
+    design.width = design.height = 3000;
+    Form fixed(application, design);
     fixed.show();
     int layouts = 0;
     fixed.on_resize = [&] { ++layouts; };
     for (const int dpi : {144, 96, 192}) {
-        layouts = 0;
         const RECT suggested{10, 10, 400, 400};
         SendMessageW(fixed.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
-        EXPECT_EQ(layouts, 1);
-        EXPECT_TRUE(fixed.inner_width() == 3000 && fixed.inner_height() == 1500) << dpi;
+        EXPECT_EQ(std::exchange(layouts, 0), 1);
+        EXPECT_TRUE(fixed.inner_width() == design.width && fixed.inner_height() == design.height) << dpi;
     }
 }
 

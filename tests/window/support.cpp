@@ -43,13 +43,12 @@ void WindowTest::expect_message(std::wstring title, std::wstring text, int butto
 
 void WindowTest::answer(HWND box) {
     expect_only_one_takes_input(box);
-    const std::wstring title = text_of(box);
     const std::wstring text = message_of(box);
     int button = refusing_button(box);
     if (announced_.empty()) {
         ADD_FAILURE() << "a message nobody announced: " << std::string(text.begin(), text.end());
     } else {
-        EXPECT_EQ(announced_.front().title, title);
+        EXPECT_EQ(announced_.front().title, text_of(box));
         EXPECT_EQ(without_returns(announced_.front().text), without_returns(text));
         button = announced_.front().button;
         announced_.erase(announced_.begin());
