@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cwctype>
-#include <map>
 #include <set>
 #include <string>
 
@@ -13,6 +12,7 @@
 #include "forms/control.h"
 #include "forms/form.h"
 #include "support/desktop.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 namespace {
@@ -77,14 +77,13 @@ std::vector<HWND> controls_on(HWND window) {
     return controls;
 }
 
-SIZE measure(HFONT font, const std::wstring& text, UINT format, int width) {
-    const HDC canvas = GetDC(nullptr);
-    const HGDIOBJ former = SelectObject(canvas, font);
-    RECT area{0, 0, width, 0};
-    DrawTextW(canvas, text.c_str(), -1, &area, DT_CALCRECT | format);
-    SelectObject(canvas, former);
-    ReleaseDC(nullptr, canvas);
-    return {area.right, area.bottom};
+void expect_room(const std::string& item, HFONT font, const std::wstring& text, UINT format, LONG width, LONG height) {
+    const MemoryCanvas canvas(nullptr);
+    const Selection selected(canvas.get(), font);
+    RECT needed{0, 0, width, 0};
+    DrawTextW(canvas.get(), text.c_str(), -1, &needed, DT_CALCRECT | format);
+    EXPECT_TRUE(needed.right <= width && needed.bottom <= height)
+        << item << " is cut off: " << needed.right << " x " << needed.bottom << " in " << width << " x " << height;
 }
 
 void expect_room_for_text(HWND control, int dpi) {
@@ -97,9 +96,10 @@ void expect_room_for_text(HWND control, int dpi) {
     std::wstring text = text_of(control);
     if (kind == L"button") {
         // Around a caption stand the button's edge, the mark of the choice, or the ends of the frame's line.
-        const std::map<DWORD, int> used{{BS_OWNERDRAW, 4}, {BS_GROUPBOX, 20}};
-        const auto found = used.find(button_type(control));
-        room.right -= MulDiv(found == used.end() ? 17 : found->second, dpi, 96);
+        int used = 17;
+        if (button_type(control) == BS_OWNERDRAW) used = 4;
+        if (button_type(control) == BS_GROUPBOX) used = 20;
+        room.right -= MulDiv(used, dpi, 96);
     } else if (kind == L"static") {
         if ((style & SS_TYPEMASK) != SS_LEFT) return;
         const bool shortened = style & SS_ELLIPSISMASK;
@@ -115,20 +115,7 @@ void expect_room_for_text(HWND control, int dpi) {
         if (!all_in_sight) text = L"Ag";
         format = all_in_sight ? DT_NOPREFIX : format;
     }
-    const SIZE needed = measure(font, text, format, room.right);
-    EXPECT_TRUE(needed.cx <= room.right && needed.cy <= room.bottom)
-        << described(control) << " is cut off: " << needed.cx << " x " << needed.cy << " in " << room.right << " x "
-        << room.bottom;
-}
-
-void expect_room_for_text(const Label& label, Application& application, int dpi) {
-    const RECT& area = label.pixels();
-    const Font font = application.fonts().get(label.font(), dpi);
-    const SIZE room{area.right - area.left, area.bottom - area.top};
-    const SIZE needed = measure(font.get(), label.caption(), DT_WORDBREAK | DT_NOPREFIX, room.cx);
-    EXPECT_TRUE(needed.cx <= room.cx && needed.cy <= room.cy)
-        << "label \"" << narrow(label.caption()) << "\" is cut off: " << needed.cx << " x " << needed.cy << " in "
-        << room.cx << " x " << room.cy;
+    expect_room(described(control), font, text, format, room.right, room.bottom);
 }
 
 /// What must neither overlap nor be cut off; shapes, lines and stripes may.
@@ -147,10 +134,13 @@ std::vector<Piece> pieces_of(HWND window) {
             const auto* label = dynamic_cast<const Label*>(graphic);
             if (!graphic->visible() || (!label && !dynamic_cast<const Image*>(graphic))) continue;
             if (label && label->caption().empty()) continue;
-            pieces.push_back({parent, nullptr,
-                              label ? label->caption() : L"image at " + std::to_wstring(graphic->pixels().left),
-                              graphic->pixels()});
-            if (label) expect_room_for_text(*label, form.application(), form.dpi());
+            const RECT& area = graphic->pixels();
+            const std::wstring text = label ? label->caption() : L"image at " + std::to_wstring(area.left);
+            pieces.push_back({parent, nullptr, text, area});
+            if (!label) continue;
+            const Font font = form.application().fonts().get(label->font(), form.dpi());
+            expect_room(narrow(text), font.get(), text, DT_WORDBREAK | DT_NOPREFIX, area.right - area.left,
+                        area.bottom - area.top);
         }
     }
     return pieces;
@@ -163,34 +153,27 @@ void expect_inside(const Piece& piece) {
     constexpr int rounding = 1;
     RECT room{};
     GetClientRect(piece.parent, &room);
-    RECT inside = room;
-    InflateRect(&inside, rounding, rounding);
-    IntersectRect(&inside, &inside, &piece.area);
-    EXPECT_TRUE(EqualRect(&inside, &piece.area))
-        << "\"" << narrow(piece.text) << "\" reaches out of its place: " << piece.area.left << ", " << piece.area.top
-        << " to " << piece.area.right << ", " << piece.area.bottom << " in " << room.right << " x " << room.bottom;
+    const auto& [left, top, right, bottom] = piece.area;
+    EXPECT_TRUE(std::min(left, top) >= -rounding && right <= room.right + rounding && bottom <= room.bottom + rounding)
+        << "\"" << narrow(piece.text) << "\" reaches out of its place: " << left << ", " << top << " to " << right
+        << ", " << bottom << " in " << room.right << " x " << room.bottom;
 }
 
-void collect_access_key(const std::wstring& caption, std::multiset<wchar_t>& keys) {
-    for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
-        if (caption[i] != L'&') continue;
-        ++i;
-        if (caption[i] != L'&') keys.insert(static_cast<wchar_t>(std::towupper(caption[i])));
+/// Adds a caption's access key to those of the captions beside it, which must not have it.
+void add_access_key(const std::wstring& caption, std::set<wchar_t>& keys) {
+    for (std::size_t i = caption.find(L'&'); i < caption.size() - 1; i = caption.find(L'&', i + 2)) {
+        const auto key = static_cast<wchar_t>(std::towupper(caption[i + 1]));
+        EXPECT_TRUE(key == L'&' || keys.insert(key).second) << "the access key of " << narrow(caption);
     }
 }
 
-void expect_each_once(const std::multiset<wchar_t>& keys) {
-    for (const wchar_t key : keys) EXPECT_EQ(keys.count(key), 1u) << "access key " << static_cast<char>(key);
-}
-
-void collect_access_keys(HMENU menu, std::multiset<wchar_t>& keys) {
+void add_access_keys(HMENU menu, std::set<wchar_t>& keys) {
     for (int i = 0; i < GetMenuItemCount(menu); ++i) {
         wchar_t caption[128]{};
         GetMenuStringW(menu, static_cast<UINT>(i), caption, 128, MF_BYPOSITION);
-        collect_access_key(caption, keys);
-        std::multiset<wchar_t> inner;
-        if (const HMENU below = GetSubMenu(menu, i)) collect_access_keys(below, inner);
-        expect_each_once(inner);
+        add_access_key(caption, keys);
+        std::set<wchar_t> inner;
+        if (const HMENU below = GetSubMenu(menu, i)) add_access_keys(below, inner);
     }
 }
 
@@ -221,14 +204,13 @@ void expect_whole_layout(HWND window) {
 }
 
 void expect_unique_access_keys(HWND window) {
-    std::multiset<wchar_t> keys;
+    std::set<wchar_t> keys;
     for (const HWND control : controls_on(window)) {
         const std::wstring kind = kind_of(control);
         const bool has_prefix = kind == L"button" || (kind == L"static" && !(style_of(control) & SS_NOPREFIX));
-        if (has_prefix) collect_access_key(text_of(control), keys);
+        if (has_prefix) add_access_key(text_of(control), keys);
     }
-    if (const HMENU bar = GetMenu(window)) collect_access_keys(bar, keys);
-    expect_each_once(keys);
+    if (const HMENU bar = GetMenu(window)) add_access_keys(bar, keys);
 }
 
 std::vector<HWND> inputs_of(HWND window) {
@@ -266,8 +248,7 @@ void expect_spoken_names(HWND window) {
 }
 
 void expect_reading_order(const std::vector<HWND>& walk) {
-    std::string steps_back;
-    int count = 0;
+    std::vector<std::string> steps_back;
     for (std::size_t i = 0; i < walk.size(); ++i) {
         const HWND control = walk[i];
         const HWND following = walk[(i + 1) % walk.size()];
@@ -276,11 +257,11 @@ void expect_reading_order(const std::vector<HWND>& walk) {
         GetWindowRect(control, &area);
         GetWindowRect(following, &next);
         if (next.top >= area.bottom || next.left >= area.right) continue;
-        steps_back += described(control) + " to " + described(following) + "; ";
-        ++count;
+        steps_back.push_back(described(control) + " to " + described(following));
     }
     // One step leads from the last control back to the first.
-    EXPECT_LE(count, 1) << "Tab walks against the order of reading: " << steps_back;
+    EXPECT_LE(steps_back.size(), 1u) << "Tab walks against the order of reading: "
+                                     << ::testing::PrintToString(steps_back);
 }
 
 void expect_only_one_takes_input(HWND dialog) {

@@ -93,6 +93,10 @@ RECT ink_in(const ShownPixels& shown, const RECT& area, COLORREF behind) {
     return ink;
 }
 
+int count(const Control& control, Colour colour) {
+    return ShownPixels(control.window()).count(inside_of(control.window()), resolve(colour));
+}
+
 struct PaintingTest : SessionTest {
     PaintingTest() {
         board.show();
@@ -100,10 +104,9 @@ struct PaintingTest : SessionTest {
     }
 
     ShownPixels shown() const { return ShownPixels(board.window()); }
-    static int count(const Control& control, Colour colour) {
-        return ShownPixels(control.window()).count(inside_of(control.window()), resolve(colour));
+    int count_on(const Graphic& graphic, Colour colour) const {
+        return shown().count(graphic.pixels(), resolve(colour));
     }
-    int count(const Graphic& graphic, Colour colour) const { return shown().count(graphic.pixels(), resolve(colour)); }
 
     const COLORREF face = resolve(colours::button_face);
     Board board{application};
@@ -173,24 +176,22 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
 TEST_F(PaintingTest, ALabelHasItsColoursAndItsPlaceAndLeavesWhatLiesBehindIt) {
     const RECT& place = board.Label1.pixels();
     board.Label1.set_fore_colour(red);
-    EXPECT_GT(count(board.Label1, red), 20);
+    EXPECT_GT(count_on(board.Label1, red), 20);
     EXPECT_EQ(shown().at(place.left, place.bottom - 1), face) << "transparent";
-    const LONG spare[] = {5, 5, 5};
-    for (const Alignment alignment : {Alignment::Left, Alignment::Centre, Alignment::Right}) {
+    // All spare room is right of the text, on both sides alike, or left of it.
+    for (const auto& [alignment, side] :
+         {std::pair{Alignment::Left, -1}, {Alignment::Centre, 0}, {Alignment::Right, 1}}) {
         board.Label1.set_alignment(alignment);
         const RECT ink = ink_in(shown(), place, face);
-        const LONG left = ink.left - place.left;
-        const LONG right = place.right - ink.right;
-        EXPECT_TRUE(alignment != Alignment::Left || left < spare[0]) << left;
-        EXPECT_TRUE(alignment != Alignment::Right || right < spare[1]) << right;
-        EXPECT_TRUE(alignment != Alignment::Centre || std::abs(left - right) < spare[2]) << left - right;
+        const LONG spare = place.right - place.left - (ink.right - ink.left);
+        EXPECT_NEAR((ink.left - place.left) - (place.right - ink.right), side * spare, side ? 8 : 4);
     }
     board.Label1.set_back_style(BackStyle::Opaque);
     board.Label1.set_back_colour(green);
     EXPECT_EQ(shown().at(place.left, place.bottom - 1), green.value);
     board.Label1.set_enabled(false);
-    EXPECT_EQ(count(board.Label1, red), 0);
-    EXPECT_GT(count(board.Label1, colours::grey_text), 20);
+    EXPECT_EQ(count_on(board.Label1, red), 0);
+    EXPECT_GT(count_on(board.Label1, colours::grey_text), 20);
 }
 
 TEST_F(PaintingTest, ImagesShapesAndLinesStandWhereTheyShould) {
@@ -263,7 +264,7 @@ TEST_F(PaintingTest, AnEmbossedTextStandsBetweenItsEdges) {
             }
         }
         EXPECT_EQ(whites > greys, style == EmbossStyle::Raised) << whites << " and " << greys;
-        EXPECT_GT(count(board.Raised, {1}), 20);
+        EXPECT_GT(count_on(board.Raised, {1}), 20);
     }
 }
 
@@ -298,23 +299,18 @@ TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) 
     ASSERT_EQ(board.Folders.item(last), L"inner");
     board.Folders.set_top_index(last - 1);
     const HWND list = board.Folders.window();
-    const auto row = [list](int index) {
-        RECT area{};
-        SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&area));
-        return area;
-    };
-    const auto ink_of_row = [&](int index, Colour behind) {
-        return ink_in(ShownPixels(list), row(index), resolve(behind));
-    };
-    const RECT selected = row(last - 1);
+    RECT selected{};
+    RECT plain{};
+    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(last) - 1, reinterpret_cast<LPARAM>(&selected));
+    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(last), reinterpret_cast<LPARAM>(&plain));
     const ShownPixels shown(list);
     EXPECT_GT(shown.count(selected, resolve(colours::highlight)), 500);
     EXPECT_GT(shown.count(selected, resolve(colours::highlight_text)), 20);
-    EXPECT_GT(shown.count(row(last), resolve(colours::window_text)), 20);
-    EXPECT_LT(ink_of_row(last - 1, colours::highlight).left, ink_of_row(last, colours::window).left) << "indented";
+    EXPECT_GT(shown.count(plain, resolve(colours::window_text)), 20);
     // The icon stands before the name.
-    RECT icon = ink_of_row(last, colours::window);
+    RECT icon = ink_in(shown, plain, resolve(colours::window));
     icon.right = icon.left + 14;
+    EXPECT_LT(ink_in(shown, selected, resolve(colours::highlight)).left, icon.left) << "indented";
     EXPECT_GT(ink_in(shown, icon, resolve(colours::window)).bottom, 0);
     EXPECT_EQ(shown.count(icon, resolve(colours::window_text)), 0);
     board.Drives.select_drive_of(L"C:\\");
@@ -341,11 +337,10 @@ class HighContrast {
 TEST_F(PaintingTest, TheUsersColoursReachEverything) {
     const HighContrast high_contrast;
     pump();
-    const POINT between{5, 5};
-    EXPECT_EQ(shown().at(between.x, between.y), colours::black.value);
-    EXPECT_GT(count(board.Label1, colours::white), 20);
+    EXPECT_EQ(shown().at(5, 5), colours::black.value) << "between the items";
+    EXPECT_GT(count_on(board.Label1, colours::white), 20);
     board.Label1.set_enabled(false);
-    EXPECT_GT(count(board.Label1, green_of_user), 20);
+    EXPECT_GT(count_on(board.Label1, green_of_user), 20);
     for (const Control* control : std::initializer_list<const Control*>{&board.Option1, &board.Check1, &board.List1,
                                                                         &board.Frame1, &board.Link1}) {
         EXPECT_GT(count(*control, colours::white), 10) << text_of(control->window()).c_str();
@@ -371,15 +366,12 @@ struct ViewerPaintingTest : ShownViewerTest {
         open_viewer("Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Doom\r\n");
         viewer->List2.select_index(0);
     }
-    int count(const Control& control, Colour colour) const {
-        return ShownPixels(control.window()).count(inside_of(control.window()), colour.value);
-    }
 };
 
 TEST_F(ViewerPaintingTest, BothColourSchemesReachTextAndLists) {
-    viewer->Text1.set_font(large);
-    viewer->List2.set_font(large);
-    viewer->List1.set_font(large);
+    for (Control* control : std::initializer_list<Control*>{&viewer->Text1, &viewer->List1, &viewer->List2}) {
+        control->set_font(large);
+    }
     viewer->List1.add(L"Doom");
     SendMessageW(viewer->List2.window(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     for (const bool coloured : {viewer->menus.mnuColour.checked(), !viewer->menus.mnuColour.checked()}) {
@@ -409,34 +401,26 @@ TEST_F(ViewerPaintingTest, MenuEntriesHaveTheirPictures) {
     }
 }
 
-TEST_F(ViewerPaintingTest, ControlsAndImagesHaveTheirToolTips) {
-    const auto tip_of = [this](HWND control) {
-        struct Search {
-            HWND owner;
-            HWND tips;
-        } search{viewer->window(), nullptr};
-        EnumThreadWindows(
-            GetCurrentThreadId(),
-            [](HWND window, LPARAM parameter) -> BOOL {
-                auto& [owner, tips] = *reinterpret_cast<Search*>(parameter);
-                if (class_of(window) == TOOLTIPS_CLASSW && GetWindow(window, GW_OWNER) == owner) tips = window;
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&search));
+TEST_F(ViewerPaintingTest, AControlHasItsToolTip) {
+    const auto shown_tip = [this] {
+        HWND tips = nullptr;
+        do {
+            tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+        } while (tips && GetWindow(tips, GW_OWNER) != viewer->window());
         wchar_t text[200]{};
         TTTOOLINFOW tool{};
         tool.cbSize = sizeof tool;
         tool.hwnd = viewer->window();
-        tool.uId = reinterpret_cast<UINT_PTR>(control);
+        tool.uId = reinterpret_cast<UINT_PTR>(viewer->Text1.window());
         tool.lpszText = text;
-        SendMessageW(search.tips, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
+        SendMessageW(tips, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
         return std::wstring(text);
     };
-    EXPECT_EQ(tip_of(viewer->Text1.window()), L"Double-click a word to search for it");
-    viewer->Text1.set_tool_tip(L"Another");
-    EXPECT_EQ(tip_of(viewer->Text1.window()), L"Another");
-    viewer->Text1.set_tool_tip({});
-    EXPECT_EQ(tip_of(viewer->Text1.window()), L"");
+    EXPECT_EQ(shown_tip(), L"Double-click a word to search for it");
+    for (const wchar_t* tip : {L"Another", L""}) {
+        viewer->Text1.set_tool_tip(tip);
+        EXPECT_EQ(shown_tip(), tip);
+    }
 }
 
 }  // namespace
