@@ -1,14 +1,14 @@
 #include "text/shortened_name.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <ranges>
 
 namespace quillomat {
 namespace {
 
+/// `kept` characters of a name around an ellipsis. The games of a series share a long beginning, and often their last
+/// words, so most of the room goes to what stands between.
 std::wstring keeping(const std::wstring& name, std::size_t kept) {
-    const std::size_t end_length = kept / 2;
+    const std::size_t end_length = kept / 5;
     return name.substr(0, kept - end_length) + L"\u2026" + name.substr(name.size() - end_length);
 }
 
@@ -18,10 +18,17 @@ std::wstring shortened_name(const std::wstring& name, const std::function<bool(c
     if (fits(name)) {
         return name;
     }
-    const auto lengths = std::views::iota(std::size_t{1}, std::max<std::size_t>(name.size(), 1));
-    const auto first_too_long =
-        std::ranges::partition_point(lengths, [&](std::size_t kept) { return fits(keeping(name, kept)); });
-    return keeping(name, static_cast<std::size_t>(first_too_long - lengths.begin()));
+    std::size_t fitting = 0;
+    std::size_t too_long = name.size();
+    while (fitting + 1 < too_long) {
+        const std::size_t middle = (fitting + too_long) / 2;
+        if (fits(keeping(name, middle))) {
+            fitting = middle;
+        } else {
+            too_long = middle;
+        }
+    }
+    return keeping(name, fitting);
 }
 
 }  // namespace quillomat

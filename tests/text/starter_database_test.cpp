@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "support/files.h"
 #include "support/upper_case.h"
 #include "text/error.h"
+#include "text/shortened_name.h"
 
 namespace quillomat {
 namespace {
@@ -36,6 +38,13 @@ TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
     EXPECT_TRUE(bytes.ends_with("\r\n"));
     EXPECT_EQ(static_cast<std::size_t>(std::ranges::count_if(bytes, is_control)), 2 * count_of(bytes, "\r\n"));
     EXPECT_EQ(bytes.find('\xC3'), std::string::npos) << "saved as UTF-8";
+
+    // As many characters as the list of games has room for at least.
+    std::set<std::wstring> shown;
+    for (const std::wstring& name : names) {
+        shown.insert(shortened_name(name, [](const std::wstring& text) { return text.size() <= 24; }));
+    }
+    EXPECT_EQ(shown.size(), names.size()) << "names that look alike in the list";
 
     std::wstring previous;
     for (const std::wstring& name : names) {
