@@ -77,22 +77,6 @@ RECT inside_of(HWND window) {
     return client;
 }
 
-bool differs(HWND window, const ShownPixels& before) {
-    return ShownPixels(window).difference(before, inside_of(window)).has_value();
-}
-
-/// The smallest rectangle around all pixels of an area that are not of the colour behind it.
-RECT ink_in(const ShownPixels& shown, const RECT& area, COLORREF behind) {
-    RECT ink{};
-    for (LONG y = area.top; y < area.bottom; ++y) {
-        for (LONG x = area.left; x < area.right; ++x) {
-            const RECT pixel{x, y, x + 1, y + 1};
-            if (shown.at(x, y) != behind) UnionRect(&ink, &ink, &pixel);
-        }
-    }
-    return ink;
-}
-
 int count(const Control& control, Colour colour) {
     return ShownPixels(control.window()).count(inside_of(control.window()), resolve(colour));
 }
@@ -113,51 +97,51 @@ struct PaintingTest : SessionTest {
 };
 
 TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
-    const auto button_message = [](const Control& control, UINT set, UINT back) {
-        return [window = control.window(), set, back](bool on) {
-            SendMessageW(window, on ? set : back, set == BM_SETSTATE || set == BM_SETCHECK ? WPARAM{on} : 0,
-                         MAKELPARAM(3, 3));
-        };
+    const auto send = [](HWND window, UINT message) {
+        return [window, message](bool on) { SendMessageW(window, message, WPARAM{on}, 0); };
+    };
+    const auto hover = [](HWND window) {
+        return [window](bool on) { SendMessageW(window, on ? WM_MOUSEMOVE : WM_MOUSELEAVE, 0, MAKELPARAM(3, 3)); };
     };
     const auto enable = [](Item& item) { return [&item](bool on) { item.set_enabled(!on); }; };
-    const HWND form = board.window();
+    const HWND form = board.window(), button = board.Button1.window(), face_only = board.Button2.window(),
+               option = board.Option1.window(), check = board.Check1.window(), link = board.Link1.window(),
+               picture = board.Picture1.window(), list = board.List1.window();
     const std::tuple<const char*, HWND, std::function<void(bool)>> changes[] = {
         {"disabled label", form, enable(board.Label1)},
-        {"other caption", form, [this](bool on) { board.Label1.set_caption(on ? L"Other" : L"Label"); }},
-        {"italic label", form, [this](bool on) { board.Label1.set_font({.points = 20, .italic = on}); }},
+        {"other caption", form, [&](bool on) { board.Label1.set_caption(on ? L"Other" : L"Label"); }},
+        {"italic label", form, [&](bool on) { board.Label1.set_font({.points = 20, .italic = on}); }},
         {"disabled image", form, enable(board.Image1)},
         {"bordered image", form,
-         [this](bool on) { board.Image1.set_border(on ? ImageBorder::Single : ImageBorder::None); }},
-        {"hidden image", form, [this](bool on) { board.Image1.set_visible(!on); }},
-        {"hidden line", form, [this](bool on) { board.Line1.set_visible(!on); }},
-        {"disabled button", board.Button1.window(), enable(board.Button1)},
-        {"pressed button", board.Button2.window(), button_message(board.Button2, BM_SETSTATE, BM_SETSTATE)},
-        {"hovered button", board.Button1.window(), button_message(board.Button1, WM_MOUSEMOVE, WM_MOUSELEAVE)},
-        {"default button", board.Button1.window(),
-         [this](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
-        {"focused button", board.Button2.window(),
-         [this](bool on) {
+         [&](bool on) { board.Image1.set_border(on ? ImageBorder::Single : ImageBorder::None); }},
+        {"hidden image", form, [&](bool on) { board.Image1.set_visible(!on); }},
+        {"hidden line", form, [&](bool on) { board.Line1.set_visible(!on); }},
+        {"disabled button", button, enable(board.Button1)},
+        {"pressed button", face_only, send(face_only, BM_SETSTATE)},
+        {"hovered button", button, hover(button)},
+        {"default button", button, [&](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
+        {"focused button", face_only,
+         [&](bool on) {
              SendMessageW(board.window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
              on ? board.Button2.set_focus() : board.Text1.set_focus();
          }},
-        {"underlined button", board.Button1.window(), [this](bool on) { board.Button1.set_underlined(on); }},
-        {"disabled option", board.Option1.window(), enable(board.Option1)},
-        {"set option", board.Option1.window(), button_message(board.Option1, BM_SETCHECK, BM_SETCHECK)},
-        {"disabled check box", board.Check1.window(), enable(board.Check1)},
-        {"set check box", board.Check1.window(), [this](bool on) { board.Check1.set_value(on); }},
+        {"underlined button", button, [&](bool on) { board.Button1.set_underlined(on); }},
+        {"disabled option", option, enable(board.Option1)},
+        {"set option", option, send(option, BM_SETCHECK)},
+        {"disabled check box", check, enable(board.Check1)},
+        {"set check box", check, [&](bool on) { board.Check1.set_value(on); }},
         {"disabled frame", board.Frame1.window(), enable(board.Frame1)},
-        {"hovered link", board.Link1.window(), button_message(board.Link1, WM_MOUSEMOVE, WM_MOUSELEAVE)},
-        {"pressed link", board.Link1.window(), button_message(board.Link1, BM_SETSTATE, BM_SETSTATE)},
-        {"narrow picture", board.Picture1.window(), [this](bool on) { board.Picture1.set_width_factor(on ? 0.5 : 1); }},
-        {"mirrored picture", board.Picture1.window(),
-         [this](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
+        {"hovered link", link, hover(link)},
+        {"pressed link", link, send(link, BM_SETSTATE)},
+        {"narrow picture", picture, [&](bool on) { board.Picture1.set_width_factor(on ? 0.5 : 1); }},
+        {"mirrored picture", picture, [&](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
         {"help box", form,
-         [this](bool on) { on ? ShowTip(board.Button1, board.Help, L"Help") : HideTip(board.Button1, board.Help); }},
-        {"disabled list", board.List1.window(), enable(board.List1)},
-        {"selected item", board.List1.window(),
-         [this](bool on) { SendMessageW(board.List1.window(), LB_SETCURSEL, on ? 0 : static_cast<WPARAM>(-1), 0); }},
+         [&](bool on) { on ? ShowTip(board.Button1, board.Help, L"Help") : HideTip(board.Button1, board.Help); }},
+        {"disabled list", list, enable(board.List1)},
+        {"selected item", list,
+         [&](bool on) { SendMessageW(list, LB_SETCURSEL, on ? 0 : static_cast<WPARAM>(-1), 0); }},
         {"disabled text", board.Text1.window(),
-         [this](bool on) {
+         [&](bool on) {
              board.Text1.set_text(L"Text");
              board.Button2.set_focus();
              board.Text1.set_enabled(!on);
@@ -166,10 +150,10 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
     for (const auto& [what, window, set] : changes) {
         set(false);
         const ShownPixels before(window);
-        set(true);
-        EXPECT_TRUE(differs(window, before)) << what;
-        set(false);
-        EXPECT_FALSE(differs(window, before)) << "after " << what;
+        for (const bool on : {true, false}) {
+            set(on);
+            EXPECT_EQ(ShownPixels(window).difference(before, before.area()).has_value(), on) << what;
+        }
     }
 }
 
@@ -182,7 +166,7 @@ TEST_F(PaintingTest, ALabelHasItsColoursAndItsPlaceAndLeavesWhatLiesBehindIt) {
     for (const auto& [alignment, side] :
          {std::pair{Alignment::Left, -1}, {Alignment::Centre, 0}, {Alignment::Right, 1}}) {
         board.Label1.set_alignment(alignment);
-        const RECT ink = ink_in(shown(), place, face);
+        const RECT ink = shown().ink(place, face);
         const LONG spare = place.right - place.left - (ink.right - ink.left);
         EXPECT_NEAR((ink.left - place.left) - (place.right - ink.right), side * spare, side ? 8 : 4);
     }
@@ -199,15 +183,14 @@ TEST_F(PaintingTest, ImagesShapesAndLinesStandWhereTheyShould) {
         return POINT{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
     };
     const RECT& image = board.Image1.pixels();
-    RECT around = image;
-    InflateRect(&around, 3, 3);
-    RECT ink = ink_in(shown(), around, face);
-    RECT common{};
-    IntersectRect(&common, &ink, &image);
-    EXPECT_TRUE(EqualRect(&common, &ink)) << "nothing of the picture is outside of its place";
+    const RECT around{image.left - 3, image.top - 3, image.right + 3, image.bottom + 3};
+    RECT ink = shown().ink(around, face);
+    EXPECT_TRUE(ink.left >= image.left && ink.top >= image.top && ink.right <= image.right &&
+                ink.bottom <= image.bottom)
+        << "nothing of the picture is outside of its place";
     EXPECT_GT(ink.right - ink.left, (image.right - image.left) * 3 / 4);
     board.Image1.set_picture_size(450);
-    ink = ink_in(shown(), around, face);
+    ink = shown().ink(around, face);
     EXPECT_LE(ink.right - ink.left, 30);
     EXPECT_NEAR(middle_of(ink).x, middle_of(image).x, 2);
     EXPECT_NEAR(middle_of(ink).y, middle_of(image).y, 3);
@@ -222,16 +205,15 @@ TEST_F(PaintingTest, ImagesShapesAndLinesStandWhereTheyShould) {
     EXPECT_EQ(shown().at(shape.left + 5, shape.top + 5), green.value);
 
     const RECT& line = board.Line1.pixels();
-    const LONG y = line.top;
-    const ShownPixels painted = shown();
-    for (LONG x = line.left; x < line.right; ++x) EXPECT_NE(painted.at(x, y), face) << x;
-    EXPECT_EQ(painted.at(line.right, y), face);
+    const RECT row{line.left, line.top, line.right + 1, line.top + 1};
+    EXPECT_EQ(shown().count(row, face), 1) << "only what follows the line is empty";
+    EXPECT_EQ(shown().at(line.right, line.top), face);
 
     // The coin, squeezed about its middle.
     const RECT box = inside_of(board.Picture1.window());
     board.Picture1.set_back_colour(colours::white);
     board.Picture1.set_width_factor(0.5);
-    ink = ink_in(ShownPixels(board.Picture1.window()), box, 0xFFFFFF);
+    ink = ShownPixels(board.Picture1.window()).ink(box, 0xFFFFFF);
     EXPECT_NEAR(middle_of(ink).x, middle_of(box).x, 2);
     EXPECT_NEAR(ink.right - ink.left, box.right / 2, 10);
     EXPECT_GT(ink.bottom - ink.top, box.bottom * 3 / 4);
@@ -250,13 +232,11 @@ TEST_F(PaintingTest, AnEmbossedTextStandsBetweenItsEdges) {
     const RECT place = board.Raised.pixels();
     for (const auto style : {EmbossStyle::Raised, EmbossStyle::PressedIn}) {
         EmbossLabel(board.Raised, board.Shadow, board.Highlight, {}, style, {1}, 2);
-        RECT around = place;
-        InflateRect(&around, 3, 3);
         const ShownPixels painted = shown();
         LONG whites = 0;
         LONG greys = 0;
-        for (LONG y = around.top; y < around.bottom; ++y) {
-            for (LONG x = around.left; x < around.right; ++x) {
+        for (LONG y = place.top - 3; y < place.bottom + 3; ++y) {
+            for (LONG x = place.left - 3; x < place.right + 3; ++x) {
                 // An edge of this colour stands to the upper left of the text where the text follows it.
                 const bool before_text = painted.at(x + 2, y + 2) == 1;
                 whites += painted.at(x, y) == 0xFFFFFF && before_text;
@@ -308,10 +288,10 @@ TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) 
     EXPECT_GT(shown.count(selected, resolve(colours::highlight_text)), 20);
     EXPECT_GT(shown.count(plain, resolve(colours::window_text)), 20);
     // The icon stands before the name.
-    RECT icon = ink_in(shown, plain, resolve(colours::window));
+    RECT icon = shown.ink(plain, resolve(colours::window));
     icon.right = icon.left + 14;
-    EXPECT_LT(ink_in(shown, selected, resolve(colours::highlight)).left, icon.left) << "indented";
-    EXPECT_GT(ink_in(shown, icon, resolve(colours::window)).bottom, 0);
+    EXPECT_LT(shown.ink(selected, resolve(colours::highlight)).left, icon.left) << "indented";
+    EXPECT_GT(shown.ink(icon, resolve(colours::window)).bottom, 0);
     EXPECT_EQ(shown.count(icon, resolve(colours::window_text)), 0);
     board.Drives.select_drive_of(L"C:\\");
     EXPECT_GT(count(board.Drives, colours::window_text), 5);

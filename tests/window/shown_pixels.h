@@ -30,25 +30,34 @@ class ShownPixels {
     }
     int count(const RECT& area, COLORREF colour) const {
         int count = 0;
-        for (LONG y = area.top; y < area.bottom; ++y) {
-            for (LONG x = area.left; x < area.right; ++x) count += at(x, y) == colour;
-        }
+        bounds(area, [&](LONG x, LONG y) { return at(x, y) == colour && ++count; });
         return count;
     }
     /// Returns the part of an area in which another picture differs; nothing if none does.
     std::optional<RECT> difference(const ShownPixels& other, const RECT& area) const {
-        RECT changed{};
-        for (LONG y = area.top; y < area.bottom; ++y) {
-            for (LONG x = area.left; x < area.right; ++x) {
-                const RECT pixel{x, y, x + 1, y + 1};
-                if (at(x, y) != other.at(x, y)) UnionRect(&changed, &changed, &pixel);
-            }
-        }
+        const RECT changed = bounds(area, [&](LONG x, LONG y) { return at(x, y) != other.at(x, y); });
         if (IsRectEmpty(&changed)) return std::nullopt;
         return changed;
     }
+    /// Returns the smallest rectangle around all pixels of an area that are not of the colour behind what is painted.
+    RECT ink(const RECT& area, COLORREF behind) const {
+        return bounds(area, [&](LONG x, LONG y) { return at(x, y) != behind; });
+    }
 
   private:
+    /// Returns the smallest rectangle around all pixels of an area that meet the condition.
+    template <class Condition>
+    static RECT bounds(const RECT& area, Condition meets) {
+        RECT around{};
+        for (LONG y = area.top; y < area.bottom; ++y) {
+            for (LONG x = area.left; x < area.right; ++x) {
+                const RECT pixel{x, y, x + 1, y + 1};
+                if (meets(x, y)) UnionRect(&around, &around, &pixel);
+            }
+        }
+        return around;
+    }
+
     RECT area_{};
     GdiObject<HBITMAP> bitmap_;
     const RGBQUAD* pixels_ = nullptr;
