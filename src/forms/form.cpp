@@ -76,6 +76,18 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     if (!RegisterClassExW(&description)) throw_last_error();
 }
 
+/// Ends a menu that is open, or a window being moved by keyboard. A window that closes meanwhile is hidden, so the keys
+/// that end those loops no longer reach it.
+void leave_system_loops() {
+    EndMenu();
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    if (!GetGUIThreadInfo(GetCurrentThreadId(), &state) || !(state.flags & GUI_INMOVESIZE)) return;
+    SendMessageW(state.hwndMoveSize, WM_CANCELMODE, 0, 0);
+    // Wine: moving goes on until the next Escape all the same.
+    PostMessageW(state.hwndMoveSize, WM_KEYDOWN, VK_ESCAPE, 0);
+}
+
 }  // namespace
 
 Form::Form(Application& application, const FormDesign& design)
@@ -190,6 +202,10 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_CLOSE:
             close();
             return 0;
+        case WM_SYSCOMMAND:
+            // Wine: after a minimised window was moved by keyboard, its menu opens, even if the window has closed.
+            if (closed_) return 0;
+            break;
         case WM_DESTROY:
             // The bar belongs to its MenuBar; Windows would destroy it with the window.
             SetMenu(window_, nullptr);
@@ -303,8 +319,7 @@ void Form::show_modal(Form* owner) {
 
 void Form::close() {
     if (std::exchange(closed_, true)) return;
-    // Closed from outside with a menu open: its loop would go on within the modal one until the next key.
-    EndMenu();
+    leave_system_loops();
     for (Form* form : owned_forms()) form->close();
     // A session can end while a message of the load is up. What has not been read yet must not be saved.
     if (!loading_) {

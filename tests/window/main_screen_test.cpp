@@ -150,6 +150,23 @@ TEST_F(ShellTest, TheProgramLeadsFromTheSplashToTheCheatsAndOut) {
     EXPECT_FALSE(find_form<frmMain>());
 }
 
+TEST_F(ShellTest, ClosesWhileItIsMovedByKeyboard) {
+    for (const WindowState state : {WindowState::Normal, WindowState::Minimised}) {
+        program.open_main_screen();
+        find_form<frmMain>()->set_window_state(state);
+        const HWND window = find_form<frmMain>()->window();
+        const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
+            GUITHREADINFO state{};
+            state.cbSize = sizeof state;
+            GetGUIThreadInfo(GetCurrentThreadId(), &state);
+            if (state.flags & GUI_INMOVESIZE) PostMessageW(state.hwndMoveSize, WM_CLOSE, 0, 0);
+        });
+        SendMessageW(window, WM_SYSCOMMAND, SC_MOVE, 0);
+        EXPECT_EQ(application.run(), 0);
+        KillTimer(nullptr, timer);
+    }
+}
+
 TEST_F(ShellTest, TheSecondPressOfADoubleClickOnTheSplashGoesNowhere) {
     const UINT usual_time = GetDoubleClickTime();
     SetDoubleClickTime(5000);
