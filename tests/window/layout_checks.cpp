@@ -154,6 +154,7 @@ void expect_inside(const Piece& piece) {
     RECT room{};
     GetClientRect(piece.parent, &room);
     const auto& [left, top, right, bottom] = piece.area;
+    EXPECT_FALSE(IsRectEmpty(&piece.area)) << "\"" << narrow(piece.text) << "\" has no size";
     EXPECT_TRUE(std::min(left, top) >= -rounding && right <= room.right + rounding && bottom <= room.bottom + rounding)
         << "\"" << narrow(piece.text) << "\" reaches out of its place: " << left << ", " << top << " to " << right
         << ", " << bottom << " in " << room.right << " x " << room.bottom;
