@@ -49,8 +49,8 @@ void Control::create_window(std::wstring_view text, DWORD style) {
     if (!window_) throw_last_error();
     SetPropW(window_, control_property, this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    // SetWindowSubclass looks its chain up for every message: listing 2,368 games took 190 ms that way, and takes 13 ms
-    // this way, under Wine.
+    // Wine: SetWindowSubclass looks its chain up for every message, so that listing 2,368 games took 190 ms instead of
+    // the 13 ms that it takes this way.
     system_procedure_ =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     apply_font();

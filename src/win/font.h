@@ -10,7 +10,7 @@ namespace quillomat {
 
 /// A font as a window asks for it: its size is in points and follows the window's resolution.
 struct FontSpec {
-    /// Tahoma in 8 points is what the sizes of the windows are drawn for, on every Windows and under Wine.
+    /// Tahoma in 8 points is what the sizes of the windows are drawn for.
     std::wstring name = L"Tahoma";
     double points = 8.25;
     bool bold = false;
