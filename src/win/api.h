@@ -1,6 +1,7 @@
 #pragma once
 
-// The one place where the system's headers come in. The compiler's library sets some of these for itself.
+// Other files include this one instead of <windows.h>. The guards are there because the standard library of mingw-w64
+// defines some of these macros itself.
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif
@@ -16,6 +17,6 @@
 #define _WIN32_WINNT 0x0A00
 
 #include <windows.h>
-// Needs the above.
+// These need <windows.h> before them.
 #include <commctrl.h>
 #include <windowsx.h>

@@ -9,7 +9,7 @@
 namespace quillomat {
 namespace {
 
-/// The clipboard while this program has it open.
+/// Opens the clipboard, and closes it at the end of the scope.
 class OpenClipboardScope {
   public:
     explicit OpenClipboardScope(HWND owner) {
@@ -23,7 +23,7 @@ class OpenClipboardScope {
     OpenClipboardScope& operator=(const OpenClipboardScope&) = delete;
 };
 
-/// A block of memory that can be given to the clipboard.
+/// Memory of the kind that the clipboard takes over.
 using GlobalMemory = std::unique_ptr<std::remove_pointer_t<HGLOBAL>, decltype(&GlobalFree)>;
 
 GlobalMemory global_copy(std::wstring_view text) {
@@ -45,7 +45,7 @@ bool clipboard_is_free() {
 }  // namespace
 
 void wait_for_clipboard() {
-    // Programs that watch the clipboard open it for a moment whenever it changes.
+    // Clipboard managers open the clipboard briefly after every change.
     constexpr DWORD milliseconds = 3000;
     constexpr DWORD between_attempts = 20;
     for (DWORD waited = 0; waited < milliseconds && !clipboard_is_free(); waited += between_attempts) {
@@ -54,14 +54,12 @@ void wait_for_clipboard() {
 }
 
 void put_on_clipboard(HWND owner, std::wstring_view text) {
-    // All that can fail for want of memory comes before the clipboard is touched.
+    // Copy the text first: if there is no memory for it, the clipboard keeps what it holds.
     GlobalMemory memory = global_copy(text);
     const OpenClipboardScope clipboard(owner);
-    // The system gives the clipboard to the one who empties it, and only its owner may fill it. Nobody sees it empty:
-    // it is open to this program alone.
+    // SetClipboardData works only for the window that EmptyClipboard has made the clipboard's owner.
     if (!EmptyClipboard() || !SetClipboardData(CF_UNICODETEXT, memory.get())) throw_last_error();
-    // From here on the memory is the clipboard's.
-    static_cast<void>(memory.release());
+    static_cast<void>(memory.release());  // The clipboard owns the memory now.
 }
 
 }  // namespace quillomat

@@ -6,12 +6,12 @@
 
 namespace quillomat {
 
-/// Returns as soon as no program has the clipboard open, at the latest after some seconds.
+/// Waits until no program has the clipboard open, for about three seconds at most.
 void wait_for_clipboard();
 
-/// Replaces what is on the clipboard by a text; `owner` is the program's window that has put it there. A NUL, at which
-/// readers would stop, becomes a blank. Throws `Error`: ClipboardError if another program has the clipboard open,
-/// OutOfMemory.
+/// Replaces the contents of the clipboard with a text. `owner` becomes the clipboard's owner window. A NUL becomes a
+/// blank, because readers would take it for the end of the text. Throws `Error`: ClipboardError if another program has
+/// the clipboard open, OutOfMemory if there is no memory for the copy.
 void put_on_clipboard(HWND owner, std::wstring_view text);
 
 }  // namespace quillomat

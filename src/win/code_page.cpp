@@ -23,11 +23,11 @@ bool holds_every_character(unsigned code_page) {
 /// Returns the number of bytes written (or needed, if room is 0); 0 if the code page cannot encode the text.
 int encode_into(char* bytes, int room, std::wstring_view text, unsigned code_page) {
     const auto length = static_cast<int>(text.size());
-    // These code pages lack nothing but unpaired surrogates, which they report in another way.
+    // These code pages lack only unpaired surrogates. Windows reports those by failing, and refuses the `lacking` flag.
     if (holds_every_character(code_page)) {
         return WideCharToMultiByte(code_page, WC_ERR_INVALID_CHARS, text.data(), length, bytes, room, nullptr, nullptr);
     }
-    // By default Windows writes a similar letter instead, and the text would read back differently.
+    // By default Windows writes a similar letter for a lacking one, and the text would read back differently.
     BOOL lacking = FALSE;
     const int size =
         WideCharToMultiByte(code_page, WC_NO_BEST_FIT_CHARS, text.data(), length, bytes, room, nullptr, &lacking);
@@ -68,7 +68,7 @@ void refuse_first_lacking(std::wstring_view text, unsigned code_page) {
 
 std::wstring decode(std::string_view bytes, unsigned code_page) {
     if (bytes.empty()) return {};
-    // No code page has more characters than bytes, so there is no pass to count them first.
+    // No code page decodes to more characters than bytes, so the result fits without being counted first.
     std::wstring text(bytes.size(), L'\0');
     const auto length = static_cast<int>(bytes.size());
     const int decoded = MultiByteToWideChar(code_page, 0, bytes.data(), length, text.data(), length);

@@ -7,8 +7,8 @@
 
 namespace quillomat {
 
-/// Reads a database file into a catalogue. Throws `Error` when the file cannot be opened, and as `Catalogue::load`
-/// does; once it was opened, a failure leaves the slot open for the rest of the run.
+/// Reads a database file into a catalogue. Throws `Error` as `TextFileSlot::open_for_reading`, `TextFileSlot::read_all`
+/// and `Catalogue::load` do. A failure after the file was opened leaves the slot open for the rest of the run.
 void load_catalogue(TextFileSlot& slot, const std::wstring& path, Catalogue& catalogue,
                     const Catalogue::ListName& list_name);
 

@@ -4,7 +4,7 @@
 
 #include "text/paths.h"
 #include "win/errors.h"
-// Needs what the above includes.
+// Needs <windows.h> before it.
 #include <shellapi.h>
 
 namespace quillomat {
@@ -21,13 +21,13 @@ DriveKind kind_of(UINT type) {
         case DRIVE_RAMDISK:
             return DriveKind::Memory;
         default:
-            // Also a drive of unknown type, such as one that has gone.
+            // Includes drives of unknown type, such as a drive that has just been unplugged.
             return DriveKind::Removable;
     }
 }
 
-/// Makes calls on an empty drive fail, instead of Windows asking the user for a disk. For this thread, while the object
-/// lives.
+/// Lets calls of this thread on an empty drive fail until the end of the scope. By default Windows would ask the user
+/// to insert a disk.
 class QuietDrives {
   public:
     QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former_); }
@@ -39,7 +39,7 @@ class QuietDrives {
     DWORD former_ = 0;
 };
 
-/// Owns a search through a folder and ends it.
+/// Owns the handle of a search through a folder and closes it.
 class Search {
   public:
     Search(const std::wstring& pattern, WIN32_FIND_DATAW& found)
@@ -91,7 +91,7 @@ FolderContent list_folder(const std::wstring& path) {
     WIN32_FIND_DATAW found{};
     const Search search(path_in(path, L"*"), found);
     if (!search) {
-        // The root of a disk lists no entry for itself, so an empty disk lists nothing.
+        // Every other folder has an entry ".", but an empty root folder has none, so that nothing is found in it.
         const DWORD code = GetLastError();
         const DWORD attributes = GetFileAttributesW(path.c_str());
         if (code == ERROR_FILE_NOT_FOUND && attributes != INVALID_FILE_ATTRIBUTES) return content;
@@ -108,7 +108,7 @@ FolderContent list_folder(const std::wstring& path) {
             content.files.emplace_back(name);
         }
     } while (search.next(found));
-    // A list that breaks off would look like a folder with nothing more in it.
+    // An incomplete list would look like a folder with nothing more in it.
     if (GetLastError() != ERROR_NO_MORE_FILES) throw_last_error();
     std::sort(content.folders.begin(), content.folders.end(), comes_before);
     std::sort(content.files.begin(), content.files.end(), comes_before);
@@ -126,7 +126,7 @@ Icon folder_icon(FolderState state, int size) {
     flags |= size > GetSystemMetrics(SM_CXSMICON) ? SHGFI_LARGEICON : SHGFI_SMALLICON;
     if (state == FolderState::Open) flags |= SHGFI_OPENICON;
     SHFILEINFOW info{};
-    // With SHGFI_USEFILEATTRIBUTES the shell goes by the attributes and touches no disk; the name is a placeholder.
+    // With SHGFI_USEFILEATTRIBUTES the shell uses only the attributes and accesses no disk; the name is a placeholder.
     SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info, flags);
     return Icon(info.hIcon);
 }

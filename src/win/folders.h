@@ -10,39 +10,39 @@ namespace quillomat {
 /// The kind of a drive.
 enum class DriveKind { Fixed, Removable, Optical, Network, Memory };
 
-/// A drive of the system.
+/// A drive letter of the system.
 struct Drive {
     std::wstring root;  ///< such as "C:\"
     DriveKind kind = DriveKind::Fixed;
-    /// The label of the disk; read from fixed disks only, because others may have to start first.
+    /// The label of a fixed disk; empty for other drives, which might have to spin up to be read.
     std::wstring label;
 
     bool operator==(const Drive&) const = default;
 };
 
-/// The drives of the system in the order of their letters. Touches no drive that could keep the program waiting.
+/// Returns the drives in the order of their letters. Accesses no drive that could keep the program waiting.
 std::vector<Drive> drives();
 
-/// What a folder holds, without what is hidden, in the order a user expects.
+/// The names in a folder without hidden and system ones, sorted ignoring case and with numbers by their value.
 struct FolderContent {
     std::vector<std::wstring> folders;
     std::vector<std::wstring> files;
 };
 
-/// Looks into a folder. Throws `Error`: PathNotFound, PermissionDenied, DiskNotReady, ... Takes half a minute and more
-/// where a computer or a drive has gone.
+/// Lists a folder. Throws `Error`: PathNotFound, PermissionDenied, DiskNotReady, ... May take more than half a minute
+/// if a computer or a drive does not answer.
 FolderContent list_folder(const std::wstring& path);
 
-/// False for a folder on a drive that may be far away or asleep.
+/// Returns false for a folder on a drive that may be slow to answer, such as a network or a removable drive.
 bool answers_at_once(const std::wstring& path);
 
 /// How a folder is drawn.
 enum class FolderState { Closed, Open };
 
-/// Returns the system's icon of a folder for a size in pixels; null if there is none.
+/// Returns the shell's icon for a folder, to be drawn `size` pixels large; null if there is none.
 Icon folder_icon(FolderState state, int size);
 
-/// The current folder of the process.
+/// Returns the current folder of the process.
 std::wstring current_folder();
 
 }  // namespace quillomat

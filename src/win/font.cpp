@@ -32,7 +32,7 @@ Font FontCache::get(const FontSpec& spec, int dpi) {
 }
 
 void FontCache::drop_unused() {
-    // More than all windows and their animations need together.
+    // More than all windows and their animations use together.
     constexpr std::size_t plenty = 64;
     if (fonts_.size() <= plenty) return;
     std::erase_if(fonts_, [](const auto& entry) { return entry.second.use_count() == 1; });

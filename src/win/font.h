@@ -8,9 +8,9 @@
 
 namespace quillomat {
 
-/// A font as a window asks for it: its size is in points and follows the window's resolution.
+/// The description of a font, independent of the resolution.
 struct FontSpec {
-    /// Tahoma in 8 points is what the sizes of the windows are drawn for.
+    /// The windows are laid out for Tahoma at 8.25 points.
     std::wstring name = L"Tahoma";
     double points = 8.25;
     bool bold = false;
@@ -21,12 +21,12 @@ struct FontSpec {
     friend auto operator<=>(const FontSpec&, const FontSpec&) = default;
 };
 
-/// Makes each font once for each resolution and keeps it, so that changing a control's underline at every movement of
-/// the pointer costs nothing. Of those that nobody holds it keeps some dozens, however many fonts the user tries.
+/// A font cache. Underlining a control at every mouse move creates no font, and however many fonts the user tries, only
+/// some dozens of unused ones are kept.
 class FontCache {
   public:
-    /// The font for `dpi` dots per inch, to be held for as long as it is used. A name that no font has gives the
-    /// system's nearest one.
+    /// Returns the font for a resolution of `dpi` dots per inch. The caller keeps the result for as long as it uses the
+    /// font. If no font has the name, Windows chooses a similar one.
     Font get(const FontSpec& spec, int dpi);
 
   private:
@@ -35,7 +35,7 @@ class FontCache {
     std::map<std::pair<FontSpec, int>, Font> fonts_;
 };
 
-/// The size of a text in pixels, its line breaks obeyed.
+/// Returns the size of a text in pixels. A text with line breaks is measured as several lines.
 SIZE text_extent(HFONT font, const std::wstring& text);
 
 }  // namespace quillomat

@@ -31,10 +31,10 @@ class GdiObject {
     Handle handle_ = nullptr;
 };
 
-/// A font of the system, which is deleted with its last holder.
+/// A shared font, deleted with its last owner.
 using Font = std::shared_ptr<std::remove_pointer_t<HFONT>>;
 
-/// Selects an object into a device context and puts the former one back at the end of the scope.
+/// Selects an object into a device context, and the previous object again at the end of the scope.
 class Selection {
   public:
     Selection(HDC canvas, HGDIOBJ object) : canvas_(canvas), former_(SelectObject(canvas, object)) {}
@@ -50,7 +50,7 @@ class Selection {
 /// A device context in memory, for drawing on a bitmap that is selected into it.
 class MemoryCanvas {
   public:
-    /// `like` is what it is to be compatible with, or null for the screen.
+    /// Drawing is compatible with `like`, or with the screen if `like` is null.
     explicit MemoryCanvas(HDC like) : canvas_(CreateCompatibleDC(like)) {}
     ~MemoryCanvas() { DeleteDC(canvas_); }
     MemoryCanvas(const MemoryCanvas&) = delete;
@@ -78,8 +78,8 @@ class WindowCanvas {
     HDC canvas_;
 };
 
-/// The device context of a window that paints itself. The painting ends, and the area counts as painted, even if an
-/// exception ends it.
+/// The device context for WM_PAINT. EndPaint runs even if painting throws, because Windows would otherwise send
+/// WM_PAINT again and again.
 class PaintCanvas {
   public:
     explicit PaintCanvas(HWND window) : window_(window), canvas_(BeginPaint(window, &paint_)) {}
@@ -88,7 +88,7 @@ class PaintCanvas {
     PaintCanvas& operator=(const PaintCanvas&) = delete;
 
     HDC get() const { return canvas_; }
-    /// What needs painting, in pixels.
+    /// The area that needs painting, in pixels.
     const RECT& area() const { return paint_.rcPaint; }
 
   private:
@@ -97,14 +97,13 @@ class PaintCanvas {
     HDC canvas_;
 };
 
-/// The colour as the system wants it, with system colours looked up in the user's theme.
+/// Returns the colour as GDI takes it, with system colours looked up in the user's theme.
 inline COLORREF resolve(Colour colour) {
     return colour.follows_theme() ? GetSysColor(static_cast<int>(colour.value & 0xFF)) : colour.value;
 }
 
-/// The colour for a text on a background: the text's own where that can be read, else black or white. Two colours of
-/// the user's theme are taken as they are. For texts of a fixed colour on the theme's background, or the other way
-/// round.
+/// Returns the text's colour if it can be read on the background, otherwise black or white: a fixed colour may have no
+/// contrast with a colour of the user's theme. Two colours of the theme are assumed to go together.
 COLORREF legible(Colour text, Colour background);
 
 /// Fills a rectangle of pixels without creating a brush.
@@ -113,10 +112,10 @@ inline void fill(HDC canvas, const RECT& area, Colour colour) {
     FillRect(canvas, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
-/// Blends a colour over a rectangle of pixels: an `opacity` of 0 leaves what is there, 255 fills the rectangle.
+/// Blends a colour over a rectangle of pixels. An `opacity` of 0 changes nothing, 255 fills the rectangle.
 void blend(HDC canvas, const RECT& area, Colour colour, BYTE opacity);
 
-/// Collects the drawing of one area in memory and shows it at once at the end of the scope, so that nothing flickers.
+/// Draws an area into a bitmap and copies it to the target at the end of the scope, so that nothing flickers.
 class BufferedCanvas {
   public:
     /// `area` is in pixels of `target`; drawing on `canvas()` uses the same coordinates.

@@ -16,16 +16,16 @@ struct FoundFonts {
     std::exception_ptr failure;
 };
 
-// The system reports a font once for each of its scripts.
+// Windows reports a font once for each script it supports.
 int CALLBACK add_font(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM parameter) {
     auto& found = *reinterpret_cast<FoundFonts*>(parameter);
     try {
         const std::wstring name = font->lfFaceName;
-        // Those with an "@" are others once more, turned for writing downwards.
+        // A font whose name begins with "@" is another font turned for vertical writing.
         if (!name.empty() && name.front() != L'@' && found.known.insert(name).second) found.names.push_back(name);
         return 1;
     } catch (...) {
-        // An exception must not unwind through the frames of Windows.
+        // An exception must not propagate into Windows, which calls this function.
         found.failure = std::current_exception();
         return 0;
     }

@@ -5,14 +5,14 @@
 
 namespace quillomat {
 
-/// Fonts that can be shown on the screen, by position: the first one is at 0.
+/// The fonts of the screen, numbered from 0.
 struct ScreenFonts {
     int count = 0;
-    /// The name of the font at a position; empty where there is none.
+    /// Returns the name of the font at a position; empty if there is none.
     std::function<std::wstring(int position)> name;
 };
 
-/// The fonts that are installed now, each once, in the system's order.
+/// Returns the fonts that are installed now, each once, in the order in which Windows reports them.
 ScreenFonts installed_fonts();
 
 }  // namespace quillomat

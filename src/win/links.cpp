@@ -1,7 +1,7 @@
 #include "win/links.h"
 
 #include "win/api.h"
-// Need the above.
+// These need <windows.h> before them.
 #include <objbase.h>
 #include <shellapi.h>
 

@@ -7,8 +7,8 @@
 namespace quillomat {
 namespace {
 
-// The structures of Simple MAPI, for its narrow and its wide functions. Declared here because not every compiler's
-// headers have the wide ones.
+// The structures of Simple MAPI, for its narrow and its wide functions. They are declared here because not every
+// compiler's headers have the wide ones.
 template <class Character>
 struct MapiRecipient {
     ULONG reserved;
@@ -55,7 +55,7 @@ using SendFunction = ULONG WINAPI(std::uintptr_t session, ULONG_PTR owner, MapiM
 constexpr ULONG show_logon_dialog = 0x1;
 constexpr ULONG kind_to = 1;
 constexpr ULONG outside_of_text = 0xFFFFFFFF;
-// MAPI_FORCE_UNICODE: refuses a message rather than replacing characters that the mail program cannot take.
+// MAPI_FORCE_UNICODE: a mail program that knows no Unicode refuses the message instead of replacing characters.
 constexpr ULONG keep_every_character = 0x40000;
 
 [[noreturn]] void fail(MailResult result) {
@@ -71,7 +71,7 @@ Function* find(HMODULE library, const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
-/// True if a mail program has registered below `root` how it is called.
+/// Returns true if a mail program with a MAPI library is registered below `root`.
 bool is_registered_below(HKEY root) {
     RegistryKey programs;
     if (RegOpenKeyExW(root, L"Software\\Clients\\Mail", 0, KEY_READ, programs.receive()) != ERROR_SUCCESS) return false;
@@ -89,9 +89,9 @@ bool is_registered_below(HKEY root) {
     return false;
 }
 
-/// The system's library through which the user's default mail program is called.
+/// Loads the library of Windows that calls the user's default mail program.
 HMODULE load_library() {
-    // Without any mail program the system's library would show a message of its own first.
+    // If no mail program is registered, mapi32.dll would first show a message box of its own.
     if (!is_registered_below(HKEY_CURRENT_USER) && !is_registered_below(HKEY_LOCAL_MACHINE)) {
         fail_without_mail_program();
     }
@@ -100,7 +100,7 @@ HMODULE load_library() {
     return library;
 }
 
-/// The texts of a mail in the characters of a send function.
+/// The texts of a mail in the encoding of one of the two send functions.
 template <class Text>
 struct Texts {
     Text address, name, subject, text, attachment;
@@ -145,13 +145,13 @@ MailSession::MailSession(HWND owner) : owner_(owner), library_(load_library()) {
             ? MailResult{log_on(reinterpret_cast<ULONG_PTR>(owner), nullptr, nullptr, show_logon_dialog, 0, &session_)}
             : MailResult::NotSupported;
     if (result == MailResult::Success) return;
-    // Unloaded, the library looks for a mail program again at the next attempt: the user may have set one up.
+    // Unload the library: it looks for a mail program only once, and the user may set one up before the next attempt.
     FreeLibrary(library_);
     fail(result);
 }
 
 MailSession::~MailSession() {
-    // Nothing was sent, and the user is about to be told why.
+    // Without a call of `end`, an exception is about to tell the user what failed; the result adds nothing.
     if (!ended_) sign_off();
 }
 
@@ -162,7 +162,7 @@ void MailSession::end() {
 
 MailResult MailSession::sign_off() {
     ended_ = true;
-    // The library stays loaded: some mail programs have threads of their own in it that go on working.
+    // The library stays loaded, because threads of some mail programs continue to run in it.
     const auto log_off = find<LogoffFunction>(library_, "MAPILogoff");
     if (!log_off) return MailResult::NotSupported;
     return MailResult{log_off(session_, reinterpret_cast<ULONG_PTR>(owner_), 0, 0)};

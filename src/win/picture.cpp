@@ -29,7 +29,7 @@ GdiObject<HBITMAP> Picture::bitmap(int pixels) const {
     if (!bitmap) return bitmap;
     const MemoryCanvas memory(nullptr);
     const Selection selected(memory.get(), bitmap.get());
-    // Blending onto transparent black leaves the alpha and the colours multiplied by it.
+    // Drawn onto transparent black, the icon leaves its alpha and its colours multiplied by the alpha.
     draw(memory.get(), {0, 0, pixels, pixels});
     GdiFlush();
     return bitmap;

@@ -14,7 +14,7 @@ struct IconDestroyer {
 /// Owns an icon and destroys it.
 using Icon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer>;
 
-/// A picture of the program: an icon among its resources, drawn for several sizes.
+/// A picture of the program: an icon resource that holds images of several sizes.
 class Picture {
   public:
     /// No picture.
@@ -23,15 +23,15 @@ class Picture {
 
     explicit operator bool() const { return resource_ != 0; }
 
-    /// Whether it is the same one, and an order for looking it up.
     // NOLINTNEXTLINE(modernize-use-nullptr): it means the zero in the comparison that the compiler makes.
     friend auto operator<=>(const Picture&, const Picture&) = default;
 
-    /// Draws it into `area`, in pixels, from the size drawn for it.
+    /// Draws the picture into `area`, in pixels, using the image of the nearest size.
     void draw(HDC canvas, const RECT& area) const;
-    /// Returns a square bitmap of 32 bits with premultiplied alpha, as menus blend it; a null handle if there is none.
+    /// Returns the picture as a square bitmap of 32 bits with premultiplied alpha, as menus take it. The handle is null
+    /// if Windows cannot create the bitmap.
     GdiObject<HBITMAP> bitmap(int pixels) const;
-    /// An icon of it, as windows take it.
+    /// Returns the picture as a square icon, as windows take it; null if there is none.
     Icon icon(int pixels) const;
 
   private:

@@ -6,7 +6,7 @@
 #include "text/rounding.h"
 #include "text/twips.h"
 #include "win/errors.h"
-// Needs the system's other headers before it.
+// Needs <windows.h> before it.
 #include <winspool.h>
 
 namespace quillomat {
@@ -26,8 +26,8 @@ constexpr wchar_t no_printer[] =
     throw Error(ErrorCode::PrinterError, L"Printing was cancelled.");
 }
 
-/// Throws the error that the printing system set last. Failures of a port or a driver have numbers that tell a user
-/// nothing ("Invalid handle."), so that the printer is named instead.
+/// Throws the error that the printing system set last. The system's descriptions for failures of a port or a driver,
+/// such as "Invalid handle.", mean nothing to a user; the error names the printer instead.
 [[noreturn]] void throw_print_error(const std::wstring& printer) {
     const DWORD code = GetLastError();
     if (code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED) throw_cancelled();
@@ -57,7 +57,7 @@ void printed(const std::wstring& printer, const Call& call) {
     }
 }
 
-/// The name of the default printer; empty when there is none.
+/// Returns the name of the default printer; empty if there is none.
 std::wstring default_printer_name() {
     DWORD size = 0;
     GetDefaultPrinterW(nullptr, &size);
@@ -170,7 +170,7 @@ void PrintJob::start_page() {
         font_.reset(CreateFontIndirectW(&description));
     }
     former_font_ = SelectObject(canvas_, font_.get());
-    // An opaque background would wipe out the rules near the text.
+    // An opaque text background would cover lines drawn close to the text.
     SetBkMode(canvas_, TRANSPARENT);
 }
 

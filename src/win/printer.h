@@ -15,28 +15,28 @@ class PrintDevice {
   public:
     virtual ~PrintDevice() = default;
 
-    /// Begins a document that the print queue shows under a name. Throws `Error`, as the others do.
+    /// Begins a document, which the print queue shows under `name`. Throws `Error`, like the other functions.
     virtual void start_document(const std::wstring& name) = 0;
-    /// Begins a page; what is drawn on the canvas until its end is printed. The canvas is the device's.
+    /// Begins a page and returns the canvas to draw it on. The device owns the canvas.
     virtual HDC start_page() = 0;
     virtual void end_page() = 0;
     /// Hands the document to the printer.
     virtual void end_document() = 0;
-    /// Takes the document back; nothing more of it is printed.
+    /// Cancels the document; nothing more of it is printed.
     virtual void abort_document() noexcept = 0;
 };
 
-/// The printer that the user has chosen as the default one.
+/// The user's default printer.
 class DefaultPrinter final : public PrintDevice {
   public:
-    /// Throws `Error` with PrinterError when there is none or it can't be used.
+    /// Throws `Error` with PrinterError if there is no default printer or it cannot be used.
     DefaultPrinter();
     ~DefaultPrinter() override;
     DefaultPrinter(const DefaultPrinter&) = delete;
     DefaultPrinter& operator=(const DefaultPrinter&) = delete;
 
-    /// Throws `Error`: Cancelled if the user cancels, DiskFull, OutOfMemory, or PrinterError, also if the job was
-    /// deleted from its queue.
+    /// Throws `Error`: Cancelled if the user cancels the dialog of a driver that prints to a file, DiskFull,
+    /// OutOfMemory, or PrinterError for everything else.
     void start_document(const std::wstring& name) override;
     HDC start_page() override;
     void end_page() override;
@@ -54,10 +54,10 @@ using PrinterFactory = std::function<std::unique_ptr<PrintDevice>()>;
 /// Throws as the constructor of `DefaultPrinter` does.
 std::unique_ptr<PrintDevice> open_default_printer();
 
-/// A document while it is printed: a page in twips, on which text goes from a print position downward and on to as many
-/// pages as it needs. Positions count from the corner of the printable area, so that nothing is cut off.
+/// A document that is being printed. Text flows from a print position down the page and on to further pages. Positions
+/// are in twips from the upper left corner of the printable area, so that nothing is cut off.
 ///
-/// Every operation throws `Error` with PrinterError (or what the device throws) when the printer refuses. A job that is
+/// Every function throws what the device throws, and `Error` with PrinterError if drawing fails. A job that is
 /// destroyed before its `end` prints nothing.
 class PrintJob {
   public:
@@ -67,13 +67,13 @@ class PrintJob {
     PrintJob(const PrintJob&) = delete;
     PrintJob& operator=(const PrintJob&) = delete;
 
-    /// Where the next line of text begins, in twips. Lines on further pages begin at the same place.
+    /// Sets where the next line of text begins, in twips. The first line of each further page begins there, too.
     void set_position(double left, double top);
-    /// Prints a text from the print position on, every line of its own, and moves the position below it. What is too
-    /// wide for the page goes on in further lines.
+    /// Prints the lines of a text from the print position on, and moves the position below them. A line that is too
+    /// wide for the page is broken.
     void print(std::wstring_view text);
 
-    /// In the printer's dots.
+    /// Sets the width of drawn lines, in dots of the printer.
     void set_line_width(int dots) { line_width_ = dots; }
     /// Draws a line on the current page, in twips; the print position stays.
     void draw_line(double left, double top, double right, double bottom);

@@ -10,7 +10,7 @@
 namespace quillomat {
 namespace {
 
-/// The largest file that is read, in bytes: its length has to fit into an int to be decoded.
+/// The largest file that is read, in bytes. Windows decodes at most as many bytes as an int counts.
 constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
 
 LONGLONG size_of(HANDLE file) {
@@ -19,7 +19,8 @@ LONGLONG size_of(HANDLE file) {
     return size.QuadPart;
 }
 
-/// Writes in one call, and returns only when the disk has the bytes: one behind a cache may refuse as late as that.
+/// Writes the bytes with one call and waits until they are on the disk: behind a cache, writing can fail as late as
+/// that.
 void write_flushed(HANDLE file, std::string_view bytes) {
     DWORD written = 0;
     if (!WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) throw_last_error();
@@ -33,7 +34,7 @@ bool seek(HANDLE file, LONGLONG position) {
     return SetFilePointerEx(file, distance, nullptr, FILE_BEGIN) != FALSE;
 }
 
-/// A file that may not be changed stays as it is, even where the rights to its folder would allow replacing it.
+/// Throws PermissionDenied for a read-only file or a folder, even if the rights to the folder above allow replacing it.
 void check_changeable(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) return;
@@ -54,7 +55,7 @@ class Closing {
 
 enum class AtClosing { Keep, Delete };
 
-/// Sets what Windows does with a file when its handle is closed, even by the end of the process.
+/// Sets what Windows does with a file when its handle is closed, even if the process is killed.
 void set_fate(HANDLE file, AtClosing fate) {
     FILE_DISPOSITION_INFO info{fate == AtClosing::Delete};
     if (!SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info)) throw_last_error();
@@ -75,7 +76,7 @@ DWORD wait_for_file(const std::function<bool()>& call) {
     return code;
 }
 
-/// The path of the file itself if `path` is a link to it, else `path`.
+/// Returns the path of the file that `path` links to, or `path` if it is no link.
 std::wstring link_target(const std::wstring& path) {
     const FileHandle file(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0,
@@ -84,22 +85,22 @@ std::wstring link_target(const std::wstring& path) {
     std::wstring target(GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
     const DWORD length =
         GetFinalPathNameByHandleW(file.get(), target.data(), static_cast<DWORD>(target.size()), FILE_NAME_NORMALIZED);
-    // Drivers of some memory disks and network drives cannot tell the name.
+    // The drivers of some RAM disks and network drives cannot tell the name.
     if (length == 0 || length >= target.size()) return path;
     target.resize(length);
     return target;
 }
 
-/// Puts a new file in the place of another one, whose rights, attributes and times it takes over.
+/// Replaces a file with a new one, which takes over the rights, attributes and times of the old one.
 void put_in_place(const std::wstring& new_file, const std::wstring& path) {
     DWORD code = wait_for_file([&] {
         return ReplaceFileW(path.c_str(), new_file.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                             nullptr) != 0;
     });
-    // There was no old file; or the old one has gone already, and the new one has not come into its place.
+    // There was no old file, or ReplaceFile has removed it and then failed to move the new one.
     if (code == ERROR_FILE_NOT_FOUND || code == ERROR_UNABLE_TO_MOVE_REPLACEMENT) {
         code = wait_for_file([&] {
-            // Another program may have made one meanwhile.
+            // Replaces as well, because another program may have created a file meanwhile.
             return MoveFileExW(new_file.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
         });
     }
@@ -128,7 +129,7 @@ void TextFileSlot::open(const std::wstring& path, DWORD access, DWORD share, DWO
 }
 
 void TextFileSlot::open_for_reading(const std::wstring& path) {
-    // The slot may stay open for long; that must not keep the user from mending the file.
+    // The slot may stay open for long. Share everything, so that the user can still repair the file.
     open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
 }
 
@@ -146,7 +147,7 @@ std::wstring TextFileSlot::read_all() try {
 void TextFileSlot::append(const std::wstring& path, std::wstring_view text) {
     const std::string bytes = encode(text);
     check_changeable(path);
-    // Nobody else may write meanwhile, so that what is cut off again after a failure is this text and nothing more.
+    // Deny others writing, so that cutting the file back after a failure removes only this text.
     open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
     const Closing closing(file_);
     const LONGLONG old_size = size_of(file_.get());
@@ -167,7 +168,7 @@ void TextFileSlot::replace(const std::wstring& path, std::wstring_view text) {
     try {
         {
             const Closing closing(file_);
-            // An unfinished file goes with its handle, even if the program is ended.
+            // Until the file is complete, Windows deletes it when its handle is closed.
             set_fate(file_.get(), AtClosing::Delete);
             write_flushed(file_.get(), bytes);
             set_fate(file_.get(), AtClosing::Keep);

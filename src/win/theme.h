@@ -1,16 +1,16 @@
 #pragma once
 
 #include "win/api.h"
-// Need the above.
+// These need <windows.h> before them.
 #include <uxtheme.h>
 #include <vssym32.h>
 
 namespace quillomat {
 
-/// The parts of a visual style for one class of control at one resolution; none in the classic look.
+/// The visual style of a class of controls at a resolution. Converts to false in the classic look, which has none.
 class Theme {
   public:
-    /// `parts` is the name of the control class, such as L"BUTTON".
+    /// `parts` is the name of the class, such as L"BUTTON".
     Theme(HWND window, const wchar_t* parts, int dpi);
     ~Theme() {
         if (handle_) CloseThemeData(handle_);
@@ -19,7 +19,7 @@ class Theme {
     Theme& operator=(const Theme&) = delete;
 
     explicit operator bool() const { return handle_ != nullptr; }
-    /// Draws a part into an area in pixels.
+    /// Draws a part into an area, in pixels.
     void draw(HDC canvas, int part, int state, const RECT& area) const {
         DrawThemeBackground(handle_, canvas, part, state, &area, nullptr);
     }

@@ -16,7 +16,7 @@ BOOL CALLBACK collect(HWND window, LPARAM parameter) {
         collected.windows.push_back(window);
         return TRUE;
     } catch (...) {
-        // An exception must not unwind through the frames of Windows.
+        // An exception must not propagate into Windows, which calls this function.
         collected.failure = std::current_exception();
         return FALSE;
     }

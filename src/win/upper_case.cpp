@@ -7,7 +7,7 @@
 namespace quillomat {
 
 void upper_case(wchar_t* characters, std::size_t length) {
-    // The system counts in 32 bits.
+    // CharUpperBuff takes a length of 32 bits.
     constexpr std::size_t most_at_once = 1U << 30;
     for (std::size_t done = 0; done < length; done += most_at_once) {
         CharUpperBuffW(characters + done, static_cast<DWORD>(std::min(length - done, most_at_once)));

@@ -11,11 +11,11 @@
 namespace quillomat {
 namespace {
 
-/// True in the thread of a worker. Windows calls an exception filter in the thread that crashed, and passes nothing
-/// along by which the filter could know the thread otherwise.
+/// True in the thread of a worker. Windows calls the exception filter in the thread that crashed, with no argument that
+/// tells whose thread it is.
 thread_local bool is_worker_thread = false;
 
-/// Ends only the thread if a library called by a worker has crashed.
+/// Ends only the thread if a worker has crashed.
 LONG WINAPI end_crashed_worker(EXCEPTION_POINTERS*) {
     if (is_worker_thread) ExitThread(EXIT_FAILURE);
     return EXCEPTION_CONTINUE_SEARCH;
@@ -35,7 +35,7 @@ Worker::Worker(std::function<void()> work) : task_(std::make_shared<Task>()) {
     auto passed = std::make_unique<std::shared_ptr<Task>>(task_);
     thread_ = reinterpret_cast<HANDLE>(_beginthreadex(nullptr, 0, run, passed.get(), 0, nullptr));
     if (!thread_) throw Error(ErrorCode::OutOfMemory);
-    static_cast<void>(passed.release());  // now the thread's
+    static_cast<void>(passed.release());  // The thread owns it now.
 }
 
 unsigned __stdcall Worker::run(void* passed) {

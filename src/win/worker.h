@@ -7,22 +7,22 @@
 
 namespace quillomat {
 
-/// Runs a work on a thread of its own. A work that crashes ends its thread, not the program.
+/// Runs a function on a thread of its own. If the function crashes, only the thread ends, not the program.
 class Worker {
   public:
-    /// Starts the work. Throws `Error` with OutOfMemory if there is no room for another thread.
+    /// Starts the thread. Throws `Error` with OutOfMemory if Windows cannot create it.
     explicit Worker(std::function<void()> work);
-    /// Waits for the end of the work, unless it was left alone.
+    /// Waits for the thread to end, unless it was left alone.
     ~Worker();
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
 
-    /// Signalled once the work has ended.
+    /// A handle that is signalled when the thread has ended.
     HANDLE thread() const { return thread_; }
-    /// Lets the work go on by itself.
+    /// Lets the thread run on alone; the destructor no longer waits for it.
     void leave_alone() { left_alone_ = true; }
-    /// Waits for the end of the work. Rethrows the exception that left it; throws `Error` with Crashed if it has
-    /// crashed.
+    /// Waits for the thread to end. Rethrows the exception that left the function. Throws `Error` with Crashed if the
+    /// function has crashed.
     void join() const;
 
   private:
