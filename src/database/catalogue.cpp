@@ -11,10 +11,10 @@
 namespace quillomat {
 namespace {
 
-/// A line without its end.
+/// A line without its line break.
 struct Line {
     std::wstring_view text{};
-    bool has_lone_return = false;  ///< ended by a CR without LF
+    bool has_lone_return = false;  ///< The line break is a CR without LF.
 };
 
 /// Removes the first line from a text.
@@ -31,7 +31,7 @@ bool is_name_line(std::wstring_view line) {
            std::min(line.find_first_not_of(record_marker_character), line.size()) >= record_marker_length;
 }
 
-/// The lines of a game and the name line that closes them, which is empty at the end of the text.
+/// The lines of a game and the name line that closes the record. The name line is empty if the text ends before it.
 struct Record {
     std::wstring_view lines{};
     bool has_lone_returns = false;
@@ -54,7 +54,7 @@ Record take_record(std::wstring_view& text) {
     return record;
 }
 
-/// The lines with every CR made a CR LF.
+/// Returns the lines with every line break made a CR LF.
 std::wstring with_whole_line_ends(std::wstring_view lines) {
     std::wstring whole;
     while (!lines.empty()) {
@@ -66,7 +66,7 @@ std::wstring with_whole_line_ends(std::wstring_view lines) {
     return whole;
 }
 
-/// The lines of a record joined: empty lines at the beginning are dropped, and the line end of the last one.
+/// Returns the lines of a record without empty lines at the beginning and without the last line break.
 std::wstring_view joined_lines(std::wstring_view lines) {
     while (lines.starts_with(line_end)) lines.remove_prefix(line_end.size());
     if (lines.ends_with(line_end)) lines.remove_suffix(line_end.size());
@@ -95,7 +95,7 @@ void Catalogue::load(std::wstring text, const ListName& list_name) {
             cheats_[number] = own_games_[number].cheats = joined_lines(with_whole_line_ends(record.lines));
         }
         if (record.name_line.empty()) return;
-        // The separator is missing altogether, so there is nothing a name could stand behind.
+        // The line ends with the marker: there is neither a separator nor a name.
         if (record.name_line.size() == record_marker_length) throw Error(ErrorCode::InvalidArgument);
         names_[number] = record.name_line.substr(record_marker_length + 1);
         list_name(names_[number]);

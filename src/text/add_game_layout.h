@@ -4,12 +4,12 @@
 
 namespace quillomat {
 
-/// What the window for adding a game is no smaller than.
+/// The minimum size of the window for adding a game.
 inline constexpr WindowSize add_game_minimum_size{5715, 3960};
 
-/// Where the controls of the window for adding a game stand, in twips.
+/// The layout of the window for adding a game, in twips.
 struct AddGameLayout {
-    double margin = 0;  ///< left of both boxes, and right of them
+    double margin = 0;  ///< to the left and to the right of both boxes
     double box_width = 0;
     double cheats_height = 0;
     double add_left = 0;
@@ -20,7 +20,7 @@ struct AddGameLayout {
 
 inline constexpr double add_game_button_height = 375;
 
-/// The layout for the outer and the inner size of the window.
+/// Returns the layout for the outer and the inner size of the window.
 AddGameLayout add_game_layout(const WindowSize& outer, const WindowSize& inner);
 
 }  // namespace quillomat

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double first_turn = 0.1;
 constexpr double turn_step = 0.01;
-// A little less than 2 pi, so that the picture jumps by a hair once a turn.
+// A little less than 2 pi, so that the picture jumps slightly once a turn.
 constexpr double full_turn = 6.28;
 
 constexpr int last_icon = 2;

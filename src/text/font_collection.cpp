@@ -6,7 +6,7 @@ namespace quillomat {
 
 CollectionProgress collection_progress(int collected, int count) {
     if (count < 1) return {};
-    // From the number of fonts instead of a growing sum, so that no rounding piles up and a full bar is full.
+    // Computed from the number of fonts: with a growing sum, rounding errors would add up.
     return {full_progress_bar * collected / count, static_cast<int>(std::int64_t{100} * collected / count)};
 }
 

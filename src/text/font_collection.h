@@ -7,7 +7,7 @@ namespace quillomat {
 /// The width of a full progress bar, in twips.
 inline constexpr double full_progress_bar = 8775;
 
-/// How far a collection of fonts has come.
+/// The progress of collecting fonts.
 struct CollectionProgress {
     double bar_width = 0;  ///< in twips
     int percent = 0;
@@ -15,14 +15,14 @@ struct CollectionProgress {
     bool operator==(const CollectionProgress&) const = default;
 };
 
-/// After `collected` of `count` fonts; a collection of none has not begun.
+/// Returns the progress after `collected` of `count` fonts; none if `count` is 0.
 CollectionProgress collection_progress(int collected, int count);
 
-/// The progress window's caption while fonts are collected.
+/// Returns the progress window's caption, with the seconds since the start.
 std::wstring collection_caption(int percent, int seconds);
 
-/// The top of the progress window in twips: below the viewer where the screen has room for that, else at the screen's
-/// lower end.
+/// Returns the top of the progress window, in twips: below the viewer if the screen has room there, otherwise near the
+/// screen's lower edge.
 double progress_window_top(double viewer_bottom, double height, double screen_height);
 
 }  // namespace quillomat

@@ -6,7 +6,7 @@
 
 namespace quillomat {
 
-/// Numbers of games, both included, as users count them: from 1.
+/// A range of games, both ends included, numbered from 1.
 struct GameRange {
     int first = 0;
     int last = 0;
@@ -14,14 +14,14 @@ struct GameRange {
     friend bool operator==(const GameRange&, const GameRange&) = default;
 };
 
-/// Returns the number of games in the typed range as decimal text; below 1 if the last number is less than the first. A
-/// text counts as the number it begins with, an empty one as 0.
+/// Returns the number of games in the typed range as decimal text; it is below 1 if the last number is less than the
+/// first. A text stands for the number it begins with, or for 0.
 std::wstring typed_range_total(std::wstring_view first, std::wstring_view last);
 
-/// Returns the typed range; nothing unless both numbers are typed, in order, and from 1 to `count`.
+/// Returns the typed range, or nothing unless both numbers are from 1 to `count` and in order.
 std::optional<GameRange> typed_range(std::wstring_view first, std::wstring_view last, int count);
 
-/// The message for a range that is not valid.
+/// Returns the message for an invalid range.
 std::wstring typed_range_hint(int count);
 
 }  // namespace quillomat

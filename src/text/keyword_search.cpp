@@ -18,7 +18,7 @@ bool occurs_in(std::wstring_view text, std::wstring_view keyword) {
         const std::size_t count = std::min(block_size, text.size() - keyword.size() + 1);
         const wchar_t* starts = text.data();
         const wchar_t* ends = starts + keyword.size() - 1;
-        // Without a branch, so that the compiler compares as many characters at once as fit into a vector register.
+        // No branch in the loop, so that the compiler vectorises it.
         for (std::size_t i = 0; i < count; ++i) {
             candidates[i] = static_cast<std::uint8_t>((starts[i] == first) & (ends[i] == last));
         }

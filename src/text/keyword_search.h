@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// Whether a keyword occurs in a text, by plain comparison of characters. An empty keyword occurs in every text.
+/// Returns true if the text contains the keyword in the same letter case. Every text contains an empty keyword.
 bool occurs_in(std::wstring_view text, std::wstring_view keyword);
 
 }  // namespace quillomat

@@ -7,8 +7,8 @@ namespace quillomat {
 /// Converts `length` characters to upper case in place; their number stays the same.
 using UpperCase = void (*)(wchar_t* characters, std::size_t length);
 
-/// The upper case of a letter from a to z; any other character as it is. For names and words that are the same in every
-/// language, such as extensions and device names.
+/// Returns the upper case of a letter from a to z, and any other character unchanged. For words that are the same in
+/// every language, such as extensions and device names.
 constexpr wchar_t ascii_upper_case(wchar_t letter) {
     if (letter < L'a' || letter > L'z') return letter;
     return static_cast<wchar_t>(letter - L'a' + L'A');

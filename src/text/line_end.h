@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// What separates two lines in every text of the program: in files, text boxes and on the clipboard alike.
+/// The line break of every text in the program: in files, in text boxes and on the clipboard.
 inline constexpr std::wstring_view line_end = L"\r\n";
 
 }  // namespace quillomat

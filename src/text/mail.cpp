@@ -16,7 +16,7 @@ void append_lines(std::wstring& text, std::initializer_list<std::wstring_view> l
     for (const std::wstring_view line : lines) text.append(line).append(line_end);
 }
 
-/// The message and the separator below it, between empty lines.
+/// Returns the message and, between empty lines, the separator below it.
 std::wstring body_beginning(std::wstring_view message) {
     std::wstring body;
     append_lines(body, {message, {}, separator, {}});
@@ -60,7 +60,7 @@ std::wstring cheats_mail_caption(std::wstring_view recipient) {
 }
 
 std::optional<int> placeholder_length(std::wstring_view selected) {
-    // Some versions of the system's text box select the blank behind a word as well.
+    // A double-click selects the blank after a word as well, but not in every version of Windows.
     if (selected == L"[FRIEND'S " || selected == L"[FRIEND'S") return 15;
     if (selected == L"[YOUR " || selected == L"[YOUR") return 11;
     return std::nullopt;

@@ -7,7 +7,7 @@
 
 namespace quillomat {
 
-/// The message with which the windows that send mails open.
+/// The message that is shown when a window for sending mail opens.
 inline constexpr wchar_t mail_requirements[] =
     L"To send messages from Quillomat, you need an e-mail client such as Outlook Express, MS Outlook, Netscape, "
     L"Eudora, etc. You also need to have a POP3 e-mail account on one of these clients. You cannot send e-mail from "
@@ -19,19 +19,19 @@ struct MailedGame {
     std::wstring_view cheats;
 };
 
-/// The cheats of several games, each below its name in a frame of asterisks.
+/// Returns the cheats of several games, each below its name in a frame of asterisks.
 std::wstring mailed_cheats(const std::vector<MailedGame>& games);
 
-/// The subject of a mail with cheats, from the names of sender and recipient.
+/// Returns the subject of a mail with cheats. `sender` and `recipient` are names.
 std::wstring cheats_mail_subject(std::wstring_view sender, std::wstring_view recipient);
-/// The text of a mail whose cheats are in an attachment: the message and the footer.
+/// Returns the text of a mail whose cheats are attached: the message and the footer.
 std::wstring cheats_mail_body(std::wstring_view message);
-/// The text of a mail that holds the cheats itself.
+/// Returns the text of a mail that contains the cheats.
 std::wstring cheats_mail_body(std::wstring_view message, std::wstring_view cheats);
-/// The caption of the window that mails cheats.
+/// Returns the caption of the window that mails cheats.
 std::wstring cheats_mail_caption(std::wstring_view recipient);
 
-/// Returns the length of the whole placeholder if `selected` is the part of one that a double-click selects; nothing
+/// Returns the length of the whole placeholder if `selected` is the part of it that a double-click selects, or nothing
 /// for any other text.
 std::optional<int> placeholder_length(std::wstring_view selected);
 
@@ -42,7 +42,7 @@ inline constexpr const wchar_t* canned_subjects[] = {
     L"Quillomat sucks!",         L"Is this the best you got?",
 };
 
-/// The subject under which the author gets a message.
+/// Returns the subject of the mail for a message to the author.
 std::wstring author_mail_subject(std::wstring_view subject);
 
 }  // namespace quillomat

@@ -3,7 +3,7 @@
 namespace quillomat {
 namespace {
 
-/// What happened, from the middle of a sentence on; null for a result that tells a user nothing.
+/// Returns the second half of a sentence that tells what happened, or null for a result that means nothing to a user.
 const wchar_t* reason(MailResult result) {
     switch (result) {
         case MailResult::UserAbort:

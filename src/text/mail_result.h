@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// The results of Simple MAPI that mean something to a user. Other numbers occur.
+/// The results of Simple MAPI that mean something to a user. Mail programs return other numbers, too.
 enum class MailResult : unsigned {
     Success = 0,
     UserAbort = 1,
@@ -30,17 +30,17 @@ enum class MailResult : unsigned {
     UnicodeNotSupported = 27,
 };
 
-/// What to tell the user when a mail program has not sent a mail: what happened and, where there is something, what to
-/// do about it. For any number, known or not.
+/// Returns the message for a mail that was not sent: what happened and, if possible, what the user can do about it.
+/// `result` may be any number.
 std::wstring mail_failure_description(MailResult result);
 
-/// What to tell the user when a mail program took a mail, but then failed to sign off.
+/// Returns the message for a mail program that took a mail, but then failed to sign off.
 std::wstring sign_off_failure_description(MailResult result);
 
-/// What to tell the user when a mail program has crashed while it had the message.
+/// Returns the message for a mail program that crashed during the session.
 std::wstring mail_crash_description();
 
-/// What to tell a user whose computer has no program to send mails with.
+/// Returns the message for a computer without a mail program.
 std::wstring no_mail_program_description();
 
 }  // namespace quillomat

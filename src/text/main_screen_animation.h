@@ -14,7 +14,7 @@ struct ColourCycle {
 /// Returns the cycle one tick after `step`.
 ColourCycle next_colour_cycle(int step);
 
-/// The buttons of the exit question, in twips.
+/// The changing sizes and positions of the buttons of the exit question, in twips.
 struct ExitConfirmation {
     double exit_width = 0;
     double yes_top = 0;
@@ -23,16 +23,16 @@ struct ExitConfirmation {
     bool operator==(const ExitConfirmation&) const = default;
 };
 
-/// Where the buttons stand while nothing is asked.
+/// The exit button's width and the answers' top edge while nothing is asked.
 inline constexpr double exit_width_resting = 5415;
 inline constexpr double answer_top_resting = 4588.138;
 
-/// Returns the next step while the exit button shrinks and the answers rise, or while both go back. `current` is what
-/// the window reports, rounded to pixels.
+/// Returns the next step while the exit button shrinks and the answers rise, or while both go back. `current` comes
+/// from the window, rounded to pixels.
 ExitConfirmation next_asking(const ExitConfirmation& current);
 ExitConfirmation next_withdrawing(const ExitConfirmation& current);
-/// Returns whether the exit button has exactly the width that ends the animation. Rounding to pixels decides whether it
-/// ever does; otherwise the timer ticks on without a further change.
+/// Returns true if the exit button has exactly the width that ends the animation. Because of the rounding to pixels it
+/// may never have that width; the timer then ticks on without further changes.
 bool asking_is_complete(double exit_width);
 bool withdrawing_is_complete(double exit_width);
 

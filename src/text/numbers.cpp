@@ -18,7 +18,7 @@ std::wstring_view without_surrounding_blanks(std::wstring_view text) {
     return text.substr(0, text.find_last_not_of(L' ') + 1);
 }
 
-/// Takes as many characters off the front of a text as are digits.
+/// Removes the digits at the beginning of a text and returns them.
 std::wstring_view take_digits(std::wstring_view& text) {
     const auto* const end = std::find_if_not(text.begin(), text.end(), is_digit);
     const std::wstring_view digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
@@ -26,14 +26,14 @@ std::wstring_view take_digits(std::wstring_view& text) {
     return digits;
 }
 
-/// Takes a sign off the front of a text; whether it was a minus.
+/// Removes a sign at the beginning of a text. Returns true if it was a minus.
 bool take_minus(std::wstring_view& text) {
     const bool minus = text.starts_with(L'-');
     if (minus || text.starts_with(L'+')) text.remove_prefix(1);
     return minus;
 }
 
-/// The value of digits, or the limit when it is larger.
+/// Returns the value of the digits, or `limit` if the value is larger.
 std::int64_t saturated_value(std::wstring_view digits, std::int64_t limit) {
     std::int64_t value = 0;
     for (const wchar_t digit : digits) {
@@ -52,7 +52,7 @@ bool rounds_up(std::int64_t whole, std::wstring_view fraction) {
 
 template <typename Integer>
 std::optional<Integer> to_integer(std::wstring_view text) {
-    // Anything this far out is out of every range, before and after rounding.
+    // Larger than every Integer, also after rounding.
     constexpr std::int64_t far_out = std::int64_t{1} << 40;
     text = without_surrounding_blanks(text);
     const bool minus = take_minus(text);

@@ -21,7 +21,7 @@ std::vector<FolderStep> folder_steps(std::wstring_view path);
 /// Joins a folder and a name, with one separator between them.
 std::wstring path_in(std::wstring_view folder, std::wstring_view name);
 
-/// Returns true if a file name ends with the extension (with its point), ignoring the case of the letters A to Z.
+/// Returns true if a file name ends with the extension, such as L".txt", ignoring the case of the letters A to Z.
 bool has_extension(std::wstring_view name, std::wstring_view extension);
 
 }  // namespace quillomat

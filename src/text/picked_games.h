@@ -6,13 +6,13 @@
 
 namespace quillomat {
 
-/// The tooltip of a list in which several games can be picked.
+/// Returns the tooltip of a list in which several games can be picked. `names` are those of the picked games.
 std::wstring picked_games_tooltip(const std::vector<std::wstring>& names);
 
-/// The nearest picked position above `current`, or else the last one of the list. `picked` is in ascending order;
-/// nothing when it is empty.
+/// Returns the nearest picked position above `current`, or the last of the list if there is none above. `picked` is in
+/// ascending order; nothing is returned if it is empty.
 std::optional<int> previous_picked(int current, const std::vector<int>& picked);
-/// The nearest picked position below `current`, or else the first one of the list.
+/// Returns the nearest picked position below `current`, or the first of the list if there is none below.
 std::optional<int> next_picked(int current, const std::vector<int>& picked);
 
 }  // namespace quillomat

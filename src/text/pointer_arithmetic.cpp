@@ -13,7 +13,7 @@ int middle(int low, int high) {
 }  // namespace
 
 int to_absolute(int pixels, int screen_size) {
-    // Single precision decides on which side of a half some coordinates fall.
+    // In single precision on purpose: in double precision, some coordinates would round to a neighbour.
     const float scale = 65535.0F / static_cast<float>(screen_size);
     const float absolute = scale * static_cast<float>(pixels);
     return round_half_even(absolute);

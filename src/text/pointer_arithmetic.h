@@ -26,12 +26,13 @@ struct PixelRectangle {
     int bottom = 0;
 };
 
-/// A coordinate in pixels as the system's absolute pointer movement takes it, where the whole screen measures 65535.
-/// Throws `Error` with Overflow for a screen of no size.
+/// Converts a coordinate from pixels to the units of `mouse_event`, of which the whole screen has 65535. Throws `Error`
+/// with Overflow if `screen_size` is 0.
 int to_absolute(int pixels, int screen_size);
 
-/// The centre of a rectangle, a half pixel going to the even neighbour; nothing when it lies off the screen, whose far
-/// edges still count as on it. Throws `Error` with Overflow for a rectangle whose size an int cannot hold.
+/// Returns the centre of a rectangle, a half pixel rounded to the even neighbour, or nothing if the centre is off the
+/// screen. The screen's right and lower edges count as on it. Throws `Error` with Overflow if the size of the rectangle
+/// does not fit into an int.
 std::optional<PixelPoint> centre_on_screen(const PixelRectangle& rectangle, const PixelSize& screen);
 
 }  // namespace quillomat

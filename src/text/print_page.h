@@ -11,18 +11,17 @@ namespace quillomat {
 /// Returns how many leading characters of a text fit on one printed line.
 using FittingLength = std::function<std::size_t(std::wstring_view text)>;
 
-/// The lines in which a text is printed. Every line break of the text ends a line; a line that is too wide goes on in
-/// the next one, after a blank where there is one, else after the last character that fits. Tabs become blanks up to
-/// the next multiple of eight characters. Blanks at the end of a printed line, which nobody could see, are left out;
-/// nothing else is.
+/// Returns the lines in which a text is printed. A line that is too wide is broken at a blank if possible, otherwise
+/// after the last character that fits. Tabs are expanded to every eighth column. Blanks around a break and at the end
+/// of a line are dropped; nothing else is.
 std::vector<std::wstring> printed_lines(std::wstring_view text, const FittingLength& fitting_length);
 
-/// Finds the places of lines that follow one another down the page and on to further pages. Units are those of the
-/// page, such as a printer's dots.
+/// Places lines of text one below the other, down the page and on to further pages. All lengths are in the unit of the
+/// page, such as dots of a printer.
 class LineFlow {
   public:
     enum class Page { Same, Next };
-    /// Where a line stands: on the page of the one before or on the next page, and how far down.
+    /// A line's place: on the same page as the line before or on the next page, and its distance from the page's top.
     struct Place {
         Page page;
         int top;
@@ -30,12 +29,13 @@ class LineFlow {
         bool operator==(const Place&) const = default;
     };
 
-    /// Lines of one height on pages of one height.
+    /// All pages and all lines have the same height.
     LineFlow(int page_height, int line_height) : page_height_(page_height), line_height_(line_height) {}
 
-    /// Where the next line goes on this page, and the first one on all further pages.
+    /// Sets the top of the next line on this page, and of the first line on all further pages.
     void set_top(int top);
-    /// The place of the next line. A line is never cut at the lower edge unless the page is too small for any.
+    /// Returns the place of the next line. A line never crosses the lower edge, unless the page is too low for any
+    /// line.
     Place next();
 
   private:

@@ -11,7 +11,7 @@ inline constexpr wchar_t version[] = L"" QUILLOMAT_VERSION;
 inline constexpr wchar_t release[] = L"" QUILLOMAT_RELEASE;
 inline constexpr wchar_t author[] = L"Tobin Ferrand";
 
-/// The author's web site, as it is shown and printed; links put "http://" before it.
+/// The author's web site, as shown and printed; links put "http://" before it.
 inline constexpr wchar_t web_site[] = L"www.tobferrand.example";
 inline constexpr wchar_t guestbook_path[] = L"/cgi-bin/guestex.cgi";
 inline constexpr wchar_t downloads_path[] = L"/downloads.htm";

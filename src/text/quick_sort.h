@@ -4,9 +4,9 @@ namespace quillomat {
 
 /// Sorts the entries `lower` to `upper`, both included, of something that can only be compared and swapped by index.
 ///
-/// `is_less(a, b)` compares two entries, `swap(a, b)` exchanges them, `random()` gives a number in [0, 1) for the
-/// choice of the pivot. Equal entries may end up in any order. The smaller side is sorted first and the larger one in
-/// the same call, so that the depth stays logarithmic however the entries lie.
+/// `is_less(a, b)` compares two entries, `swap(a, b)` exchanges them, and `random()` returns a number in [0, 1) that
+/// chooses the pivot. Equal entries may end up in any order. Only the smaller side is sorted by recursion, so that the
+/// depth is logarithmic.
 template <typename IsLess, typename Swap, typename Random>
 void quick_sort(int lower, int upper, const IsLess& is_less, const Swap& swap, const Random& random) {
     while (lower < upper) {
@@ -14,7 +14,7 @@ void quick_sort(int lower, int upper, const IsLess& is_less, const Swap& swap, c
             if (is_less(upper, lower)) swap(lower, upper);
             return;
         }
-        swap(lower + static_cast<int>((upper - lower + 1) * random()), upper);  // the pivot waits at the end
+        swap(lower + static_cast<int>((upper - lower + 1) * random()), upper);  // The pivot is the last entry now.
         int i = lower;
         int j = upper;
         while (i < j) {
@@ -24,7 +24,7 @@ void quick_sort(int lower, int upper, const IsLess& is_less, const Swap& swap, c
         }
         swap(i, upper);
 
-        // Entries equal to the pivot right below it are in place already; without this, equal entries take forever.
+        // Entries below the pivot that are equal to it are in place; sorting them again would take quadratic time.
         int left_end = i - 1;
         while (left_end > lower && !is_less(left_end, i)) --left_end;
         if (i - lower < upper - i) {

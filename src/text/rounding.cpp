@@ -8,9 +8,9 @@
 namespace quillomat {
 
 int round_half_even(double value) {
-    // The rounding mode is never changed from the standard one, which is to nearest, ties to even.
+    // The program never changes the rounding mode from the default: to nearest, ties to even.
     const double rounded = std::nearbyint(value);
-    // Written so that a NaN is refused, too.
+    // Negated as a whole, so that NaN is refused, too.
     if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max())) {
         throw Error(ErrorCode::Overflow);
     }

@@ -31,13 +31,14 @@ std::wstring upper_case(std::wstring_view text) {
     return result;
 }
 
-/// Whether a name is that of a device: what counts is what stands before the first point, without blanks at its end.
+/// Returns true if Windows takes the name for a device: only the part before the first full stop counts, without
+/// trailing blanks.
 bool names_device(std::wstring_view name) {
     std::wstring stem = upper_case(name.substr(0, name.find(L'.')));
     stem.erase(stem.find_last_not_of(L' ') + 1);
     constexpr std::array<std::wstring_view, 6> devices{L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
     if (std::find(devices.begin(), devices.end(), stem) != devices.end()) return true;
-    // Ports have a number, and a raised one counts as well.
+    // Ports have a digit, which may be a superscript.
     constexpr std::wstring_view port_numbers = L"123456789\u00B9\u00B2\u00B3";
     return stem.size() == 4 && (stem.starts_with(L"COM") || stem.starts_with(L"LPT")) &&
            port_numbers.find(stem[3]) != std::wstring_view::npos;

@@ -6,14 +6,14 @@
 
 namespace quillomat {
 
-/// The file name that is proposed for the cheats of a game. A colon, which no file name may hold, becomes " -".
+/// Returns the file name proposed for the cheats of a game. A colon, which file names cannot contain, becomes " -".
 std::wstring proposed_file_name(std::wstring_view game);
 
-/// The file name that a typed text stands for: with " -" for every colon, and with ".txt" at its end, which is added
-/// unless it is there in exactly these letters.
+/// Returns the file name for a typed text: every colon becomes " -", and ".txt" is added unless the text ends with it
+/// in small letters.
 std::wstring file_name_of(std::wstring_view typed);
 
-/// Why a file cannot have this name, in a sentence for the user; nothing for a name that a file can have.
+/// Returns a sentence that tells the user why a file cannot have this name, or nothing if it can.
 std::optional<std::wstring> file_name_fault(std::wstring_view name);
 
 }  // namespace quillomat

@@ -6,8 +6,8 @@
 
 namespace quillomat {
 
-/// Returns the caption of the menu entry that searches for the text selected by a double-click, or nothing if the
-/// selection is empty or a line end.
+/// Returns the caption of the menu entry that searches for the selected text, or nothing if the selection is empty or a
+/// line end.
 std::optional<std::wstring> search_menu_caption(std::wstring_view selected);
 
 /// Returns the selected text without leading and trailing blanks.
