@@ -9,11 +9,7 @@ bool restore_minimum_size(Form& form, const WindowSize& minimum) {
     const WindowSize size{form.width(), form.height()};
     WindowSize wanted = size;
     while (const auto corrected = corrected_size(wanted, minimum, twips_per_pixel)) {
-        if (corrected->height != wanted.height) {
-            form.set_height(corrected->height);
-        } else {
-            form.set_width(corrected->width);
-        }
+        form.set_size(corrected->width, corrected->height);
         if (WindowSize{form.width(), form.height()} != size) return true;
         wanted = *corrected;
     }

@@ -87,7 +87,7 @@ void Application::dispatch(MSG& message) {
     Form* form = message.hwnd ? Form::from(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
     // A window that waits for a dialog can still have the focus.
     const bool waits = form && !IsWindowEnabled(form->window()) && is_keyboard_input(message.message);
-    if (!waits && !(form && form->keyboard().translate(message))) {
+    if (!waits && !(form && form->internals().keyboard.translate(message))) {
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

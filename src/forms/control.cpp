@@ -41,11 +41,12 @@ void Control::create_window(std::wstring_view text, DWORD style) {
     const Bounds& bounds = exact_bounds();
     const int resolution = dpi();
     // Siblings overlap (help boxes, sliding panels), so each must leave alone what lies in front of it.
-    window_ = CreateWindowExW(
-        extended_style_, system_class_, caption.c_str(), style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS,
-        to_pixels(bounds.left, resolution), to_pixels(bounds.top, resolution), to_pixels(bounds.width, resolution),
-        to_pixels(bounds.height, resolution), container().window(),
-        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(form().next_control_id())), GetModuleHandleW(nullptr), nullptr);
+    window_ = CreateWindowExW(extended_style_, system_class_, caption.c_str(),
+                              style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, to_pixels(bounds.left, resolution),
+                              to_pixels(bounds.top, resolution), to_pixels(bounds.width, resolution),
+                              to_pixels(bounds.height, resolution), container().window(),
+                              reinterpret_cast<HMENU>(static_cast<UINT_PTR>(form().internals().next_control_id++)),
+                              GetModuleHandleW(nullptr), nullptr);
     if (!window_) throw_last_error();
     SetPropW(window_, control_property, this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -61,18 +62,18 @@ void Control::recreate(DWORD style) {
     const HWND above = GetWindow(window_, GW_HWNDPREV);
     const bool focused = has_focus();
     const HWND former = window_;
-    form().tool_tips().set(window_, {});
+    form().internals().tool_tips.set(window_, {});
     destroy_window();
     create_window({}, style);
     SetWindowPos(window_, above ? above : HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     if (!visible()) apply_visible();
     if (!enabled()) apply_enabled();
-    if (!tool_tip_.empty()) form().tool_tips().set(window_, tool_tip_);
+    if (!tool_tip_.empty()) form().internals().tool_tips.set(window_, tool_tip_);
     place_name();
     if (focused) {
         set_focus();
     } else {
-        form().keyboard().move_last_focus(former, window_);
+        form().internals().keyboard.move_last_focus(former, window_);
     }
 }
 
@@ -140,7 +141,7 @@ bool Control::raise_key_down(int key) {
 }
 
 void Control::set_focus() {
-    form().keyboard().focus(window_);
+    form().internals().keyboard.focus(window_);
 }
 
 Colour Control::back_colour() const {
@@ -189,7 +190,7 @@ void Control::apply_font() {
 void Control::set_tool_tip(std::wstring text) {
     if (text == tool_tip_) return;
     tool_tip_ = std::move(text);
-    form().tool_tips().set(window_, tool_tip_);
+    form().internals().tool_tips.set(window_, tool_tip_);
 }
 
 void Control::set_spoken_name(const std::wstring& name) {
@@ -213,10 +214,6 @@ void Control::place_name() {
 void Control::bring_to_front() {
     SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     place_name();
-}
-
-void Control::refresh() {
-    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void Control::resolution_changed() {

@@ -55,7 +55,6 @@ class Control : public Item {
     void set_spoken_name(const std::wstring& name);
 
     void bring_to_front() override;
-    void refresh() override;
     void resolution_changed() override;
 
     /// The control of a window or of one of the parts the system made for it, or null.

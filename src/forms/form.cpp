@@ -91,7 +91,7 @@ void leave_system_loops() {
 }  // namespace
 
 Form::Form(Application& application, const FormDesign& design)
-    : application_(application), caption_(design.caption), minimum_(design.minimum) {
+    : TopLevelWindow(design.minimum), application_(application), caption_(design.caption) {
     register_class(design.name, procedure);
     const auto [style, extended] = style_of(design.border);
     CreateWindowExW(extended, design.name, design.caption, style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
@@ -99,8 +99,8 @@ Form::Form(Application& application, const FormDesign& design)
     if (!window_) throw_last_error();
     application.modality().opened(window_, application.handling());
     const UINT system_dpi = GetDpiForWindow(window_);
-    dpi_ = application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi);
-    tool_tips_.create(window_, dpi_);
+    set_dpi(application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi));
+    internals_.tool_tips.create(window_, dpi());
     if (design.measured == FormSize::Inside) {
         set_inner_size(design.width, design.height);
     } else {
@@ -162,12 +162,12 @@ void Form::forget_window() {
     window_ = nullptr;
 }
 
-LRESULT Form::run_guarded(LRESULT (*work)(void* what), void* what, UINT message) {
+LRESULT Form::guarded(const std::function<LRESULT()>& work, UINT message) {
     const Application::Handling handling(application_, window_);
     ++handlers_running_;
     LRESULT result = 0;
     try {
-        result = work(what);
+        result = work();
     } catch (...) {
         application_.faults().note_current_exception(window_, occasion_of(message));
     }
@@ -226,25 +226,25 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             timer_has_run(wparam);
             return 0;
         case WM_COMMAND:
-            if (!lparam && commands_.pick(LOWORD(wparam))) return 0;
+            if (!lparam && internals_.commands.pick(LOWORD(wparam))) return 0;
             break;
         case WM_INITMENUPOPUP:
-            commands_.opens(reinterpret_cast<HMENU>(wparam));
+            internals_.commands.opens(reinterpret_cast<HMENU>(wparam));
             return 0;
         case WM_ACTIVATE:
             // A window that is being minimised has lost the focus already; where it was counts when it comes back.
-            if (LOWORD(wparam) == WA_INACTIVE) keyboard_.remember_focus();
+            if (LOWORD(wparam) == WA_INACTIVE) internals_.keyboard.remember_focus();
             break;
         case WM_NEXTDLGCTL:
             // The access key of a caption gives that the focus, and then asks for the next control.
             if (LOWORD(lparam)) {
                 SetFocus(reinterpret_cast<HWND>(wparam));
             } else {
-                keyboard_.move_focus(wparam != 0);
+                internals_.keyboard.move_focus(wparam != 0);
             }
             return 0;
         case WM_SETFOCUS:
-            keyboard_.restore_focus();
+            internals_.keyboard.restore_focus();
             return 0;
         case WM_SETCURSOR:
             // A press on a window that waits: what it waits for may be hidden behind it.
@@ -264,8 +264,9 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 void Form::timer_has_run(UINT_PTR id) {
-    const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(id));
-    if (timer != timers_.end() && !closed_) (*timer)->tick();
+    const auto& timers = internals_.timers;
+    const auto timer = std::find(timers.begin(), timers.end(), reinterpret_cast<Timer*>(id));
+    if (timer != timers.end() && !closed_) (*timer)->tick();
 }
 
 void Form::load() {
@@ -292,7 +293,7 @@ void Form::show() {
         // Focus frames and underlined access keys show as the user's settings and the last input ask for.
         SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
         resized();
-        if (IsWindowEnabled(window_)) keyboard_.restore_focus();
+        if (IsWindowEnabled(window_)) internals_.keyboard.restore_focus();
     }
     constexpr int commands[] = {SW_SHOWNORMAL, SW_SHOWMINIMIZED, SW_SHOWMAXIMIZED};
     ShowWindow(window_, IsWindowVisible(window_) ? SW_SHOW : commands[static_cast<int>(state)]);
@@ -328,32 +329,16 @@ void Form::close() {
             return LRESULT{};
         });
     }
-    for (Timer* timer : timers_) timer->set_enabled(false);
-    alone_.reset();
+    for (Timer* timer : internals_.timers) timer->set_enabled(false);
     // A dialog is hidden by its modal loop, after its owner can be activated again.
     if (!modal_) ShowWindow(window_, SW_HIDE);
     PostMessageW(window_, destroy_message, 0, 0);
-}
-
-void Form::set_closable(bool closable) {
-    EnableMenuItem(GetSystemMenu(window_, FALSE), SC_CLOSE, closable ? MF_ENABLED : MF_GRAYED);
 }
 
 void Form::set_caption(std::wstring caption) {
     if (caption == caption_) return;
     caption_ = std::move(caption);
     SetWindowTextW(window_, caption_.c_str());
-}
-
-void Form::set_icon(const Picture& picture) {
-    icon_ = picture;
-    const auto resolution = static_cast<UINT>(dpi_);
-    // Pictures that take turns are loaded once.
-    auto& [small_icon, large_icon] = icons_[{picture, dpi_}];
-    if (!small_icon) small_icon = picture.icon(GetSystemMetricsForDpi(SM_CXSMICON, resolution));
-    if (!large_icon) large_icon = picture.icon(GetSystemMetricsForDpi(SM_CXICON, resolution));
-    SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon.get()));
-    SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large_icon.get()));
 }
 
 WindowState Form::window_state() const {
@@ -372,6 +357,18 @@ void Form::set_window_state(WindowState state) {
 void Form::resized() {
     state_ = window_state();
     raise(on_resize);
+}
+
+void Form::resolution_changed(int system_dpi, const RECT& suggested) {
+    set_dpi(application_.forced_dpi() ? application_.forced_dpi() : system_dpi);
+    internals_.tool_tips.fit_resolution(dpi());
+    items_resolution_changed();
+    internals_.commands.renew_pictures();
+    resolution_changing_ = true;
+    place_for_resolution(suggested);
+    resolution_changing_ = false;
+    // A minimised window has nothing to lay out, and for its handler a minimised size means that it was minimised now.
+    if (shown_ && !IsIconic(window_)) resized();
 }
 
 void Form::set_mouse_pointer(PointerShape shape) {
@@ -396,10 +393,6 @@ void Form::bring_to_foreground() {
     } else {
         application_.modality().bring_usable_to_front();
     }
-}
-
-void Form::refresh() {
-    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void Form::paint_changes() {

@@ -1,26 +1,17 @@
 #pragma once
 
 #include <functional>
-#include <map>
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "forms/container.h"
 #include "forms/events.h"
-#include "forms/form_keyboard.h"
-#include "forms/geometry.h"
-#include "forms/menu_commands.h"
-#include "forms/modality.h"
-#include "forms/tool_tips.h"
-#include "text/window_size.h"
-#include "win/picture.h"
+#include "forms/form_internals.h"
+#include "forms/top_level_window.h"
 
 namespace quillomat {
 
 class Application;
-class Timer;
+class Control;
 
 /// How a form is shown, by the numbers that the settings hold.
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
@@ -49,7 +40,7 @@ struct FormDesign {
 };
 
 /// A top-level window. The object is made when the window is opened and lives until it has closed.
-class Form : public Container, public MouseEvents {
+class Form : public TopLevelWindow, public MouseEvents {
   public:
     Form(Application& application, const FormDesign& design);
     ~Form() override;
@@ -72,8 +63,6 @@ class Form : public Container, public MouseEvents {
     Application& application() const { return application_; }
     HWND window() const override { return window_; }
     Form& owner_form() override { return *this; }
-    /// Dots per inch of the window.
-    int dpi() const { return dpi_; }
 
     /// Shows the window without waiting for it to close.
     void show();
@@ -82,42 +71,15 @@ class Form : public Container, public MouseEvents {
     void set_owner(const Form& owner);
     /// Shows the window as a dialog of `owner` and returns when it has closed.
     void show_modal(Form* owner);
-    /// Keeps the user from all other windows from now until it closes, without waiting for that. What its handlers open
-    /// can be used.
-    void keep_others_waiting() { alone_.emplace(application_, window_); }
     /// Closes the windows it owns, runs `on_unload` unless `on_load` is still running, hides the window and has it
     /// destroyed as soon as no handler of it is running.
     void close();
     bool closed() const { return closed_; }
-    /// Whether the user can close the window by its border.
-    void set_closable(bool closable);
     /// Whether the window has been shown, so that it exists for the user.
     bool shown() const { return shown_; }
 
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption);
-    /// The picture in the title bar and the taskbar, instead of the program's own.
-    void set_icon(const Picture& picture);
-
-    /// Outer position and size in twips.
-    double left() const;
-    double top() const;
-    double width() const;
-    double height() const;
-    void set_width(double twips);
-    void set_height(double twips);
-    /// Both at once, in twips: one layout of the window instead of two.
-    void set_size(double width, double height);
-    void move_to(double left, double top);
-    /// Inner size in twips.
-    double inner_width() const;
-    double inner_height() const;
-    /// Makes room for this much inside of the border, title bar and menu bar.
-    void set_inner_size(double width, double height);
-    /// Puts the window in the middle of the screen's free area.
-    void centre_on_screen();
-    /// Moves the window, and makes it smaller if need be, so that all of it is in reach of the user.
-    void place_on_screen();
 
     /// How the window is shown; before that, how it will be.
     WindowState window_state() const;
@@ -130,33 +92,21 @@ class Form : public Container, public MouseEvents {
     void drag_by(MouseEvents& surface);
     /// Makes it the window the user works in.
     void bring_to_foreground();
-    /// Paints the window and all that stands on it now instead of when the program is idle.
-    void refresh();
-    /// The same for what has changed only.
+    /// Paints what has changed in the window and on all that stands on it now instead of when the program is idle.
     void paint_changes();
 
     /// The buttons that Enter and Escape press; null for none.
-    void set_default_button(Control* button) { keyboard_.set_default_button(button); }
-    Control* default_button() const { return keyboard_.default_button(); }
-    void set_cancel_button(Control* button) { keyboard_.set_cancel_button(button); }
+    void set_default_button(Control* button) { internals_.keyboard.set_default_button(button); }
+    Control* default_button() const { return internals_.keyboard.default_button(); }
+    void set_cancel_button(Control* button) { internals_.keyboard.set_cancel_button(button); }
 
-    // For the toolkit.
+    /// The form of a window of this program, or null.
     static Form* from(HWND window);
-    int next_control_id() { return next_control_id_++; }
-    void add(Timer& timer) { timers_.push_back(&timer); }
-    void remove(Timer& timer) { std::erase(timers_, &timer); }
-    using Container::add;
-    using Container::remove;
-    ToolTips& tool_tips() { return tool_tips_; }
-    MenuCommands& commands() { return commands_; }
-    FormKeyboard& keyboard() { return keyboard_; }
+    /// What the toolkit keeps for the form.
+    FormInternals& internals() { return internals_; }
     /// Runs what may raise events, for a message of the system or for none: no exception gets out to the system, it is
     /// reported to the user later instead; and the form stays alive until the work is done.
-    template <class Work>
-    LRESULT guarded(Work work, UINT message = WM_NULL) {
-        // Once for every message, so without the memory that a std::function would take.
-        return run_guarded([](void* what) -> LRESULT { return (*static_cast<Work*>(what))(); }, &work, message);
-    }
+    LRESULT guarded(const std::function<LRESULT()>& work, UINT message = WM_NULL);
 
   protected:
     MouseEvents& surface() override { return *this; }
@@ -164,36 +114,22 @@ class Form : public Container, public MouseEvents {
   private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT run_guarded(LRESULT (*work)(void* what), void* what, UINT message);
     static LRESULT window_destroyed(Form& form, HWND window, WPARAM wparam, LPARAM lparam);
     void timer_has_run(UINT_PTR id);
     void load();
     void resized();
     void drag();
-    void set_pixel_size(LONG width, LONG height);
-    void limit_sizing(WPARAM edge, RECT& area) const;
-    void resolution_changed(int dpi, const RECT& suggested);
+    void resolution_changed(int system_dpi, const RECT& suggested);
     void destroy_when_idle();
     void forget_window();
     std::vector<Form*> owned_forms() const;
-    RECT outer() const;
 
     Application& application_;
     std::wstring caption_;
-    std::map<std::pair<Picture, int>, std::pair<Icon, Icon>> icons_;  // the small and the large one, by the resolution
-    WindowSize minimum_;
-    std::optional<WindowSize> inner_size_;  // kept at every resolution
-    Picture icon_;
     HWND window_ = nullptr;
-    int dpi_ = 96;
-    ToolTips tool_tips_;
-    std::vector<Timer*> timers_;
-    MenuCommands commands_;
-    FormKeyboard keyboard_{*this};
-    int next_control_id_ = 1000;
+    FormInternals internals_{*this};
     WindowState state_ = WindowState::Normal;
     PointerShape pointer_ = PointerShape::Default;
-    std::optional<ModalScope> alone_;
     bool modal_ = false;
     bool load_begun_ = false;
     bool loading_ = false;

@@ -33,12 +33,12 @@ void Graphic::apply_bounds() {
     if (visible()) invalidate();
     pixels_ = place_now;
     if (visible()) invalidate();
-    if (!tool_tip_.empty()) form().tool_tips().set(container().window(), this, pixels_, tool_tip_);
+    if (!tool_tip_.empty()) form().internals().tool_tips.set(container().window(), this, pixels_, tool_tip_);
 }
 
 void Graphic::set_tool_tip(std::wstring text) {
     tool_tip_ = std::move(text);
-    form().tool_tips().set(container().window(), this, pixels_, tool_tip_);
+    form().internals().tool_tips.set(container().window(), this, pixels_, tool_tip_);
 }
 
 void Graphic::apply_visible() {

@@ -13,7 +13,8 @@ class Graphic : public Item {
     ~Graphic() override;
 
     void bring_to_front() override;
-    void refresh() override;
+    /// Paints the item now instead of when the program is idle.
+    void refresh();
 
     /// The one-line text shown while the pointer rests on the item; an empty one shows none.
     const std::wstring& tool_tip() const { return tool_tip_; }

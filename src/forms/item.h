@@ -50,8 +50,6 @@ class Item : public MouseEvents {
     /// Puts the item in front of all others of its container that it can stand in front of: controls are always in
     /// front of graphics.
     virtual void bring_to_front() = 0;
-    /// Paints the item now instead of when the program is idle.
-    virtual void refresh() = 0;
 
     /// Takes over a new resolution of the container; for the toolkit.
     virtual void resolution_changed() { apply_bounds(); }

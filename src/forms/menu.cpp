@@ -43,22 +43,31 @@ MenuBar::~MenuBar() {
 }
 
 Menu::Menu(MenuBar& bar, std::wstring caption)
-    : form_(bar.form()), handle_(CreatePopupMenu()), id_(form_.commands().add(*this)), caption_(std::move(caption)) {
+    : form_(bar.form()),
+      handle_(CreatePopupMenu()),
+      id_(form_.internals().commands.add(*this)),
+      caption_(std::move(caption)) {
     attach(bar.handle());
     if (IsWindowVisible(form_.window())) DrawMenuBar(form_.window());
 }
 
 Menu::Menu(Form& form, std::wstring caption)
-    : form_(form), handle_(CreatePopupMenu()), id_(form_.commands().add(*this)), caption_(std::move(caption)) {}
+    : form_(form),
+      handle_(CreatePopupMenu()),
+      id_(form_.internals().commands.add(*this)),
+      caption_(std::move(caption)) {}
 
 Menu::Menu(Menu& parent, std::wstring caption, Ampersands ampersands)
-    : form_(parent.form_), id_(form_.commands().add(*this)), caption_(std::move(caption)), ampersands_(ampersands) {
+    : form_(parent.form_),
+      id_(form_.internals().commands.add(*this)),
+      caption_(std::move(caption)),
+      ampersands_(ampersands) {
     parent.become_submenu();
     attach(parent.handle_);
 }
 
 Menu::~Menu() {
-    form_.commands().remove(id_);
+    form_.internals().commands.remove(id_);
     const int place = position();
     if (place >= 0) RemoveMenu(container_, static_cast<UINT>(place), MF_BYPOSITION);
     if (handle_) DestroyMenu(handle_);
@@ -166,7 +175,7 @@ void Menu::pop_up(const Menu* default_item) {
 
 void Menu::pop_up_at(POINT screen, const Menu* default_item) {
     if (default_item) SetMenuDefaultItem(handle_, static_cast<UINT>(default_item->id()), FALSE);
-    form_.commands().pick(
+    form_.internals().commands.pick(
         TrackPopupMenu(handle_, TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0, form_.window(), nullptr));
 }
 

@@ -6,13 +6,13 @@ namespace quillomat {
 
 Timer::Timer(Form& form, int milliseconds, State state)
     : form_(form), milliseconds_(milliseconds), enabled_(state == State::Enabled) {
-    form_.add(*this);
+    form_.internals().timers.push_back(this);
     if (enabled_) start();
 }
 
 Timer::~Timer() {
     stop();
-    form_.remove(*this);
+    std::erase(form_.internals().timers, this);
 }
 
 void Timer::start() {

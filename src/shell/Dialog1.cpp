@@ -37,7 +37,7 @@ Dialog1::Dialog1(Application& application, PointerState& pointer)
     Text1.set_text(std::wstring(product::mail_address) + L"\r\n" + product::web_site);
     cmdButton[1].set_visible(false);
     set_links_visible(false);
-    set_icon(Picture1[0]);
+    show_icon();
     set_default_button(&cmdButton[2]);
     set_cancel_button(&cmdButton[2]);
     cmdButton[0].set_focus();
@@ -48,6 +48,7 @@ Dialog1::Dialog1(Application& application, PointerState& pointer)
 
 void Dialog1::bind() {
     on_load = [this] { Form_Load(); };
+    on_resize = [this] { show_icon(); };
     Text1.on_double_click = [this] { Text1_DblClick(); };
     cmdButton[0].on_click = [this] { Expand(); };
     cmdButton[1].on_click = [this] { Contract(); };
@@ -132,7 +133,22 @@ void Dialog1::Timer2_Timer() {
 
 void Dialog1::Timer4_Timer() {
     icon_ = next_icon(icon_);
-    set_icon(Picture1[icon_]);
+    show_icon();
+}
+
+void Dialog1::show_icon() {
+    const auto show = [this](WPARAM kind, int metric) {
+        const int size = GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi()));
+        // Icons that take turns are loaded once.
+        Icon& icon = icons_[{Picture1[icon_], size}];
+        if (!icon) icon = Picture1[icon_].icon(size);
+        const auto handle = reinterpret_cast<LPARAM>(icon.get());
+        // Setting an icon redraws the title bar, also when the window has it already.
+        if (SendMessageW(window(), WM_GETICON, kind, 0) == handle) return;
+        SendMessageW(window(), WM_SETICON, kind, handle);
+    };
+    show(ICON_SMALL, SM_CXSMICON);
+    show(ICON_BIG, SM_CXICON);
 }
 
 }  // namespace quillomat

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <optional>
+#include <utility>
 
 #include "common/hover_help.h"
 #include "controls/button.h"
@@ -11,6 +13,7 @@
 #include "shell/link.h"
 #include "shell/picture_box.h"
 #include "text/author_animation.h"
+#include "win/picture.h"
 
 namespace quillomat {
 
@@ -58,6 +61,8 @@ class Dialog1 final : public Form {
     void Timer4_Timer();
 
     void set_links_visible(bool visible);
+    /// Shows the picture whose turn it is in the title bar and the taskbar.
+    void show_icon();
     /// Gives the window each height of an animation up to the last, or only the last if the user wants no animations.
     void resize(std::optional<double> (*next_height)(double));
 
@@ -66,6 +71,7 @@ class Dialog1 final : public Form {
     double exact_height_ = author_dialog_height;  // in twips, not rounded to pixels
     int capital_ = 0;
     int icon_ = 0;
+    std::map<std::pair<Picture, int>, Icon> icons_;  // by their size in pixels
     std::optional<double> turn_;
 };
 

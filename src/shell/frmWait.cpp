@@ -19,15 +19,16 @@ frmWait::frmWait(Application& application, std::function<void()> show_viewer)
     on_load = [this] {
         centre_on_screen();
         // A key typed ahead must not open a dialog on the main screen, which the viewer would then wait for.
-        keep_others_waiting();
+        alone_.emplace(this->application(), window());
     };
+    on_unload = [this] { alone_.reset(); };
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 
 void frmWait::Timer1_Timer() {
     Timer1.set_enabled(false);
     // Loading the viewer blocks the message loop, so nothing is painted meanwhile.
-    refresh();
+    paint_changes();
     try {
         show_viewer_();
     } catch (...) {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "controls/graphics.h"
 #include "forms/form.h"
+#include "forms/modality.h"
 #include "forms/timer.h"
 #include "resources/pictures.h"
 
@@ -24,6 +26,7 @@ class frmWait final : public Form {
     void Timer1_Timer();
 
     std::function<void()> show_viewer_;
+    std::optional<ModalScope> alone_;
 };
 
 }  // namespace quillomat

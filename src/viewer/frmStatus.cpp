@@ -34,6 +34,10 @@ void frmStatus::show_progress(int collected, int count) {
     set_caption(collection_caption(progress.percent, static_cast<int>(seconds.count())));
 }
 
+void frmStatus::set_closable(bool closable) {
+    EnableMenuItem(GetSystemMenu(window(), FALSE), SC_CLOSE, closable ? MF_ENABLED : MF_GRAYED);
+}
+
 void frmStatus::end() {
     set_caption(L"Please wait...");
     set_closable(true);

@@ -24,6 +24,8 @@ class frmStatus final : public Form {
     void begin();
     /// Widens the bar and changes the caption after `collected` of `count` fonts.
     void show_progress(int collected, int count);
+    /// Whether the user can close the window by its border.
+    void set_closable(bool closable);
     /// Says that the collection has ended and only the rest is still to be done.
     void end();
 

@@ -218,7 +218,8 @@ TEST_F(FormsTest, AFaultOfPaintingOrOfATimerIsReportedOnceAndLater) {
     expect_message(L"Quillomat", L"Disk full");
     show();
     pump();
-    board.refresh();
+    label.invalidate();
+    board.paint_changes();
     EXPECT_FALSE(GetUpdateRect(board.window(), nullptr, FALSE)) << "painting has ended";
     expect_message(L"Quillomat", L"Unknown error");
     Timer timer(board, 1);

@@ -177,7 +177,7 @@ struct Slide {
 TEST_F(ViewerTest, ThePanelsSlideInEqualStepsThatAreAllShown) {
     open_viewer();
     viewer->List2.clear();
-    viewer->refresh();
+    viewer->paint_changes();
     Slide slide;
     for (const Control* panel : std::initializer_list<const Control*>{&viewer->Frame2, &viewer->List2}) {
         SetWindowSubclass(panel->window(), Slide::watch, 1, reinterpret_cast<DWORD_PTR>(&slide));
@@ -206,7 +206,7 @@ TEST_F(ViewerTest, ShowsTheEndsOfLongNamesAndNoRowInPart) {
         games += "$$$$$$$$$$$$$$$$$$$$ A name that is a lot wider than the list, part " + std::to_string(i) + "\r\n";
     }
     open_viewer(games);
-    viewer->set_height(6750);
+    viewer->set_size(viewer->width(), 6750);
     const HWND list = viewer->List2.window();
     const auto row = [list](LONG y) {
         const ShownPixels shown(list);

@@ -1,9 +1,6 @@
-// Where a form stands on the screen and how large it is there.
+#include "forms/top_level_window.h"
 
 #include <algorithm>
-
-#include "forms/application.h"
-#include "forms/form.h"
 
 namespace quillomat {
 namespace {
@@ -17,91 +14,81 @@ RECT free_area(HWND window) {
 
 }  // namespace
 
-RECT Form::outer() const {
+RECT TopLevelWindow::outer() const {
     // A minimised window reports a place far outside of the screen; what counts is where it goes back to.
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
-    if (IsIconic(window_) && GetWindowPlacement(window_, &placement)) return placement.rcNormalPosition;
+    if (IsIconic(window()) && GetWindowPlacement(window(), &placement)) return placement.rcNormalPosition;
     RECT area{};
-    GetWindowRect(window_, &area);
+    GetWindowRect(window(), &area);
     return area;
 }
 
-double Form::left() const {
+double TopLevelWindow::left() const {
     return to_twips(outer().left, dpi_);
 }
 
-double Form::top() const {
+double TopLevelWindow::top() const {
     return to_twips(outer().top, dpi_);
 }
 
-double Form::width() const {
+double TopLevelWindow::width() const {
     return to_twips(outer().right - outer().left, dpi_);
 }
 
-double Form::height() const {
+double TopLevelWindow::height() const {
     return to_twips(outer().bottom - outer().top, dpi_);
 }
 
-void Form::set_pixel_size(LONG width, LONG height) {
+void TopLevelWindow::set_size(double width, double height) {
     const RECT area = outer();
+    const int pixel_width = to_pixels(std::max(width, 0.0), dpi_);
+    const int pixel_height = to_pixels(std::max(height, 0.0), dpi_);
     // The system lays a window out anew even when it keeps its size.
-    if (width == area.right - area.left && height == area.bottom - area.top) return;
-    SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (pixel_width == area.right - area.left && pixel_height == area.bottom - area.top) return;
+    SetWindowPos(window(), nullptr, 0, 0, pixel_width, pixel_height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Form::set_width(double twips) {
-    set_pixel_size(to_pixels(std::max(twips, 0.0), dpi_), outer().bottom - outer().top);
-}
-
-void Form::set_height(double twips) {
-    set_pixel_size(outer().right - outer().left, to_pixels(std::max(twips, 0.0), dpi_));
-}
-
-void Form::set_size(double width, double height) {
-    set_pixel_size(to_pixels(std::max(width, 0.0), dpi_), to_pixels(std::max(height, 0.0), dpi_));
-}
-
-void Form::move_to(double left, double top) {
-    SetWindowPos(window_, nullptr, to_pixels(left, dpi_), to_pixels(top, dpi_), 0, 0,
+void TopLevelWindow::move_to(double left, double top) {
+    SetWindowPos(window(), nullptr, to_pixels(left, dpi_), to_pixels(top, dpi_), 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-double Form::inner_width() const {
+double TopLevelWindow::inner_width() const {
     RECT client{};
-    GetClientRect(window_, &client);
+    GetClientRect(window(), &client);
     return to_twips(client.right, dpi_);
 }
 
-double Form::inner_height() const {
+double TopLevelWindow::inner_height() const {
     RECT client{};
-    GetClientRect(window_, &client);
+    GetClientRect(window(), &client);
     return to_twips(client.bottom, dpi_);
 }
 
-void Form::set_inner_size(double width, double height) {
+void TopLevelWindow::set_inner_size(double width, double height) {
     // A menu bar takes its room only now that it has its menus.
-    if (GetMenu(window_)) DrawMenuBar(window_);
+    if (GetMenu(window())) DrawMenuBar(window());
     inner_size_ = WindowSize{width, height};
     const RECT area = outer();
     RECT client{};
-    GetClientRect(window_, &client);
-    SetWindowPos(window_, nullptr, 0, 0, area.right - area.left - client.right + to_pixels(width, dpi_),
+    GetClientRect(window(), &client);
+    SetWindowPos(window(), nullptr, 0, 0, area.right - area.left - client.right + to_pixels(width, dpi_),
                  area.bottom - area.top - client.bottom + to_pixels(height, dpi_),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Form::centre_on_screen() {
-    const RECT screen = free_area(window_);
+void TopLevelWindow::centre_on_screen() {
+    const RECT screen = free_area(window());
     const RECT area = outer();
-    SetWindowPos(window_, nullptr, screen.left + (screen.right - screen.left - (area.right - area.left)) / 2,
+    SetWindowPos(window(), nullptr, screen.left + (screen.right - screen.left - (area.right - area.left)) / 2,
                  screen.top + (screen.bottom - screen.top - (area.bottom - area.top)) / 2, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Form::place_on_screen() {
+void TopLevelWindow::place_on_screen() {
     // Whatever the settings said, the whole window is in reach of the user.
-    const RECT screen = free_area(window_);
+    const RECT screen = free_area(window());
     const RECT area = outer();
     const LONG width = std::min(area.right - area.left, screen.right - screen.left);
     const LONG height = std::min(area.bottom - area.top, screen.bottom - screen.top);
@@ -109,10 +96,10 @@ void Form::place_on_screen() {
     const LONG top = std::clamp(area.top, screen.top, screen.bottom - height);
     const RECT place{left, top, left + width, top + height};
     if (EqualRect(&place, &area)) return;
-    SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window(), nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Form::limit_sizing(WPARAM edge, RECT& area) const {
+void TopLevelWindow::limit_sizing(WPARAM edge, RECT& area) const {
     // The resize rules of a form would push the border back after the user has pulled it; here it never goes so far.
     const LONG width = std::max<LONG>(area.right - area.left, to_pixels(minimum_.width, dpi_));
     const LONG height = std::max<LONG>(area.bottom - area.top, to_pixels(minimum_.height, dpi_));
@@ -130,19 +117,10 @@ void Form::limit_sizing(WPARAM edge, RECT& area) const {
     }
 }
 
-void Form::resolution_changed(int dpi, const RECT& suggested) {
-    dpi_ = application_.forced_dpi() ? application_.forced_dpi() : dpi;
-    tool_tips_.fit_resolution(dpi_);
-    items_resolution_changed();
-    commands_.renew_pictures();
-    if (icon_) set_icon(icon_);
-    resolution_changing_ = true;
-    SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+void TopLevelWindow::place_for_resolution(const RECT& suggested) {
+    SetWindowPos(window(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    if (inner_size_ && !IsIconic(window_)) set_inner_size(inner_size_->width, inner_size_->height);
-    resolution_changing_ = false;
-    // A minimised window has nothing to lay out, and for its handler a minimised size means that it was minimised now.
-    if (shown_ && !IsIconic(window_)) resized();
+    if (inner_size_ && !IsIconic(window())) set_inner_size(inner_size_->width, inner_size_->height);
 }
 
 }  // namespace quillomat
