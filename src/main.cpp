@@ -23,7 +23,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t* arguments, int) {
         }
         return application.run();
     } catch (...) {
-        // Failures before any window exists to report them, such as a first window that cannot be created.
+        // No window exists to report a failure, for example because the first one cannot be created.
         application.report_current_exception();
         return EXIT_FAILURE;
     }

@@ -8,7 +8,7 @@
 namespace quillomat {
 namespace {
 
-// Asked for every time: a box may have to make its window anew.
+// Looks up the window for each message, because a text box may recreate its window.
 LRESULT send(const TextBox& box, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
     return SendMessageW(box.window(), message, wparam, lparam);
 }
@@ -55,7 +55,7 @@ std::wstring clsTextBox::GetLine(int line) const {
     const int length = start ? LineLen(*start) : 0;
     if (length < 1) return {};
     const auto size = static_cast<std::size_t>(length);
-    // The box reads the room for the line from the buffer's first 16 bits, so it cannot hand over a longer one.
+    // EM_GETLINE takes the buffer's size from its first 16 bits, so it cannot return a longer line.
     if (size > std::numeric_limits<WORD>::max()) return box_->text().substr(static_cast<std::size_t>(*start), size);
     std::wstring text(size, L'\0');
     text[0] = static_cast<wchar_t>(length);
@@ -72,7 +72,7 @@ void clsTextBox::DelLine(int line) {
     if (!start) return;
     const std::size_t caret = box_->selection_start();
     send(*box_, EM_SETSEL, static_cast<WPARAM>(*start), *start + LineLen(*start));
-    // Replaced in place, so that the user can take it back.
+    // EM_REPLACESEL, unlike a new text for the whole box, can be undone by the user.
     send(*box_, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
     box_->select(caret, 0);
 }

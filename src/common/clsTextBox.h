@@ -9,42 +9,41 @@ namespace quillomat {
 
 class TextBox;
 
-/// The lines of a text box for several lines, and two shortcuts for it: Ctrl+A selects the whole text, Ctrl+Y cuts the
-/// line of the caret.
+/// Gives access to the lines of a multi-line text box, and adds two shortcuts to it: Ctrl+A selects the whole text,
+/// Ctrl+Y cuts the line with the caret.
 ///
-/// Lines and characters are counted from 0. A line is what the box shows as one, so in a box that breaks lines at its
-/// width a paragraph can be several.
+/// Lines and characters are counted from 0. If the box wraps its text, every displayed line counts.
 class clsTextBox {
   public:
-    /// `box` must outlive the object, or be exchanged before it goes.
+    /// `box` must outlive this object, unless another box is set before it is destroyed.
     explicit clsTextBox(quillomat::TextBox& box) { set_TextBox(box); }
     ~clsTextBox();
     clsTextBox(const clsTextBox&) = delete;
     clsTextBox& operator=(const clsTextBox&) = delete;
 
     quillomat::TextBox& TextBox() const { return *box_; }
-    /// Turns to another box; the one before loses the shortcuts.
+    /// Moves the shortcuts from the present box to another one.
     void set_TextBox(quillomat::TextBox& box);
 
-    /// The length of the line that holds a character.
+    /// Returns the length of the line with the character at `position`.
     int LineLen(int position) const;
-    /// The line that holds a character.
+    /// Returns the number of the line with the character at `position`.
     int GetLineFromChar(int position) const;
-    /// At least 1: an empty box has one empty line.
+    /// Returns the number of lines. An empty box has one empty line.
     int LineCount() const;
-    /// The first line that is in view.
+    /// Returns the number of the first visible line.
     int TopLine() const;
     bool CanUndo() const;
-    /// The position of a line's first character; nothing behind the last line.
+    /// Returns the position of a line's first character, or nothing after the last line.
     std::optional<int> GetCharFromLine(int line) const;
-    /// A line without its line break; empty behind the last line.
+    /// Returns a line without its line break. The result is empty after the last line.
     std::wstring GetLine(int line) const;
-    /// Takes back the user's last change.
+    /// Undoes the user's last change.
     void Undo();
-    /// Empties a line; its line break stays, and the caret keeps its position in the text. Nothing behind the last
+    /// Deletes the text of a line, but not its line break. The caret keeps its position. Does nothing after the last
     /// line.
     void DelLine(int line);
-    /// Whether the text has been changed since this was last set to false, or since the program set the text.
+    /// Returns true if the text has changed since this flag was last set to false, or since the program set the text.
     bool IsDirty() const;
     void set_IsDirty(bool dirty);
 

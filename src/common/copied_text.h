@@ -6,8 +6,8 @@ namespace quillomat {
 
 class Form;
 
-/// Puts a text on the clipboard. While another program keeps the clipboard open, the windows repaint but take no input.
-/// Throws `Error` as `put_on_clipboard` does, after some seconds.
+/// Copies a text to the clipboard. If another program keeps the clipboard open, waits some seconds, in which the
+/// windows repaint but take no input. Throws `Error` as `put_on_clipboard` does.
 void CopyText(Form& form, std::wstring_view text);
 
 }  // namespace quillomat

@@ -141,7 +141,7 @@ void HoverHelp::dismiss() {
 }
 
 void HoverHelp::wake() {
-    // Hiding the help box may send a mouse move although the pointer rests.
+    // Windows may send a mouse move for a resting pointer when the help box is hidden under it.
     POINT position{};
     GetCursorPos(&position);
     if (dismissed_at_ && (position.x != dismissed_at_->x || position.y != dismissed_at_->y)) {

@@ -4,11 +4,11 @@
 
 namespace quillomat {
 
-/// The pointer position read last, shared by the hover timers of all windows.
+/// The last pointer position read. The hover timers of all windows share it.
 struct PointerState {
     POINT PointerPos{};            ///< in pixels of the screen
-    BOOL PointerResult = FALSE;    ///< whether the position could be read
-    HWND PointerWindow = nullptr;  ///< the window or control that lay under it
+    BOOL PointerResult = FALSE;    ///< false if the position could not be read
+    HWND PointerWindow = nullptr;  ///< the window or control under the pointer
 };
 
 /// Reads the pointer's position and the window under it.
@@ -17,7 +17,7 @@ void UpdatePointer(PointerState& pointer);
 /// The unit of lengths on the screen.
 enum class ScreenUnit { Pixels, Twips };
 
-/// The width and height of the primary screen.
+/// Gets the width and height of the primary screen.
 void GetScreenSize(int& width, int& height, ScreenUnit unit = ScreenUnit::Pixels);
 
 /// Converts a horizontal position from pixels to the units of `mouse_event`, of which the screen's width has 65535.

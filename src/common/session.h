@@ -15,20 +15,20 @@
 
 namespace quillomat {
 
-/// What the viewer remembers from one opening to the next.
+/// The state of the viewer that is kept while the viewer is closed.
 struct ViewerState {
-    std::int16_t open_count = 0;  ///< openings in this run; the first one reads the database
+    std::int16_t open_count = 0;  ///< how often the viewer was opened; the first time reads the database
     std::int16_t game_count = 0;
     std::wstring current_title;    ///< name of the game shown last
     std::wstring search_keyword;   ///< upper-cased text of the last search
     std::int16_t next_letter = 0;  ///< code of the next letter of the alphabet bar
     std::wstring last_jump;        ///< caption of the alphabet bar's label that was clicked last
-    int text_steps = 0;            ///< points by which the cheat text is larger than other texts
+    int text_steps = 0;            ///< how many points the cheat text is larger than other texts
 };
 
-/// What outlives the windows of a run. Owned by the entry and handed down.
+/// State that outlives individual windows. wWinMain owns it and passes it on by reference.
 struct Session {
-    std::wstring program_folder;  ///< without a separator at its end
+    std::wstring program_folder;  ///< without a trailing separator
     Settings settings;
     std::int16_t StartUpTimes = 0;  ///< runs of the program by this user, this one included
     TextFileSlot text_file;

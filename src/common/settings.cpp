@@ -34,7 +34,7 @@ void Settings::store_text(const wchar_t* key, const std::wstring& text) const {
     SaveSetting(application_, section_, key, text);
 }
 
-// An absent number or word reads as an empty text, which stands for neither.
+// A missing value is read as an empty text, which is no number and no truth value.
 
 std::int16_t Settings::read(const SettingKey<std::int16_t>& setting, std::int16_t fallback) const {
     return to_int16(stored_text(setting.key, {})).value_or(fallback);

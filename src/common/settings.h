@@ -24,7 +24,7 @@ struct Setting : SettingKey<Value> {
 namespace settings {
 
 inline constexpr Setting<std::int16_t> Counter{L"Counter", 0};
-/// For other programs; this one never reads it.
+/// Stored for other programs; Quillomat never reads it.
 inline constexpr SettingKey<std::wstring_view> Directory{L"Directory"};
 
 inline constexpr Setting<std::wstring_view> Font{L"Font", L"MS Sans Serif"};
@@ -47,8 +47,8 @@ inline constexpr Setting<std::int32_t> frmAddNewWindowState{L"frmAddNewWindowSta
 inline constexpr Setting<std::int16_t> frmAddNewHeight{L"frmAddNewHeight", 4320};
 inline constexpr Setting<std::int16_t> frmAddNewWidth{L"frmAddNewWidth", 5535};
 
-/// The height of the message to the author is read under another key than it is written to, so that window always
-/// opens at the height it was designed with.
+/// The window for a message to the author reads its height from another key than it writes it to, and therefore always
+/// opens at its designed height.
 inline constexpr Setting<std::int32_t> frmMailMeWindowState{L"frmMailMeWindowState", 0};
 inline constexpr Setting<std::int16_t> frmMailMeHeght{L"frmMailMeHeght", 6045};
 inline constexpr SettingKey<std::int16_t> frmMailMeHeight{L"frmMailMeHeight"};
@@ -69,21 +69,21 @@ inline constexpr Setting<std::wstring_view> MailFriendsEmail{L"Mail-Friend'sEmai
 
 }  // namespace settings
 
-/// Returns the text that is stored for this user under an application's name, a section and a key; `fallback` if there
-/// is none.
+/// Returns the text that is stored for the user under an application's name, a section and a key, or `fallback` if
+/// there is none.
 std::wstring GetSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
                         std::wstring_view fallback);
-/// Stores a text, replacing an older one. Throws `Error` if Windows refuses.
+/// Stores a text for the user, replacing the previous one. Throws `Error` if Windows refuses.
 void SaveSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
                  const std::wstring& text);
 
-/// The user's settings, each stored as a text.
+/// The user's settings. Each is stored as a text in the registry.
 class Settings {
   public:
     explicit Settings(std::wstring_view application = product::title, std::wstring_view section = L"Settings")
         : application_(application), section_(section) {}
 
-    /// Returns the stored value; the fallback if there is none or its text is no value of this type.
+    /// Returns the stored value, or the fallback if there is none or it is not of this type.
     std::int16_t read(const SettingKey<std::int16_t>& setting, std::int16_t fallback) const;
     std::int32_t read(const SettingKey<std::int32_t>& setting, std::int32_t fallback) const;
     bool read(const SettingKey<bool>& setting, bool fallback) const;
@@ -93,7 +93,7 @@ class Settings {
         return read(setting, setting.fallback);
     }
 
-    /// Stores a value, replacing an older one. Throws `Error` if Windows refuses.
+    /// Stores a value, replacing the previous one. Throws `Error` if Windows refuses.
     void write(const SettingKey<std::int16_t>& setting, std::int16_t value) const;
     void write(const SettingKey<std::int32_t>& setting, std::int32_t value) const;
     void write(const SettingKey<bool>& setting, bool value) const;

@@ -20,7 +20,7 @@ WindowState window_state_of(std::int32_t stored) {
     }
 }
 
-/// The settings hold 16 bits; a window on a very large screen can be larger.
+/// Settings hold sizes of 16 bits; a window on a very large screen can be larger.
 std::int16_t stored_size(double twips) {
     return static_cast<std::int16_t>(
         round_half_even(std::min<double>(twips, std::numeric_limits<std::int16_t>::max())));
@@ -33,7 +33,7 @@ void restore_window_state(Form& form, const Settings& settings, const WindowKeys
 }
 
 void restore_window_size(Form& form, const Settings& settings, const WindowKeys& keys, const WindowSize& minimum) {
-    // Never below the minimum: the window would grow to it only after it was put in the middle of the screen.
+    // Not below the minimum: the window would grow to it only after being centred on the screen.
     form.set_size(std::max<double>(settings.read(keys.width), minimum.width),
                   std::max<double>(settings.read(keys.height), minimum.height));
 }

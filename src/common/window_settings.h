@@ -12,15 +12,15 @@ struct WindowKeys {
     Setting<std::int32_t> state;
     Setting<std::int16_t> width;  ///< in twips, like the height
     Setting<std::int16_t> height;
-    /// Where the height is stored; not every window reads it from there.
+    /// The key that the height is written to; one window reads it from another key.
     SettingKey<std::int16_t> written_height;
 };
 
-/// Gives a window its stored state. Before the window is shown, that is the state in which it opens.
+/// Sets a window to its stored state. A window that is not shown yet will open in that state.
 void restore_window_state(Form& form, const Settings& settings, const WindowKeys& keys);
-/// Gives a window its stored size, but none below `minimum`.
+/// Sets a window to its stored size, or to `minimum` where the stored size is smaller.
 void restore_window_size(Form& form, const Settings& settings, const WindowKeys& keys, const WindowSize& minimum);
-/// Stores the state of a window, and its size if the state is normal. Throws `Error` if the system refuses.
+/// Stores the state of a window, and its size if the state is normal. Throws `Error` if Windows refuses.
 void store_window(const Form& form, const Settings& settings, const WindowKeys& keys);
 
 }  // namespace quillomat
