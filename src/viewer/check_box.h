@@ -4,14 +4,14 @@
 
 namespace quillomat {
 
-/// A choice that can be on or off by itself.
+/// A check box.
 class CheckBox : public Control {
   public:
     CheckBox(Container& container, std::wstring_view caption, Bounds bounds);
 
-    /// Whether it is on.
+    /// Returns true if the box is checked.
     bool value() const { return value_; }
-    /// Raises the click when the value changes.
+    /// Checks or clears the box. Raises `on_click` if that changes the value.
     void set_value(bool value);
 
     void notified(WORD code) override;

@@ -15,8 +15,7 @@ namespace {
 
 constexpr double picture_size = 360;
 constexpr double picture_button_size = 420;
-// The image bar in three groups: home; save and add; the others. The help boxes of the third image and of those after
-// it are centred on the pointer and must stay within the window.
+// The image bar has three groups: home; save and add; all others.
 constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
 constexpr double colour_image_left = 3530;
 constexpr std::size_t save_image = 1;

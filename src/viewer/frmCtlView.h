@@ -23,7 +23,7 @@ namespace quillomat {
 
 class frmStatus;
 
-/// The cheat viewer: the full list of games beside the cheat text of the selected one, and the search panel that
+/// The cheat viewer: the full list of games, the cheats of the selected game beside it, and the search panel, which
 /// slides in over the list.
 class frmCtlView final : public Form {
   public:
@@ -31,7 +31,7 @@ class frmCtlView final : public Form {
     frmCtlView(Application& application, Session& session, const ViewerWindows& windows);
     ~frmCtlView() override;
 
-    // The controls, by the names the whole program knows them by. Other windows read the current game from them.
+    // `OpenViewer` reads the current game from these controls for other windows.
     Line Line1{*this, {0, 480, 100000, 30}};
     std::deque<Image> Image2;
     Image Image1;
@@ -55,8 +55,8 @@ class frmCtlView final : public Form {
     Timer Timer1{*this, 1};
     ViewerMenus menus{*this};
 
-    /// Shows game `number`: its cheats, and its name as the caption. Throws `Error` with SubscriptOutOfRange for a
-    /// number no slot has.
+    /// Shows the cheats of game `number`, and its name as the caption. Throws `Error` with SubscriptOutOfRange if the
+    /// catalogue has no such slot.
     void show_game(int number);
     /// Slides the full list in over the search panel.
     void ShowList();
@@ -64,16 +64,16 @@ class frmCtlView final : public Form {
     void ShowFrame();
     /// Prepares a search for the text selected in `Text1`.
     void SearchFor(SearchScope scope);
-    /// Shows the game that a question names, whatever its case; else searches the names, or the cheats if no name holds
-    /// the question, and shows a game that is the only one found.
+    /// Shows the game whose name is `question` in any letter case. If there is none, searches the names for the
+    /// question, or the cheats if no name contains it, and shows the game if only one is found.
     void look_up(const std::wstring& question);
     /// Sorts the captions of the font menu's entries `lower` to `upper`, both included.
     void QuickSort(int lower, int upper);
-    /// Makes the font menu offer the installed fonts, sorted, and keeps their names in the file beside the program,
-    /// while a window shows the progress and takes the user's wish to cancel; what was collected until then is kept.
-    /// Throws `Error` when the file cannot be written; the progress window then stays open.
+    /// Collects the installed fonts into the font menu, sorted, and stores their names in a file beside the program. A
+    /// window shows the progress and lets the user cancel; the fonts collected until then are kept. Throws `Error` if
+    /// the file cannot be written; the progress window then stays open.
     void collect_fonts();
-    /// Colours the text and the lists by the check mark of the colour entry.
+    /// Colours the text and the lists if the menu entry for colours is checked.
     void apply_colours();
 
   private:
@@ -93,8 +93,8 @@ class frmCtlView final : public Form {
     void Command1_Click();
     void Text1_DblClick();
     void Text1_KeyDown(KeyEvent& event);
-    /// Makes the text box's menu offer a search for the selected text. Returns false if no text to search for is
-    /// selected; the menu's search is disabled then.
+    /// Sets up the text box's menu to search for the selected text. Returns false, and disables the entry, if no text
+    /// to search for is selected.
     bool offer_search_for_selection();
     void List1_Click();
     void List2_Click();
@@ -102,7 +102,7 @@ class frmCtlView final : public Form {
     void List_KeyDown(ListBox& list, KeyEvent& event);
     void List_MouseMove(ListBox& list, const MouseEvent& event);
     void List_MouseDown(ListBox& list, const MouseEvent& event);
-    /// A menu that the mouse opens at the pointer, by keyboard.
+    /// Opens a context menu by keyboard: near the upper left corner of its control, instead of at the pointer.
     void pop_up_at_corner(Menu& menu, const Control& control, const Menu* default_item = nullptr);
     void Option1_Click();
     void Option2_Click();
@@ -150,7 +150,7 @@ class frmCtlView final : public Form {
     Session& session_;
     const ViewerWindows& windows_;
     HoverHelp hover_help_{session_.pointer, Text4, Timer1};
-    const Graphic* hovered_ = nullptr;  // the image or the letter that shows that the pointer is over it
+    const Graphic* hovered_ = nullptr;  // the highlighted image or letter under the pointer
     std::unique_ptr<frmStatus> status_;
 };
 

@@ -77,7 +77,7 @@ void frmCtlView::bind_image_bar() {
         Image& image = Image2[i];
         image.on_mouse_down = [this, &image](const MouseEvent&) { Image2_MouseDown(image); };
         image.on_mouse_up = [this, &image](const MouseEvent&) { Image2_MouseUp(image); };
-        // A double-click brings two releases but only one press; this makes up for the missing one.
+        // A double-click raises two releases but only one press; this replaces the second press.
         image.on_double_click = [&image] { image.move_by(press_depth, press_depth); };
         image.on_mouse_move = [this, i](const MouseEvent& event) { Image2_MouseMove(i, event); };
         image.on_click = [this, i] { Image2_Click(i); };
@@ -173,7 +173,7 @@ void frmCtlView::Image1_MouseMove(const MouseEvent& event) {
 }
 
 void frmCtlView::show_image_help(const Image& image, const wchar_t* text, Bounds bounds) {
-    // A control that was left for the image hides the box; it has to do so before the image shows it.
+    // A control that the pointer has left hides the help box; let it do so before the image shows the box.
     hover_help_.tick();
     Text4.move(bounds);
     if (hovered_ != &image) {
@@ -226,7 +226,7 @@ void frmCtlView::Label1_reset() {
 void frmCtlView::Label1_Click(std::size_t index) {
     const std::wstring& initial = Label1[index].caption();
     session_.viewer.last_jump = initial;
-    // The first label stands for all that comes before the letters, so it leads to the beginning.
+    // The first label stands for everything before the letter A, so it leads to the beginning of the list.
     std::optional<int> game = 0;
     if (index > 0) {
         game = first_with_initial(initial.front(), List2.count(), [this](int number) { return List2.item(number); });

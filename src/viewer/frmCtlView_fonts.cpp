@@ -16,8 +16,8 @@
 namespace quillomat {
 namespace {
 
-/// Returns the names that the system's code page can encode. The others are missing after the next start, until the
-/// user collects the fonts again.
+/// Returns the names that the system's code page can encode. Until the user collects the fonts again, the others are
+/// missing from the menu after the next start.
 std::vector<std::wstring> storable(std::vector<std::wstring> names) {
     std::erase_if(names, [](const std::wstring& name) {
         try {
@@ -83,7 +83,7 @@ void frmCtlView::offer_installed_fonts() {
 }
 
 void frmCtlView::collect_fonts() {
-    // After a failure the hourglass stays until the user closes the progress window.
+    // If collecting fails, the hourglass stays until the user closes the progress window.
     set_mouse_pointer(PointerShape::Hourglass);
     const ScreenFonts fonts = session_.screen_fonts();
     menus.remove_fonts();

@@ -37,7 +37,7 @@ void frmCtlView::bind_search_panel() {
     Command1.set_enabled(false);
     for (OptionButton* option : {&Option3, &Option4}) {
         option->on_click = [this] { Text3.set_focus(); };
-        // The option that is set already raises no click.
+        // Clicking the option that is already set raises no on_click.
         option->on_mouse_up = [this, option](const MouseEvent& event) {
             if (event.button == MouseButton::Left && is_within(*option, event)) {
                 Text3.set_focus();
@@ -58,7 +58,7 @@ void frmCtlView::Command1_Click() {
         session_.catalogue.search(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
                                   session_.viewer.search_keyword, session_.viewer.game_count,
                                   [this](int number) { List1.add(session_.catalogue.name(number)); });
-        // Once for all hits, because nothing is painted between two of them.
+        // Redraw the line once instead of after every hit: nothing is painted while the list is filled.
         if (List1.count() > 0) Line1.invalidate();
     }
     if (List1.count() == 0) {
@@ -108,7 +108,7 @@ void frmCtlView::SearchFor(SearchScope scope) {
 void frmCtlView::look_up(const std::wstring& question) {
     const std::wstring keyword = upper_cased(question);
     const int game_count = session_.viewer.game_count;
-    // A database that could not be read has been reported already.
+    // The user has been told already that the database could not be read.
     if (game_count == 0) return;
     bool named = false;
     for (int number = 0; number < game_count; ++number) {
@@ -134,7 +134,7 @@ void frmCtlView::Option1_Click() {
 
 void frmCtlView::Option2_Click() {
     ShowFrame();
-    // As after a search, what is typed takes the place of the former keyword.
+    // As after a search, typing replaces the previous keyword.
     SelectAllText(Text3);
     set_default_button(&Command1);
 }
@@ -160,7 +160,7 @@ void frmCtlView::ShowList() {
 }
 
 void frmCtlView::slide(Control& panel, double left, std::optional<double> (*next_left)(double)) {
-    // The steps go by the exact position: read back from the panel, it is rounded to whole pixels.
+    // Keep the exact position: the panel rounds it to whole pixels.
     for (auto next = next_left(left); next && animations_wanted(); next = next_left(*next)) {
         panel.set_left(*next);
         show_slide_step();

@@ -52,7 +52,7 @@ void frmCtlView::fill_full_list() {
         try {
             load_catalogue(session_.text_file, path, session_.catalogue, list_name);
         } catch (const Error& error) {
-            // What is in a file that could be read is described by its error alone.
+            // Only errors in the content of a file that could be read need no path.
             if (error.code() == ErrorCode::InvalidArgument || error.code() == ErrorCode::SubscriptOutOfRange) {
                 throw;
             }

@@ -10,8 +10,8 @@
 namespace quillomat {
 namespace {
 
-/// Keeps a window above all others. Throws `Error` with Overflow for a handle that is no 16-bit signed number, as
-/// handles of old systems were.
+/// Keeps a window above all others. Throws `Error` with Overflow for a handle that does not fit into 16 bits, as the
+/// handles of old systems did.
 void StayOnTop(HWND window) {
     const auto handle = reinterpret_cast<std::intptr_t>(window);
     if (handle < std::numeric_limits<std::int16_t>::min() || handle > std::numeric_limits<std::int16_t>::max()) {
@@ -29,7 +29,7 @@ frmFind::frmFind(Application& application, FindState& state, Form& searched, Tex
       searched_(searched),
       box_(box) {
     set_owner(searched);
-    // Low enough to end above the viewer's cheat text.
+    // So low that the dialog ends above the viewer's cheat text.
     set_inner_size(6435, 780);
     txtFind.set_tool_tip(L"Text to Find");
     chkCase.set_tool_tip(L"Case Sensitivity");
@@ -64,7 +64,7 @@ void frmFind::Form_Load() {
     optDirection[state_.gFindDirection ? 1 : 0].set_value(true);
     chkCase.set_value(state_.gFindCase != 0);
     if (!state_.gFindString.empty()) {
-        // Filling in the former text is no edit: the next step continues the former search.
+        // Filling in the previous text is no edit: the next step continues the previous search.
         const bool changed = state_.gFirstTime;
         txtFind.set_text(state_.gFindString);
         state_.gFirstTime = changed;
@@ -78,7 +78,7 @@ void frmFind::stay_in_front() {
     try {
         StayOnTop(window());
     } catch (const Error& error) {
-        // Most handles are too large. The dialog then stays in front of its owner only.
+        // Most handles are too large. The dialog then stays in front of its owner, but not of other windows.
         if (error.code() != ErrorCode::Overflow) throw;
     }
 }

@@ -11,7 +11,7 @@
 
 namespace quillomat {
 
-/// Looks for a text in a text box of another window, step by step, while the user goes on working there.
+/// Searches the text box of another window step by step. The user can go on working in that window.
 class frmFind final : public Form {
   public:
     /// Searches `box`, a control of `searched`. The dialog stays in front of `searched` and closes with it. `state`
@@ -27,7 +27,7 @@ class frmFind final : public Form {
     Button cmdFind{*this, L"&Find", {5235, 60, 1080, 315}};
     Button cmdcancel{*this, L"C&ancel", {5235, 405, 1080, 315}};
 
-    /// One step of the search: shows the next place in the text, or tells that there is none.
+    /// Selects the next match in the text box, or tells the user that there is none.
     void FindIt();
 
   private:

@@ -8,7 +8,7 @@
 
 namespace quillomat {
 
-/// Shows how far the collection of fonts is, and lets the user cancel it with F10.
+/// Shows the progress of collecting fonts, which F10 cancels.
 class frmStatus final : public Form {
   public:
     /// The window stays in front of the viewer and closes with it.
@@ -17,16 +17,16 @@ class frmStatus final : public Form {
     Shape Shape1{*this, {120, 120, 0, 300}};
     Shape Shape2{*this, {120, 120, full_progress_bar, 300}};
 
-    /// The collection may go on.
+    /// True until the user cancels.
     bool GoingOn = false;
 
-    /// Begins a collection: the bar is empty, and the seconds count from now.
+    /// Shows an empty bar and starts counting the seconds.
     void begin();
-    /// Widens the bar and changes the caption after `collected` of `count` fonts.
+    /// Updates the bar and the caption after `collected` of `count` fonts.
     void show_progress(int collected, int count);
-    /// Whether the user can close the window by its border.
+    /// Lets the user close the window, or prevents it.
     void set_closable(bool closable);
-    /// Says that the collection has ended and only the rest is still to be done.
+    /// Asks the user to wait while the collected fonts are sorted and stored.
     void end();
 
   private:

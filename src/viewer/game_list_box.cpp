@@ -24,7 +24,7 @@ void GameListBox::resolution_changed() {
 LRESULT GameListBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     const LRESULT top_index = default_message(LB_GETTOPINDEX, 0, 0);
     const LRESULT result = ListBox::handle_message(message, wparam, lparam);
-    // Scrolling moves what is on the screen, including the blank of a row that was cut off and is now whole.
+    // Windows scrolls the pixels, including the blank of a row that did not fit before and fits now.
     if (message == WM_SIZE || default_message(LB_GETTOPINDEX, 0, 0) != top_index) {
         InvalidateRect(window(), nullptr, FALSE);
     }

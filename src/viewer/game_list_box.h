@@ -4,8 +4,8 @@
 
 namespace quillomat {
 
-/// A list of game names. A name wider than the list is shown without its middle, so that names with the same beginning
-/// can be told apart; the text of the list item stays the whole name. Rows are shown whole or not at all.
+/// A list of game names. A name that is wider than the list is drawn without its middle, so that names with the same
+/// beginning can be told apart; the item's text is still the whole name. Rows that do not fit are not drawn.
 class GameListBox final : public ListBox {
   public:
     GameListBox(Container& container, Bounds bounds);

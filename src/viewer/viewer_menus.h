@@ -9,7 +9,7 @@
 
 namespace quillomat {
 
-/// The viewer's menus: its bar, and the two that pop up on a right click and on a double-clicked word.
+/// The viewer's menus: the menu bar, and the context menus of the lists and of the cheat text.
 struct ViewerMenus {
     explicit ViewerMenus(Form& form);
 
@@ -30,7 +30,7 @@ struct ViewerMenus {
     Menu mnuAutoSelect{mnuOptions, L"&Auto Select Game"};
 
     Menu mnuFont{bar, L"&Font"};
-    /// Entry 0 collects the fonts; the others each carry the name of one.
+    /// Entry 0 collects the fonts; the captions of the others are the names of fonts.
     std::vector<std::unique_ptr<Menu>> mnuFontName;
     std::function<void(std::size_t Index)> mnuFontName_Click;
 
@@ -50,11 +50,11 @@ struct ViewerMenus {
     Menu mnuTextBoxInCheats{mnuTextBoxSearch, L"In &Cheats"};
     Menu mnuTextBoxFind{mnuTextBox, L"&Find..."};
 
-    /// Puts the pictures beside the entries of the first two menus.
+    /// Adds the pictures to the entries of the first two menus.
     void attach_pictures();
     /// Adds an entry for a font at the end of the font menu.
     void add_font(const std::wstring& name);
-    /// Leaves the font menu with its first entry only.
+    /// Removes all entries but the first from the font menu.
     void remove_fonts() { mnuFontName.resize(1); }
 
   private:

@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// The windows that the viewer opens without including them. A hook that is not bound does nothing.
+/// Hooks by which the viewer opens other windows without including them. An unbound hook does nothing.
 struct ViewerWindows {
     std::function<void()> save;
     std::function<void()> add_game;
@@ -14,7 +14,7 @@ struct ViewerWindows {
     std::function<void()> find;
     /// Opens the message to the author with this text already in it.
     std::function<void(const std::wstring& text)> mail_author;
-    /// The viewer has closed: brings a minimised main screen back.
+    /// Restores a minimised main screen after the viewer has closed.
     std::function<void()> restore_main_screen;
 };
 
