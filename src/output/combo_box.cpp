@@ -32,22 +32,22 @@ void ComboBox::set_text(std::wstring_view text) {
 void ComboBox::notified(WORD code) {
     if (program_changes_) return;
     if (code == CBN_SELCHANGE) {
-        // The system puts the picked text into the box only after it has told of it.
+        // Windows sends CBN_SELCHANGE before it puts the selected text into the box.
         send(CB_SETCURSEL, static_cast<WPARAM>(send(CB_GETCURSEL)));
     }
-    // Only the input that has the focus shows a selection.
+    // Only the control with the focus shows a selection.
     if (code == CBN_KILLFOCUS || (code == CBN_CLOSEUP && !has_focus())) send(CB_SETEDITSEL, 0, MAKELPARAM(-1, 0));
     if (code == CBN_SELCHANGE || code == CBN_EDITCHANGE) raise(on_change);
 }
 
 void ComboBox::apply_bounds() {
-    // To the system, the height of the box includes that of its list.
+    // Windows counts the open list into the height of the control.
     const Bounds& bounds = exact_bounds();
     const int list_height = most_lines_in_list * static_cast<int>(send(CB_GETITEMHEIGHT));
     SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
                  to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
-    // A box that is sized selects its text.
+    // Windows selects the text of a combo box that is resized.
     if (!has_focus()) send(CB_SETEDITSEL, 0, MAKELPARAM(0, 0));
 }
 

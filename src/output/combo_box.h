@@ -8,18 +8,18 @@
 
 namespace quillomat {
 
-/// A line of text to be typed, or picked from a list that drops down. It is as high as its font asks for.
+/// An edit box with a drop-down list. Its height depends on its font.
 class ComboBox : public Control {
   public:
     ComboBox(Container& container, Bounds bounds);
 
-    /// The text has changed: typed, picked, or set by the program.
+    /// The text has changed because the user typed or selected one or the program set one.
     std::function<void()> on_change;
 
-    /// Adds a text at the end of the list. Throws `Error` with OutOfMemory when it takes no more.
+    /// Adds a text at the end of the list. Throws `Error` with OutOfMemory if Windows refuses.
     void add(std::wstring_view text);
 
-    /// What stands in the box.
+    /// The text in the box.
     std::wstring text() const { return window_text(); }
     void set_text(std::wstring_view text);
 

@@ -7,16 +7,16 @@
 
 namespace quillomat {
 
-/// Lets the user choose one of the system's drives.
+/// A drop-down list of the system's drives.
 class DriveListBox : public DropDownList {
   public:
     /// Lists the drives that exist now.
     DriveListBox(Container& container, Bounds bounds);
 
-    /// The root of the selected drive, such as "C:\"; empty when none is selected.
+    /// Returns the root of the selected drive, such as "C:\"; empty if none is selected.
     std::wstring drive() const;
-    /// Selects the drive of a path, and raises the change if that is another drive. Does nothing if no drive of the
-    /// list has the path.
+    /// Selects the drive of a path. Raises `on_change` if that is another drive. Does nothing if the drive is not in
+    /// the list.
     void select_drive_of(const std::wstring& path);
 
   private:

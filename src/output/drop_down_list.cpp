@@ -5,7 +5,7 @@
 namespace quillomat {
 namespace {
 
-// Height of the frame around the field's text, above and below together.
+// The frame around the field's text, above and below together.
 constexpr int frame_pixels = 6;
 constexpr int most_texts_shown = 12;
 
@@ -37,7 +37,7 @@ void DropDownList::select_index(int index) {
 }
 
 void DropDownList::notified(WORD code) {
-    // Moving through the open list is no choice yet; closing the list is.
+    // The user has chosen only when the open list closes.
     if (code == CBN_CLOSEUP || (code == CBN_SELCHANGE && !send(CB_GETDROPPEDSTATE))) report_change();
 }
 
@@ -52,7 +52,7 @@ void DropDownList::apply_bounds() {
     const Bounds& bounds = exact_bounds();
     constexpr auto field = static_cast<WPARAM>(-1);
     send(CB_SETITEMHEIGHT, field, to_pixels(bounds.height, dpi()) - frame_pixels);
-    // Windows counts the open list into the height of the control, and makes the list no longer than its texts.
+    // Windows counts the open list into the height of the control, and shortens the list to its texts.
     const int list_height = most_texts_shown * static_cast<int>(send(CB_GETITEMHEIGHT, 0));
     SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
                  to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,

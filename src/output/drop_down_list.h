@@ -14,18 +14,17 @@ class DropDownList : public Control {
   public:
     DropDownList(Container& container, Bounds bounds);
 
-    /// Another text has been selected, by the user or by the program. Not raised while the user moves through the open
-    /// list.
+    /// The user or the program has selected another text. Not raised while the user moves through the open list.
     std::function<void()> on_change;
 
-    /// Adds a text at the end. Throws `Error` with OutOfMemory when the list takes no more.
+    /// Adds a text at the end. Throws `Error` with OutOfMemory if Windows refuses.
     void add(std::wstring_view text);
-    /// The position of the selected text, or nothing.
+    /// Returns the position of the selected text, or nothing.
     std::optional<int> selected_index() const;
-    /// Selects the text at a position, and raises the change when that is another one. Throws `Error` with
-    /// SubscriptOutOfRange when there is none.
+    /// Selects the text at a position. Raises `on_change` if that is another text. Throws `Error` with
+    /// SubscriptOutOfRange if there is no such position.
     void select_index(int index);
-    /// The selected text; empty when none is selected.
+    /// The selected text; empty if none is selected.
     std::wstring text() const { return window_text(); }
 
     void notified(WORD code) override;

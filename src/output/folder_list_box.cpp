@@ -52,7 +52,7 @@ void FolderListBox::set_path(const std::wstring& path) {
         }
     }
     select_index(steps_ - 1);
-    // The parent folder is in view, and below it what the current folder holds.
+    // Scroll to the parent folder, so that the contents of the current folder are visible below it.
     set_top_index(std::max(steps_ - 2, 0));
     raise(on_change);
 }
@@ -61,7 +61,7 @@ FolderContent FolderListBox::look_into(const std::wstring& path) {
     if (answers_at_once(path)) return list_folder(path);
     constexpr DWORD patience = 5000;  // milliseconds
     const Hourglass hourglass(form());
-    // Shared with the thread, which goes on alone if the drive takes longer.
+    // Shared with the thread, which runs on alone if the drive takes longer.
     const auto content = std::make_shared<FolderContent>();
     const auto look = [content, path] { *content = list_folder(path); };
     if (!form().application().run_without_blocking(look, patience)) throw Error(ErrorCode::DiskNotReady);
@@ -114,7 +114,7 @@ void FolderListBox::draw(const DRAWITEMSTRUCT& request) {
     const int index = static_cast<int>(request.itemID);
     const int size = to_pixels(icon_size, dpi());
     RECT area = request.rcItem;
-    // However deep a folder lies, half of the list's width is left for its name.
+    // Limit the indentation, so that half of the list's width is left for the name of a deep folder.
     const int indent = to_pixels(indentation * entries_[request.itemID].depth, dpi());
     area.left += std::min<LONG>(indent, (area.right - area.left) / 2) + 2;
     const Icon& icon = index < steps_ ? open_folder_ : closed_folder_;

@@ -9,8 +9,8 @@
 
 namespace quillomat {
 
-/// Shows the folders that lead to the current one, and those in it. A double-click or Enter opens the selected folder,
-/// Backspace the one above.
+/// A list of the folders from the root to the current folder and of the folders in it. A double-click or Enter opens
+/// the selected folder, Backspace the parent folder.
 class FolderListBox : public ListBox {
   public:
     FolderListBox(Container& container, Bounds bounds);
@@ -20,17 +20,17 @@ class FolderListBox : public ListBox {
 
     /// The list has got the focus or lost it.
     std::function<void()> on_focus_changed;
-    /// True while Enter opens a folder: the list has the focus, and another folder than the current one is selected.
-    /// Otherwise Enter presses the form's default button.
+    /// Returns true if Enter opens a folder, because the list has the focus and another folder than the current one is
+    /// selected. Otherwise Enter presses the form's default button.
     bool enter_opens() const;
 
-    /// The whole path of the current folder; empty before the first one is set.
+    /// The path of the current folder; empty until one is set.
     const std::wstring& path() const { return path_; }
     /// The names of the files in the current folder.
     const std::vector<std::wstring>& files() const { return content_.files; }
-    /// Makes a folder the current one and raises the change. While its drive does not answer, the windows repaint but
-    /// take no input. Throws `Error` for a folder that cannot be looked into, DiskNotReady after some seconds, and
-    /// stays where it is.
+    /// Makes a folder the current one and raises `on_change`. While its drive does not answer, the windows repaint but
+    /// take no input. Throws `Error` if the folder cannot be listed, DiskNotReady if that takes more than some seconds;
+    /// the current folder then stays the same.
     void set_path(const std::wstring& path);
 
     void notified(WORD code) override;
@@ -54,7 +54,7 @@ class FolderListBox : public ListBox {
 
     std::wstring path_;
     std::vector<Entry> entries_;
-    int steps_ = 0;  // the number of entries that lead to the current folder
+    int steps_ = 0;  // the number of entries from the root to the current folder
     FolderContent content_;
     bool focused_ = false;
     Icon closed_folder_;

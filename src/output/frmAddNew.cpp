@@ -29,7 +29,7 @@ constexpr WindowKeys window_keys{settings::frmAddNewWindowState, settings::frmAd
 constexpr const wchar_t* help_texts[] = {L"Click here to add the game!",
                                          L"Click here to leave without adding the game!"};
 
-/// The number of the first game below `count` with exactly this name.
+/// Returns the number of the first game below `count` with exactly this name, or nothing.
 std::optional<int> find_game(const Catalogue& catalogue, int count, std::wstring_view name) {
     for (int number = 0; number < count; ++number) {
         if (catalogue.name(number) == name) return number;
@@ -122,7 +122,7 @@ void frmAddNew::Text1_KeyDown(KeyEvent& event) {
 void frmAddNew::leave_by_escape(KeyEvent& event) {
     if (event.key != keys::escape) return;
     event.handled = true;
-    // One press of Escape must not throw away typed text.
+    // A single press of Escape must not discard typed text.
     const bool nothing_typed = Text1.empty() && Text2.empty();
     if (nothing_typed || cmdButton[cancel_button]->has_focus()) {
         close();
@@ -132,7 +132,7 @@ void frmAddNew::leave_by_escape(KeyEvent& event) {
 }
 
 void frmAddNew::Timer1_Timer() {
-    // The window gets its final place only after it was loaded.
+    // The window reaches its final position only after on_load.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(cmdButton[add_button]->window());
     hover_help_.tick();
     // HoverHelp does not hide a box that was shown for a disabled button.
@@ -141,7 +141,7 @@ void frmAddNew::Timer1_Timer() {
 }
 
 void frmAddNew::Form_MouseMove(const MouseEvent& event) {
-    // A disabled button leaves mouse messages to the window; its help text is shown all the same.
+    // Mouse messages over a disabled button go to the window. Its help text is shown all the same.
     const Button& button = *cmdButton[add_button];
     const double x = event.x - button.left();
     const double y = event.y - button.top();
@@ -157,7 +157,7 @@ void frmAddNew::show_help_box(std::size_t index, double x, double y) {
     const Button& button = *cmdButton[index];
     const bool flush_right = index == add_button && x >= most_centred;
     const double left = flush_right ? width() - Text3.width() : button.left() + x - Text3.width() / 2;
-    // Flush with the outer edge, the end of the text would be under the window's frame.
+    // At the outer edge, the end of the text would be under the window's frame.
     const double last_left = inner_width() - Text3.width();
     Text3.move({std::min(left, last_left), button.top() + y - 500, Text3.width(), Text3.height()});
     Text3.set_visible(true);

@@ -16,8 +16,7 @@ namespace quillomat {
 
 class Error;
 
-/// The window in which the user adds a game of their own to the catalogue, to the viewer's full list and to the end of
-/// the database.
+/// The window for adding a game to the catalogue, to the viewer's full list and to the end of the database.
 class frmAddNew final : public Form {
   public:
     /// `session` and `viewer` must outlive the form.
@@ -29,7 +28,7 @@ class frmAddNew final : public Form {
     TextBox Text2{*this, {120, 930, 5355, 2055}, TextBoxKind::MultiLine};
 
   private:
-    // Made from left to right, which is the order of the Tab key.
+    // Created in the order of the Tab key, from left to right.
     Button cancel_button_{*this, L"&Cancel", {2940, 3120, 1215, 375}};
     Button add_button_{*this, L"&Add!", {4260, 3120, 1215, 375}};
 
@@ -52,7 +51,7 @@ class frmAddNew final : public Form {
     void Text1_KeyDown(KeyEvent& event);
     void Timer1_Timer();
 
-    /// Shows the help text of a button for the pointer at a place in it, in twips.
+    /// Shows the help text of a button near the pointer, which is at `x` and `y` in the button, in twips.
     void show_help_box(std::size_t index, double x, double y);
     void UpdateAddButton();
     void leave_by_escape(KeyEvent& event);

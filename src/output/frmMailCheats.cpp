@@ -143,7 +143,7 @@ void frmMailCheats::lay_out_list(double width) {
     const double list_top = margin + two_lines;
     Label1.move({margin, margin, width, two_lines});
     List1.move({margin, list_top, width, hint_top - list_top - margin / 2});
-    // The last row is shown whole or not at all.
+    // No row may be cut off at the lower edge.
     RECT inside{};
     GetClientRect(List1.window(), &inside);
     const auto cut_off = static_cast<int>(inside.bottom % SendMessageW(List1.window(), LB_GETITEMHEIGHT, 0, 0));
@@ -193,7 +193,7 @@ void frmMailCheats::List1_Click() {
 void frmMailCheats::List1_KeyDown(KeyEvent& event) {
     const bool upwards = event.key == keys::up;
     if (!event.modifiers.only_control() || (!upwards && event.key != keys::down)) return;
-    // The list itself would move one step further.
+    // Otherwise the list would move the focus by one more item.
     event.handled = true;
     const int current = List1.selected_index().value_or(0);
     const std::vector<int> picked = List1.picked_indexes();
@@ -207,7 +207,7 @@ void frmMailCheats::Text2_Change() {
 }
 
 void frmMailCheats::Text3_DblClick() {
-    // The whole placeholder is selected, ready to be typed over.
+    // Select the whole placeholder, so that typing replaces it.
     if (const auto length = placeholder_length(Text3.selected_text())) Text3.select(Text3.selection_start(), *length);
 }
 
@@ -218,7 +218,7 @@ void frmMailCheats::UpdateSendButton() {
 std::wstring frmMailCheats::picked_cheats() const {
     std::unordered_map<std::wstring_view, int> numbers;
     for (int number = 0; number < Catalogue::slot_count; ++number) {
-        // Of games with the same name the first one counts.
+        // emplace keeps the first of several games with the same name.
         numbers.emplace(session_.catalogue.name(number), number);
     }
     std::vector<MailedGame> games;

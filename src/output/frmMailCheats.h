@@ -27,7 +27,7 @@ class frmMailCheats final : public Form {
     StaticLabel Label1{*this, L"Select the games whose cheat codes you want to include.", {}};
     ListBox List1{*this, {}, ListBox::Picking::Several};
     StaticLabel Label7{*this, L"(Press CTRL-Arrow Key to go to the next selected item.)", {}};
-    /// Never shown: the names of the picked games, in the list's order.
+    /// The names of the picked games, in the list's order. Never shown.
     ListBox List2{*this, {}};
     StaticLabel Label2{*this, L"Your Name:", {}};
     TextBox Text1{*this, {}};
@@ -66,7 +66,7 @@ class frmMailCheats final : public Form {
 
     Session& session_;
     ViewerLink& viewer_;
-    std::vector<std::wstring> names_;  // of all games; faster to get at than the list's items
+    std::vector<std::wstring> names_;  // of all games, because reading them back from the list is slow
     clsTextBox lines_{Text3};
     HoverHelp hover_help_{session_.pointer, Text5, Timer1};
 };

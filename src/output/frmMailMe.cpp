@@ -92,7 +92,7 @@ void frmMailMe::Combo1_KeyDown(KeyEvent& event) {
 
 void frmMailMe::UpdateSendButton() {
     Command1.set_enabled(!Text1.empty() && !Combo1.text().empty());
-    // One press of Escape must not throw away a written message.
+    // A single press of Escape must not discard a written message.
     set_cancel_button(Text1.empty() || Text1.text() == proposed_ ? &Command2 : nullptr);
 }
 

@@ -47,7 +47,7 @@ class frmMailMe final : public Form {
     void SendToAuthor();
 
     Session& session_;
-    /// The proposed message. Escape may throw it away, unlike a message that the user has written.
+    /// The proposed message. Escape may discard it, but not a message that the user has written.
     std::wstring proposed_;
     clsTextBox lines_{Text1};
     HoverHelp hover_help_{session_.pointer, Text2, Timer1};

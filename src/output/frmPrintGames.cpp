@@ -19,7 +19,7 @@ constexpr double print_margin = 100;
 constexpr double rule_right = 10000;
 constexpr double upper_rule_top = 100;
 constexpr double lower_rule_top = 350;
-// In dots of the printer.
+// In printer dots.
 constexpr int rule_width = 3;
 
 }  // namespace
@@ -78,7 +78,7 @@ void frmPrintGames::bind_hover_help() {
 }
 
 void frmPrintGames::Form_Load() {
-    // One past the last game: the user is meant to choose where the range ends.
+    // One past the last game, so that the user has to choose the end of the range.
     const auto beyond_last = static_cast<std::int16_t>(viewer_.game_count() + 1);
     Text2.set_text(std::to_wstring(session_.settings.read(settings::UpperLimit, beyond_last)));
     Text1.set_text(session_.settings.read(settings::LowerLimit));
@@ -89,7 +89,7 @@ void frmPrintGames::Form_Load() {
 
 void frmPrintGames::Form_Unload() {
     session_.settings.write(settings::LowerLimit, Text1.text());
-    // Stored as typed. A text that is no number reads back as the default.
+    // Stored as typed. If the text is no number, reading it yields the default.
     session_.settings.write(SettingKey<std::wstring_view>{settings::UpperLimit.key}, Text2.text());
 }
 

@@ -40,7 +40,7 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
     bind_hover_help();
     set_default_button(&Command1);
     set_cancel_button(&Command2);
-    // Lay out before the lists are filled: which folder is scrolled to depends on the height of the list.
+    // Lay out before filling the lists: the scroll position of the folders depends on the height of their list.
     Form_Resize();
 }
 
@@ -50,7 +50,7 @@ void frmSave::bind() {
     drag_by(*this);
     Drive1.on_change = [this] { Drive1_Change(); };
     Dir1.on_change = [this] { Dir1_Change(); };
-    // The mark of the default button tells what Enter does.
+    // The default button shows what Enter does.
     Dir1.on_click = [this] { set_default_button(Dir1.enter_opens() ? nullptr : &Command1); };
     Dir1.on_focus_changed = Dir1.on_click;
     File1.set_spoken_name(L"Files");
@@ -122,7 +122,7 @@ void frmSave::Form_Resize() {
 
 void frmSave::Drive1_Change() {
     const std::wstring drive = Drive1.drive();
-    // The path of the current folder may begin with a small letter.
+    // The drive letter of the current folder may be a small one.
     if (upper_cased(Dir1.path()).starts_with(drive)) return;
     try {
         Dir1.set_path(drive);
@@ -190,7 +190,7 @@ bool frmSave::may_be_written() {
 }
 
 void frmSave::Timer1_Timer() {
-    // The window gets its final place only after it was loaded.
+    // The window reaches its final position only after on_load.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(Command1.window());
     hover_help_.tick();
 }

@@ -23,7 +23,7 @@ class frmSave final : public Form {
     /// `session` and `viewer` must outlive the form.
     frmSave(Application& application, Session& session, ViewerLink& viewer);
 
-    // Made in the order of the Tab key, column by column. The path precedes the caption of the folder list, because
+    // Created in the order of the Tab key, column by column. The path precedes the caption of the folder list, because
     // screen readers name a list after the static text right before it.
     StaticLabel Label1{*this, L"File name:", {}};
     TextBox Text1{*this, {}};
@@ -54,15 +54,15 @@ class frmSave final : public Form {
     void Timer1_Timer();
 
     void open_first_folder();
-    /// Asks before a file is overwritten.
+    /// Asks the user before a file is overwritten. Returns false if it must not be written.
     bool may_be_written();
-    /// False if nothing was written, because the same is under way.
+    /// Returns false if nothing was written because an earlier call is still at work.
     bool write();
 
     Session& session_;
     ViewerLink& viewer_;
     HoverHelp hover_help_{session_.pointer, Text2, Timer1};
-    std::wstring chosen_path_;  // whole path of the file chosen last
+    std::wstring chosen_path_;  // path of the file chosen last
     bool pointer_placed_ = false;
 };
 

@@ -42,7 +42,7 @@ bool send_mail(Form& form, Label& please_wait, const std::function<void()>& send
 }
 
 void close_after_sending(Form& form) {
-    // The program may have been closed meanwhile, and the window with it.
+    // The user may have closed the program meanwhile.
     if (form.closed()) return;
     show_message(form.window(), {.text = L"The message was sent!", .title = form.application().title()});
     form.close();

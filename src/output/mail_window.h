@@ -7,13 +7,13 @@ namespace quillomat {
 class Form;
 class Label;
 
-/// Tells the user of a window that opens what is needed for sending mails.
+/// Tells the user what is needed for sending mail, when a window for it opens.
 void tell_mail_requirements(Form& form);
 
-/// Runs `send`, from signing on to signing off, on a thread of its own. Meanwhile the form shows the hourglass and
-/// `please_wait`, and no window takes input; the mail program asks its questions in windows of its own. Returns false
-/// if nothing was sent because a mail is on its way already. Throws `Error` with a sentence for the user if it is not
-/// certain that the message was sent.
+/// Runs `send`, which must cover a whole mail session, on a thread of its own. Meanwhile the form shows the hourglass
+/// and `please_wait`, and no window takes input, except those of the mail program. Returns false if nothing was sent
+/// because another mail is being sent. Throws `Error` with a sentence for the user if the message may not have been
+/// sent.
 bool send_mail(Form& form, Label& please_wait, const std::function<void()>& send);
 
 /// Tells the user that the message was sent, and closes the form.

@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-// Without notifications the mouse would pass it by, and the tool tip never show.
+// Without SS_NOTIFY the label would receive no mouse messages, and its tool tip would never appear.
 PathLabel::PathLabel(Container& container, Bounds bounds)
     : Control(container, bounds, L"STATIC", {}, SS_LEFT | SS_NOPREFIX | SS_PATHELLIPSIS | SS_NOTIFY) {}
 

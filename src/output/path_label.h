@@ -4,8 +4,8 @@
 
 namespace quillomat {
 
-/// Shows the path of a file or folder on one line. One that is too long is shown without its middle; the whole of it is
-/// the tool tip.
+/// A label for the path of a file or folder. A path that is too long is shown without its middle. The tool tip shows
+/// the whole path.
 class PathLabel : public Control {
   public:
     PathLabel(Container& container, Bounds bounds);

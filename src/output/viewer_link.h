@@ -8,13 +8,13 @@ namespace quillomat {
 
 class Form;
 
-/// What the output windows need of the viewer: its window, the game it shows, and its full list. A game's position in
-/// the list is its number.
+/// The access of the output windows to the viewer: its window, the game it shows, and its full list. A game's number is
+/// its position in the list.
 class ViewerLink {
   public:
     virtual ~ViewerLink() = default;
 
-    /// The viewer's window, for dialogs to stand over.
+    /// The viewer's window, over which dialogs are centred.
     virtual Form& window() = 0;
     /// The name of the game that the viewer shows.
     virtual std::wstring shown_game() const = 0;
