@@ -15,7 +15,7 @@ namespace {
 constexpr wchar_t title[] = L"about the author - tobin ferrand";
 constexpr int pause_between_steps = 5;
 constexpr double inner_width_designed = 5910;
-constexpr double frame_height = 375;  // of the title bar and the frame that the dialog's heights were drawn with
+constexpr double frame_height = 375;  // of the title bar and the frame that the dialog's heights include
 
 }  // namespace
 

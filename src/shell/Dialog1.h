@@ -17,7 +17,7 @@
 
 namespace quillomat {
 
-/// The dialog about the author: a coin that turns, the author's addresses, and links that it grows to show.
+/// The dialog about the author: a turning coin, the author's addresses, and links that the dialog grows to show.
 class Dialog1 final : public Form {
   public:
     /// `pointer` must outlive the form.
@@ -61,9 +61,9 @@ class Dialog1 final : public Form {
     void Timer4_Timer();
 
     void set_links_visible(bool visible);
-    /// Shows the picture whose turn it is in the title bar and the taskbar.
+    /// Shows the picture number `icon_` in the title bar and the taskbar.
     void show_icon();
-    /// Gives the window each height of an animation up to the last, or only the last if the user wants no animations.
+    /// Resizes the window step by step to the last height of an animation, or at once if the user wants no animations.
     void resize(std::optional<double> (*next_height)(double));
 
     PointerState& pointer_;

@@ -6,7 +6,7 @@
 namespace quillomat {
 namespace {
 
-// Returns the lowest drawn resolution that need not be enlarged, or the highest one.
+/// Returns the lowest resolution of a bitmap that need not be enlarged, or the highest one.
 int drawn_resolution(int dpi) {
     constexpr int drawn[] = {96, 120, 144, 192};
     const int* const found = std::lower_bound(std::begin(drawn), std::end(drawn), dpi);
@@ -36,7 +36,7 @@ void Backdrop::draw(HDC canvas) const {
     const RECT& area = pixels();
     const MemoryCanvas memory(canvas);
     const Selection selected(memory.get(), bitmap_.get());
-    // Bitmap and bounds usually have the same size, and StretchBlt then only copies.
+    // Usually the bitmap has the size of the bounds, and StretchBlt only copies it.
     SetStretchBltMode(canvas, HALFTONE);
     SetBrushOrgEx(canvas, 0, 0, nullptr);
     StretchBlt(canvas, area.left, area.top, area.right - area.left, area.bottom - area.top, memory.get(), 0, 0,

@@ -5,9 +5,8 @@
 
 namespace quillomat {
 
-/// A painted picture of many colours that fills its bounds: a bitmap among the program's resources, drawn for 96, 120,
-/// 144 and 192 dots per inch, each under the number `resource` plus its resolution. Mouse events go to whatever lies
-/// behind the picture.
+/// A bitmap that fills its bounds. The program's resources hold it for 96, 120, 144 and 192 dots per inch, each under
+/// the number `resource` plus its resolution. Mouse events pass through to the window behind it.
 class Backdrop : public Graphic {
   public:
     Backdrop(Container& container, int resource, Bounds bounds);

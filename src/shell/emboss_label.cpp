@@ -31,7 +31,7 @@ void EmbossLabel(Label& main, Label& shadow, Label& highlight, const std::wstrin
     const double offset = to_twips(style == EmbossStyle::Raised ? depth : -depth, main.form().dpi());
     place_copy(shadow, main, offset);
     place_copy(highlight, main, -offset);
-    // Windows paints the three labels together when the message queue is empty, so no state in between is seen.
+    // The labels are painted together when the message queue is empty, so that no intermediate state is visible.
     for (Label* edge : {&shadow, &highlight}) edge->set_visible(!plain);
     main.set_visible(true);
     main.bring_to_front();

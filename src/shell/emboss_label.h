@@ -8,7 +8,7 @@ namespace quillomat {
 
 class Label;
 
-/// Which edge of the text is light: the upper left or the lower right.
+/// Raised text has its light edge at the upper left, pressed-in text at the lower right.
 enum class EmbossStyle { Raised = 1, PressedIn = 2 };
 
 /// Makes a text look raised or pressed in. `main` shows the text, `shadow` a grey copy `depth` pixels to the lower

@@ -39,7 +39,7 @@ class frmAbout final : public Form {
     Label Label3{*this, {}, {240, 1785, 5430, 330}};
     Label Label1{*this, {}, {240, 1785, 5430, 330}};
     Label Label4{*this, L"You have run Quillomat 10 times.", {240, 1785, 5430, 330}};
-    /// The run count for screen readers, which do not find painted text. A label without a size shows nothing.
+    /// The run count for screen readers, which cannot see painted text. A label without a size is invisible.
     StaticLabel SpokenRunCount{*this, {}, {}};
     Line Line2{*this, {240, 2250, 5430, 30}};
     Link Label2;

@@ -16,8 +16,8 @@ constexpr Colour band_colour = rgb(36, 21, 90);
 constexpr Colour subtitle_colour = rgb(189, 180, 247);
 constexpr Colour stripe_colour = rgb(47, 167, 160);
 
-// From this far right on a button, the help box stands to the left of the pointer; otherwise centred above it, by the
-// second distance.
+// In twips. If the pointer is this far right on a button, the help box is placed to the left of it, otherwise centred;
+// it is always this much higher.
 constexpr double help_box_turn = 1290;
 constexpr double help_box_rise = 500;
 
@@ -158,7 +158,7 @@ void frmMain::Command3_Click() {
     Timer5.set_enabled(true);
     set_caption(L"Exit?");
     set_default_button(&Command1);
-    // Focus moves before the focused button is disabled: a disabled window swallows the keys typed ahead.
+    // Move the focus before its button is disabled: a disabled window swallows the keys typed ahead.
     show_answers();
     Command1.set_focus();
     enable_what_leads_away(false);
@@ -219,7 +219,7 @@ void frmMain::Timer2_Timer() {
     if (next != before) {
         place(next);
     } else if (Command1.top() != Command3.top()) {
-        // Rounding to pixels has let the answers come to rest a little above or below the exit button.
+        // Because of the rounding to pixels, the answers may rest a little above or below the exit button.
         Command1.set_top(Command3.top());
         Command2.set_top(Command3.top());
     }
@@ -233,7 +233,7 @@ void frmMain::Timer3_Timer() {
     place(next_withdrawing(before));
     if (!withdrawing_is_complete(Command3.width()) && exit_confirmation() != before) return;
     Timer3.set_enabled(false);
-    // Rounding to pixels may have let the exit button grow beyond its former width.
+    // Because of the rounding to pixels, the exit button may be wider than before.
     Command3.set_width(exit_width_resting);
     // Answers below the edge of the window must not take the focus.
     hide_answers();

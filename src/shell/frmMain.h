@@ -54,7 +54,7 @@ class frmMain final : public Form {
     Label Name{Frame1, product::title, {1170, 150, 3400, 540}};
     Label Subtitle{Frame1, L"Cheat codes for computer games", {1185, 690, 3400, 240}};
     Image Image1{Frame1, Picture(PICTURE_AUTHOR_MAIL), {4695, 90, 960, 960}};
-    // Painted stripes above and below the buttons that open something.
+    // Painted stripes above and below the four upper buttons.
     Label Command7{*this, {}, {0, 1140, design_width, 60}};
     Label Command9{*this, {}, {240, 3405, 5415, 15}};
 
@@ -95,7 +95,7 @@ class frmMain final : public Form {
     void enable_what_leads_away(bool enabled);
     void show_answers();
     void hide_answers();
-    /// Ticks one of the exit question's timers until it has stopped or the buttons no longer move.
+    /// Ticks one of the exit question's timers until it stops or the buttons no longer move.
     void take_all_steps(Timer& steps);
     ExitConfirmation exit_confirmation() const;
     void place(const ExitConfirmation& confirmation);

@@ -25,7 +25,7 @@ constexpr const wchar_t* mottoes[] = {
 
 constexpr Colour letter_colour{0x808080};
 
-// The centre of the sheet of paper in the background, on which the name is written.
+// The centre of the sheet of paper in the background, where the name is shown.
 constexpr double name_centre_x = 2685;
 constexpr double name_centre_y = 1245;
 
@@ -91,7 +91,8 @@ void frmSplash::place_letters() {
 
 void frmSplash::go_on_when_clicked(MouseEvents& item) {
     item.on_click = [this] {
-        // The main screen puts the pointer on its largest button; a second press would press that.
+        // The main screen moves the pointer to its largest button, which the second press of a double-click would
+        // press.
         application().drop_second_press();
         Proceed();
     };
@@ -120,7 +121,7 @@ void frmSplash::Timer1_Timer() {
 }
 
 void frmSplash::Timer2_Timer() {
-    // Label2 reports its position rounded to pixels, which would round every step.
+    // Keep the exact position: Label2 rounds it to whole pixels.
     if (const auto left = next_version_left(version_left_)) {
         version_left_ = *left;
         Label2.set_left(version_left_);

@@ -31,7 +31,7 @@ class frmSplash final : public Form {
     Label Label3{*this, L"By Tobin Ferrand (Tob)", {540, 2070, 3300, 360}};
     Label Label4{*this, L"Click screen to continue ", {660, 3915, 2700, 270}};
     Label Label6{*this, L"What's the point if you can't cheat?", {540, 2475, 4500, 540}};
-    /// Version and motto for screen readers, which do not find painted text. A label without a size shows nothing.
+    /// Version and motto for screen readers, which cannot see painted text. A label without a size is invisible.
     StaticLabel Spoken{*this, {}, {}};
     Timer Timer1{*this, 75};
     Timer Timer2{*this, 35};

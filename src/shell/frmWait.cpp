@@ -6,7 +6,7 @@ namespace quillomat {
 
 frmWait::frmWait(Application& application, std::function<void()> show_viewer)
     : Form(application, {.name = L"frmWait",
-                         // Not visible without a title bar, but screen readers announce it.
+                         // Invisible without a title bar, but screen readers announce it.
                          .caption = L"Please wait... loading...",
                          .width = 4500,
                          .height = 1200,
@@ -18,7 +18,7 @@ frmWait::frmWait(Application& application, std::function<void()> show_viewer)
     Shape1.set_border_colour(colours::grey_text);
     on_load = [this] {
         centre_on_screen();
-        // A key typed ahead must not open a dialog on the main screen, which the viewer would then wait for.
+        // A key typed ahead must not open a dialog of the main screen, which would make the viewer wait.
         alone_.emplace(this->application(), window());
     };
     on_unload = [this] { alone_.reset(); };
@@ -27,7 +27,7 @@ frmWait::frmWait(Application& application, std::function<void()> show_viewer)
 
 void frmWait::Timer1_Timer() {
     Timer1.set_enabled(false);
-    // Loading the viewer blocks the message loop, so nothing is painted meanwhile.
+    // Loading the viewer blocks the message loop, so paint the window now.
     paint_changes();
     try {
         show_viewer_();

@@ -14,7 +14,7 @@ namespace quillomat {
 /// The loading window, shown while the viewer opens and reads the database.
 class frmWait final : public Form {
   public:
-    /// `show_viewer` opens the viewer and returns when it has loaded.
+    /// `show_viewer` opens the viewer and returns when the viewer has loaded.
     frmWait(Application& application, std::function<void()> show_viewer);
 
     Image Picture1{*this, Picture(PICTURE_GAME_PAD), {300, 240, 720, 720}};

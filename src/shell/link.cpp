@@ -10,7 +10,7 @@ namespace {
 constexpr Colour idle{0xFF0000};
 constexpr Colour held_down{0x0000FF};
 
-// Room for the frame that shows the focus.
+// Space for the focus rectangle.
 constexpr int margin_pixels = 2;
 
 constexpr UINT text_format = DT_LEFT | DT_SINGLELINE;
@@ -31,7 +31,7 @@ void Link::fit_to_caption() {
         const Selection selected(canvas.get(), used.get());
         DrawTextW(canvas.get(), text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | text_format);
     }
-    // Fonts whose small sizes were drawn by hand can come out a little wider than the system measures them.
+    // A font with bitmaps for its small sizes can be drawn a little wider than Windows measures it.
     const LONG spare = area.bottom / 2;
     set_width(to_twips(static_cast<int>(area.right + spare) + 2 * margin_pixels, dpi()));
     set_height(to_twips(static_cast<int>(area.bottom) + 2 * margin_pixels, dpi()));
@@ -46,11 +46,11 @@ void Link::draw(const DRAWITEMSTRUCT& request) {
     const BufferedCanvas buffer(request.hDC, request.rcItem);
     const HDC canvas = buffer.canvas();
     fill(canvas, request.rcItem, container().back_colour());
-    // While the mouse holds it, it is down wherever the pointer has gone.
+    // A link that has captured the mouse looks pressed even if the pointer has left it.
     const bool down = (request.itemState & ODS_SELECTED) || GetCapture() == window();
     const Colour own = down ? held_down : idle;
     const COLORREF shown = legible(own, container().back_colour());
-    // Without the colour of a link, the line is what tells it from a mere text.
+    // Without the colour, only the underline tells a link from other text.
     FontSpec spec = font();
     spec.underline = hot() || shown != resolve(own);
     const Font used = form().application().fonts().get(spec, dpi());

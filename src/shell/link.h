@@ -4,8 +4,8 @@
 
 namespace quillomat {
 
-/// A text that is pressed like a button, with the mouse or by keyboard, and looks like a link: blue, red while it is
-/// pressed, underlined under the pointer and where the user's colours leave no blue.
+/// A button that looks like a link: blue, red while it is pressed, and underlined under the pointer or if the user's
+/// colours leave no blue.
 class Link : public Button {
   public:
     /// As wide as its caption; `left` and `top` are in twips.

@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// What the main screen opens. Unbound members do nothing.
+/// Hooks by which the main screen opens other windows without including them. An unbound hook does nothing.
 struct MainWindows {
     /// Shows the loading window, which opens the viewer.
     std::function<void()> cheats;

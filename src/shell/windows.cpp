@@ -82,7 +82,7 @@ void Windows::open_viewer_for(const std::wstring& question) {
 }
 
 void Windows::restore_main_screen() {
-    // The viewer also closes together with the main screen; restoring that now would flash it up.
+    // If the viewer closes together with the main screen, restoring the main screen would make it flash up.
     if (main_screen_ && !main_screen_->closed() && main_screen_->window_state() == WindowState::Minimised) {
         main_screen_->set_window_state(WindowState::Normal);
     }

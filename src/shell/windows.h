@@ -32,7 +32,7 @@ class Windows {
     /// Opens the loading window, which opens the viewer.
     void open_loading_window();
     void open_viewer();
-    /// Opens the viewer and has it answer a question, as described at `frmCtlView::look_up`.
+    /// Opens the viewer and lets it answer a question, see `frmCtlView::look_up`.
     void open_viewer_for(const std::wstring& question);
     /// Opens the message to the author.
     void open_author_mail();

@@ -17,7 +17,7 @@ class frmStatus final : public Form {
     Shape Shape1{*this, {120, 120, 0, 300}};
     Shape Shape2{*this, {120, 120, full_progress_bar, 300}};
 
-    /// True until the user cancels.
+    /// True while fonts are collected and the user has not cancelled.
     bool GoingOn = false;
 
     /// Shows an empty bar and starts counting the seconds.
