@@ -1,8 +1,5 @@
 // The rules that every window of the program relies on, held over every kind of control.
 
-#include <cstdint>
-#include <span>
-
 #include "controls/button.h"
 #include "controls/frame.h"
 #include "controls/graphics.h"
@@ -10,13 +7,9 @@
 #include "controls/option_button.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
-#include "forms/menu.h"
 #include "forms/timer.h"
-#include "resources/pictures.h"
 #include "support.h"
 #include "text/error.h"
-#include "win/gdi.h"
-#include "win/picture.h"
 
 namespace quillomat {
 namespace {
@@ -89,18 +82,6 @@ TEST_F(FormsTest, AFixedWindowKeepsItsInsideAndIsLaidOutOnceAtEachResolution) {
         SendMessageW(fixed.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
         EXPECT_EQ(std::exchange(layouts, 0), 1);
         EXPECT_TRUE(fixed.inner_width() == design.width && fixed.inner_height() == design.height) << dpi;
-    }
-}
-
-TEST_F(FormsTest, AMenuPictureIsSeeThroughWhereNothingIsDrawn) {
-    const GdiObject<HBITMAP> bitmap = Picture(PICTURE_GAME_PAD).bitmap(32);
-    BITMAP header{};
-    GetObjectW(bitmap.get(), sizeof header, &header);
-    const std::span pixels(static_cast<const std::uint32_t*>(header.bmBits), 32 * 32);
-    EXPECT_EQ(pixels[0], 0U) << "a corner";
-    for (const std::uint32_t pixel : pixels) {
-        const std::uint32_t alpha = pixel >> 24;
-        EXPECT_TRUE((pixel & 0xFF) <= alpha && (pixel >> 8 & 0xFF) <= alpha && (pixel >> 16 & 0xFF) <= alpha);
     }
 }
 
@@ -233,21 +214,6 @@ TEST_F(FormsTest, AFaultOfPaintingOrOfATimerIsReportedOnceAndLater) {
         press(board.Command1);
         pump();
     }
-}
-
-TEST_F(FormsTest, AWindowThatHasClosedLeavesItsMenusToTheirOwners) {
-    auto form = std::make_unique<Form>(application, FormDesign{.name = L"frmBar", .caption = L"Bar"});
-    auto bar = std::make_unique<MenuBar>(*form);
-    const Menu menu(*bar, L"Menu");
-    form->on_closed = [] { throw 1; };
-    expect_message(L"Quillomat", L"Unknown error");
-    form->close();
-    EXPECT_SOON(!form->window());
-    pump();
-    EXPECT_TRUE(IsMenu(bar->handle()) && IsMenu(menu.handle()));
-    const HMENU handle = bar->handle();
-    bar.reset();
-    EXPECT_FALSE(IsMenu(handle));
 }
 
 }  // namespace

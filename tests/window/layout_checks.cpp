@@ -29,18 +29,12 @@ std::string narrow(const std::wstring& text) {
     return {text.begin(), text.end()};
 }
 
-std::wstring kind_of(HWND window) {
-    std::wstring kind = class_of(window);
-    std::transform(kind.begin(), kind.end(), kind.begin(), [](wchar_t c) { return std::towlower(c); });
-    return kind;
-}
-
 DWORD style_of(HWND window) {
     return static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE));
 }
 
 DWORD button_type(HWND window) {
-    return kind_of(window) == L"button" ? style_of(window) & BS_TYPEMASK : ~0u;
+    return class_of(window) == L"Button" ? style_of(window) & BS_TYPEMASK : ~0u;
 }
 
 bool is_option(HWND window) {
@@ -48,7 +42,7 @@ bool is_option(HWND window) {
 }
 
 std::string described(HWND window) {
-    return narrow(kind_of(window) + L" \"" + text_of(window).substr(0, 40) + L"\"");
+    return narrow(class_of(window) + L" \"" + text_of(window).substr(0, 40) + L"\"");
 }
 
 RECT area_of(HWND window) {
@@ -60,7 +54,7 @@ RECT area_of(HWND window) {
 
 /// A box with a help text stands in front of other controls while the pointer is on the control that it explains.
 bool is_help_box(HWND window) {
-    return kind_of(window) == L"edit" && !(style_of(window) & WS_TABSTOP);
+    return class_of(window) == L"Edit" && !(style_of(window) & WS_TABSTOP);
 }
 
 /// The visible controls on a window and in its frames, the first made first. Names for screen readers take no room.
@@ -68,7 +62,7 @@ std::vector<HWND> controls_on(HWND window) {
     std::vector<HWND> controls;
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const RECT area = area_of(child);
-        const bool is_name = kind_of(child) == L"static" && IsRectEmpty(&area);
+        const bool is_name = class_of(child) == L"Static" && IsRectEmpty(&area);
         if (!(style_of(child) & WS_VISIBLE) || is_name || is_help_box(child)) continue;
         controls.push_back(child);
         if (button_type(child) != BS_GROUPBOX) continue;
@@ -88,30 +82,28 @@ void expect_room(const std::string& item, HFONT font, const std::wstring& text, 
 
 void expect_room_for_text(HWND control, int dpi) {
     const auto font = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
-    const std::wstring kind = kind_of(control);
+    const std::wstring kind = class_of(control);
     const DWORD style = style_of(control);
     RECT room{};
     GetClientRect(control, &room);
     UINT format = DT_SINGLELINE;
     std::wstring text = text_of(control);
-    if (kind == L"button") {
+    if (kind == L"Button") {
         // Around a caption stand the button's edge, the mark of the choice, or the ends of the frame's line.
-        int used = 17;
+        int used = 20;
         if (button_type(control) == BS_OWNERDRAW) used = 4;
-        if (button_type(control) == BS_GROUPBOX) used = 20;
         room.right -= MulDiv(used, dpi, 96);
-    } else if (kind == L"static") {
+    } else if (kind == L"Static") {
         if ((style & SS_TYPEMASK) != SS_LEFT) return;
-        const bool shortened = style & SS_ELLIPSISMASK;
-        if (shortened) text = L"C:";
+        if (style & SS_ELLIPSISMASK) text = L"C:";
         format = DT_WORDBREAK | (style & SS_NOPREFIX ? DT_NOPREFIX : 0);
     } else {
         // What the user types, picks or scrolls through may be any text; a whole line of it is seen.
-        if (kind == L"listbox") room.bottom = static_cast<LONG>(SendMessageW(control, LB_GETITEMHEIGHT, 0, 0));
-        if (kind == L"combobox") room.bottom -= 4;
-        if (kind == L"edit") SendMessageW(control, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
+        if (kind == L"ListBox") room.bottom = static_cast<LONG>(SendMessageW(control, LB_GETITEMHEIGHT, 0, 0));
+        if (kind == L"ComboBox") room.bottom -= 4;
+        if (kind == L"Edit") SendMessageW(control, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
         room.bottom -= room.top;
-        const bool all_in_sight = (style & ES_MULTILINE) && kind == L"edit" && !(style & WS_VSCROLL);
+        const bool all_in_sight = (style & ES_MULTILINE) && kind == L"Edit" && !(style & WS_VSCROLL);
         if (!all_in_sight) text = L"Ag";
         format = all_in_sight ? DT_NOPREFIX : format;
     }
@@ -178,15 +170,6 @@ void add_access_keys(HMENU menu, std::set<wchar_t>& keys) {
     }
 }
 
-std::vector<HWND> shown_forms_and_messages() {
-    std::vector<HWND> windows = visible_windows();
-    std::erase_if(windows, [](HWND window) {
-        const bool is_message = process_of(window) == GetCurrentProcessId() && class_of(window) == message_box_class;
-        return !is_message && !Form::from(window);
-    });
-    return windows;
-}
-
 }  // namespace
 
 void expect_whole_layout(HWND window) {
@@ -207,8 +190,8 @@ void expect_whole_layout(HWND window) {
 void expect_unique_access_keys(HWND window) {
     std::set<wchar_t> keys;
     for (const HWND control : controls_on(window)) {
-        const std::wstring kind = kind_of(control);
-        const bool has_prefix = kind == L"button" || (kind == L"static" && !(style_of(control) & SS_NOPREFIX));
+        const std::wstring kind = class_of(control);
+        const bool has_prefix = kind == L"Button" || (kind == L"Static" && !(style_of(control) & SS_NOPREFIX));
         if (has_prefix) add_access_key(text_of(control), keys);
     }
     if (const HMENU bar = GetMenu(window)) add_access_keys(bar, keys);
@@ -217,7 +200,8 @@ void expect_unique_access_keys(HWND window) {
 std::vector<HWND> inputs_of(HWND window) {
     std::vector<HWND> inputs;
     for (const HWND control : controls_on(window)) {
-        if (button_type(control) == BS_GROUPBOX || kind_of(control) == L"static" || !IsWindowEnabled(control)) continue;
+        if (button_type(control) == BS_GROUPBOX || class_of(control) == L"Static" || !IsWindowEnabled(control))
+            continue;
         const auto same_group = [control](HWND other) {
             return is_option(other) && GetParent(other) == GetParent(control);
         };
@@ -233,16 +217,16 @@ std::vector<HWND> inputs_of(HWND window) {
 
 void expect_spoken_names(HWND window) {
     for (const HWND control : controls_on(window)) {
-        if (kind_of(control) == L"static") continue;
+        if (class_of(control) == L"Static") continue;
         // A screen reader asks for the control first. Where the control has no caption, the reader takes the text
         // right before it for the name.
         SendMessageW(control, WM_GETOBJECT, 0, OBJID_CLIENT);
         if (button_type(control) == BS_GROUPBOX) continue;
-        if (kind_of(control) == L"button") {
+        if (class_of(control) == L"Button") {
             EXPECT_FALSE(text_of(control).empty()) << "a button without a caption";
         } else {
             const HWND before = GetWindow(control, GW_HWNDPREV);
-            EXPECT_TRUE(before && kind_of(before) == L"static" && !text_of(before).empty())
+            EXPECT_TRUE(before && class_of(before) == L"Static" && !text_of(before).empty())
                 << described(control) << " has no name";
         }
     }
@@ -265,17 +249,14 @@ void expect_reading_order(const std::vector<HWND>& walk) {
                                      << ::testing::PrintToString(steps_back);
 }
 
-void expect_only_one_takes_input(HWND dialog) {
-    EXPECT_TRUE(IsWindowEnabled(dialog));
-    for (const HWND window : shown_forms_and_messages()) {
-        EXPECT_TRUE(window == dialog || !IsWindowEnabled(window))
-            << described(window) << " takes input beside " << described(dialog);
+std::string forms_and_messages(BOOL taking_input, HWND except) {
+    std::string windows;
+    for (const HWND window : visible_windows()) {
+        const bool is_message = process_of(window) == GetCurrentProcessId() && class_of(window) == message_box_class;
+        const bool counts = window != except && (is_message || Form::from(window));
+        if (counts && IsWindowEnabled(window) == taking_input) windows += described(window) + " ";
     }
-}
-
-bool all_take_input() {
-    const auto windows = shown_forms_and_messages();
-    return std::all_of(windows.begin(), windows.end(), IsWindowEnabled);
+    return windows;
 }
 
 }  // namespace quillomat

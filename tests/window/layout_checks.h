@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "win/api.h"
@@ -21,10 +22,7 @@ std::vector<HWND> inputs_of(HWND window);
 /// Each control of a walk by the Tab key, all the way round, stands below or to the right of the one before.
 void expect_reading_order(const std::vector<HWND>& walk);
 
-/// While a dialog or a message box is open, it is the only visible window of the program that takes input.
-void expect_only_one_takes_input(HWND dialog);
-
-/// True if every visible window of the program takes input.
-bool all_take_input();
+/// Lists the visible windows of the program and its message boxes, those that take input or those that wait for others.
+std::string forms_and_messages(BOOL taking_input, HWND except = nullptr);
 
 }  // namespace quillomat

@@ -1,7 +1,8 @@
 // What each kind of item paints, by what its window shows.
 
-#include <algorithm>
+#include <cstdint>
 #include <set>
+#include <span>
 
 #include "common/hover_help.h"
 #include "controls/button.h"
@@ -15,7 +16,6 @@
 #include "output/folder_list_box.h"
 #include "resources/pictures.h"
 #include "shell/emboss_label.h"
-#include "shell/frmSplash.h"
 #include "shell/link.h"
 #include "shell/picture_box.h"
 #include "shown_pixels.h"
@@ -105,8 +105,7 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
     };
     const auto enable = [](Item& item) { return [&item](bool on) { item.set_enabled(!on); }; };
     const HWND form = board.window(), button = board.Button1.window(), face_only = board.Button2.window(),
-               option = board.Option1.window(), check = board.Check1.window(), link = board.Link1.window(),
-               picture = board.Picture1.window(), list = board.List1.window();
+               link = board.Link1.window(), list = board.List1.window();
     const std::tuple<const char*, HWND, std::function<void(bool)>> changes[] = {
         {"disabled label", form, enable(board.Label1)},
         {"other caption", form, [&](bool on) { board.Label1.set_caption(on ? L"Other" : L"Label"); }},
@@ -126,21 +125,21 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
              on ? board.Button2.set_focus() : board.Text1.set_focus();
          }},
         {"underlined button", button, [&](bool on) { board.Button1.set_underlined(on); }},
-        {"disabled option", option, enable(board.Option1)},
-        {"set option", option, send(option, BM_SETCHECK)},
-        {"disabled check box", check, enable(board.Check1)},
-        {"set check box", check, [&](bool on) { board.Check1.set_value(on); }},
-        {"disabled frame", board.Frame1.window(), enable(board.Frame1)},
+        {"disabled option", form, enable(board.Option1)},
+        {"set option", form, [&](bool on) { board.Option1.set_value(on); }},
+        {"disabled check box", form, enable(board.Check1)},
+        {"set check box", form, [&](bool on) { board.Check1.set_value(on); }},
+        {"disabled frame", form, enable(board.Frame1)},
         {"hovered link", link, hover(link)},
         {"pressed link", link, send(link, BM_SETSTATE)},
-        {"narrow picture", picture, [&](bool on) { board.Picture1.set_width_factor(on ? 0.5 : 1); }},
-        {"mirrored picture", picture, [&](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
+        {"narrow picture", form, [&](bool on) { board.Picture1.set_width_factor(on ? 0.5 : 1); }},
+        {"mirrored picture", form, [&](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
         {"help box", form,
          [&](bool on) { on ? ShowTip(board.Button1, board.Help, L"Help") : HideTip(board.Button1, board.Help); }},
         {"disabled list", list, enable(board.List1)},
         {"selected item", list,
          [&](bool on) { SendMessageW(list, LB_SETCURSEL, on ? 0 : static_cast<WPARAM>(-1), 0); }},
-        {"disabled text", board.Text1.window(),
+        {"disabled text", form,
          [&](bool on) {
              board.Text1.set_text(L"Text");
              board.Button2.set_focus();
@@ -173,33 +172,32 @@ TEST_F(PaintingTest, ALabelHasItsColoursAndItsPlaceAndLeavesWhatLiesBehindIt) {
     board.Label1.set_back_style(BackStyle::Opaque);
     board.Label1.set_back_colour(green);
     EXPECT_EQ(shown().at(place.left, place.bottom - 1), green.value);
-    board.Label1.set_enabled(false);
-    EXPECT_EQ(count_on(board.Label1, red), 0);
-    EXPECT_GT(count_on(board.Label1, colours::grey_text), 20);
+}
+
+/// Expects a picture in the middle of an area, and over this share of its width.
+void expect_centred(const RECT& ink, const RECT& area, double share) {
+    EXPECT_NEAR(ink.left + ink.right, area.left + area.right, 5);
+    EXPECT_NEAR(ink.top + ink.bottom, area.top + area.bottom, 7);
+    const double most = share * (area.right - area.left);
+    EXPECT_NEAR(ink.right - ink.left, most * 7 / 8, most / 8);
 }
 
 TEST_F(PaintingTest, ImagesShapesAndLinesStandWhereTheyShould) {
-    const auto middle_of = [](const RECT& area) {
-        return POINT{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
-    };
     const RECT& image = board.Image1.pixels();
-    const RECT around{image.left - 3, image.top - 3, image.right + 3, image.bottom + 3};
-    RECT ink = shown().ink(around, face);
-    EXPECT_TRUE(ink.left >= image.left && ink.top >= image.top && ink.right <= image.right &&
-                ink.bottom <= image.bottom)
-        << "nothing of the picture is outside of its place";
-    EXPECT_GT(ink.right - ink.left, (image.right - image.left) * 3 / 4);
+    RECT around = image;
+    InflateRect(&around, 3, 3);
+    expect_centred(shown().ink(around, face), image, 1);
     board.Image1.set_picture_size(450);
-    ink = shown().ink(around, face);
-    EXPECT_LE(ink.right - ink.left, 30);
-    EXPECT_NEAR(middle_of(ink).x, middle_of(image).x, 2);
-    EXPECT_NEAR(middle_of(ink).y, middle_of(image).y, 3);
+    expect_centred(shown().ink(around, face), image, 0.5);
+    const RECT coin = inside_of(board.Picture1.window());
+    board.Picture1.set_back_colour(colours::white);
+    board.Picture1.set_width_factor(0.5);
+    expect_centred(ShownPixels(board.Picture1.window()).ink(coin, 0xFFFFFF), coin, 0.5);
 
     const RECT& shape = board.Shape1.pixels();
     board.Shape1.set_border_colour(red);
-    for (const POINT corner : {POINT{shape.left, shape.top}, POINT{shape.right - 1, shape.bottom - 1}}) {
-        EXPECT_EQ(shown().at(corner.x, corner.y), red.value);
-    }
+    EXPECT_EQ(shown().at(shape.left, shape.top), red.value);
+    EXPECT_EQ(shown().at(shape.right - 1, shape.bottom - 1), red.value);
     EXPECT_EQ(shown().at(shape.left + 5, shape.top + 5), face) << "what lies behind is seen";
     board.Shape1.set_fill_colour(green);
     EXPECT_EQ(shown().at(shape.left + 5, shape.top + 5), green.value);
@@ -208,24 +206,6 @@ TEST_F(PaintingTest, ImagesShapesAndLinesStandWhereTheyShould) {
     const RECT row{line.left, line.top, line.right + 1, line.top + 1};
     EXPECT_EQ(shown().count(row, face), 1) << "only what follows the line is empty";
     EXPECT_EQ(shown().at(line.right, line.top), face);
-
-    // The coin, squeezed about its middle.
-    const RECT box = inside_of(board.Picture1.window());
-    board.Picture1.set_back_colour(colours::white);
-    board.Picture1.set_width_factor(0.5);
-    ink = ShownPixels(board.Picture1.window()).ink(box, 0xFFFFFF);
-    EXPECT_NEAR(middle_of(ink).x, middle_of(box).x, 2);
-    EXPECT_NEAR(ink.right - ink.left, box.right / 2, 10);
-    EXPECT_GT(ink.bottom - ink.top, box.bottom * 3 / 4);
-}
-
-TEST_F(PaintingTest, TheSplashHasItsBackground) {
-    frmSplash splash(application, [] {});
-    splash.show();
-    const ShownPixels painted(splash.window());
-    std::set<COLORREF> colours;
-    for (LONG x = 0; x < inside_of(splash.window()).right; ++x) colours.insert(painted.at(x, x / 2));
-    EXPECT_GT(colours.size(), 20u);
 }
 
 TEST_F(PaintingTest, AnEmbossedTextStandsBetweenItsEdges) {
@@ -233,37 +213,29 @@ TEST_F(PaintingTest, AnEmbossedTextStandsBetweenItsEdges) {
     for (const auto style : {EmbossStyle::Raised, EmbossStyle::PressedIn}) {
         EmbossLabel(board.Raised, board.Shadow, board.Highlight, {}, style, {1}, 2);
         const ShownPixels painted = shown();
-        LONG whites = 0;
-        LONG greys = 0;
+        int lit = 0;
         for (LONG y = place.top - 3; y < place.bottom + 3; ++y) {
             for (LONG x = place.left - 3; x < place.right + 3; ++x) {
-                // An edge of this colour stands to the upper left of the text where the text follows it.
+                // Which edge stands to the upper left of the text.
                 const bool before_text = painted.at(x + 2, y + 2) == 1;
-                whites += painted.at(x, y) == 0xFFFFFF && before_text;
-                greys += painted.at(x, y) == 0x808080 && before_text;
+                lit += before_text && painted.at(x, y) == 0xFFFFFF;
+                lit -= before_text && painted.at(x, y) == 0x808080;
             }
         }
-        EXPECT_EQ(whites > greys, style == EmbossStyle::Raised) << whites << " and " << greys;
+        EXPECT_EQ(lit > 0, style == EmbossStyle::Raised);
         EXPECT_GT(count_on(board.Raised, {1}), 20);
     }
 }
 
 TEST_F(PaintingTest, ControlsHaveTheirColoursAndTextsThatCanBeRead) {
     EXPECT_GT(count(board.Link1, {0xFF0000}), 20);
-    EXPECT_GT(count(board.Option1, colours::window_text) + count(board.Option1, colours::button_text), 20);
-    EXPECT_GT(count(board.Frame1, colours::button_text), 20) << "the caption";
     SendMessageW(board.Link1.window(), BM_SETSTATE, TRUE, 0);
     EXPECT_GT(count(board.Link1, {0x0000FF}), 20) << "held down";
-    SendMessageW(board.Link1.window(), BM_SETSTATE, FALSE, 0);
     for (const auto& [back, text] : {std::pair{green, colours::white}, {rgb(255, 255, 0), colours::black}}) {
         board.Button1.set_back_colour(back);
         EXPECT_GT(count(board.Button1, back), 500);
         EXPECT_GT(count(board.Button1, text), 20);
     }
-    board.List1.set_back_colour(rgb(192, 192, 255));
-    board.List1.set_fore_colour(rgb(0, 0, 255));
-    EXPECT_GT(count(board.List1, rgb(192, 192, 255)), 1000);
-    EXPECT_GT(count(board.List1, rgb(0, 0, 255)), 20);
     ShowTip(board.Button1, board.Help, L"Help");
     RECT place{};
     GetWindowRect(board.Help.window(), &place);
@@ -278,12 +250,14 @@ TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) 
     const int last = board.Folders.count() - 1;
     ASSERT_EQ(board.Folders.item(last), L"inner");
     board.Folders.set_top_index(last - 1);
-    const HWND list = board.Folders.window();
-    RECT selected{};
-    RECT plain{};
-    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(last) - 1, reinterpret_cast<LPARAM>(&selected));
-    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(last), reinterpret_cast<LPARAM>(&plain));
-    const ShownPixels shown(list);
+    const ShownPixels shown(board.Folders.window());
+    const auto row = [&](int index) {
+        RECT place{};
+        SendMessageW(board.Folders.window(), LB_GETITEMRECT, static_cast<WPARAM>(index),
+                     reinterpret_cast<LPARAM>(&place));
+        return place;
+    };
+    const RECT selected = row(last - 1), plain = row(last);
     EXPECT_GT(shown.count(selected, resolve(colours::highlight)), 500);
     EXPECT_GT(shown.count(selected, resolve(colours::highlight_text)), 20);
     EXPECT_GT(shown.count(plain, resolve(colours::window_text)), 20);
@@ -291,7 +265,6 @@ TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) 
     RECT icon = shown.ink(plain, resolve(colours::window));
     icon.right = icon.left + 14;
     EXPECT_LT(shown.ink(selected, resolve(colours::highlight)).left, icon.left) << "indented";
-    EXPECT_GT(shown.ink(icon, resolve(colours::window)).bottom, 0);
     EXPECT_EQ(shown.count(icon, resolve(colours::window_text)), 0);
     board.Drives.select_drive_of(L"C:\\");
     EXPECT_GT(count(board.Drives, colours::window_text), 5);
@@ -328,19 +301,6 @@ TEST_F(PaintingTest, TheUsersColoursReachEverything) {
     }
 }
 
-/// How many colours a bitmap has; 0 for none.
-std::size_t colours_of(HBITMAP bitmap) {
-    BITMAP header{};
-    if (!bitmap || !GetObjectW(bitmap, sizeof header, &header)) return 0;
-    const MemoryCanvas canvas(nullptr);
-    const Selection selected(canvas.get(), bitmap);
-    std::set<COLORREF> colours;
-    for (int y = 0; y < header.bmHeight; ++y) {
-        for (int x = 0; x < header.bmWidth; ++x) colours.insert(GetPixel(canvas.get(), x, y));
-    }
-    return colours.size();
-}
-
 struct ViewerPaintingTest : ShownViewerTest {
     ViewerPaintingTest() {
         open_viewer("Type IDDQD.\r\n$$$$$$$$$$$$$$$$$$$$ Doom\r\n");
@@ -354,8 +314,8 @@ TEST_F(ViewerPaintingTest, BothColourSchemesReachTextAndLists) {
     }
     viewer->List1.add(L"Doom");
     SendMessageW(viewer->List2.window(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
-    for (const bool coloured : {viewer->menus.mnuColour.checked(), !viewer->menus.mnuColour.checked()}) {
-        if (coloured != viewer->menus.mnuColour.checked()) viewer->menus.mnuColour.pick();
+    for (int scheme = 0; scheme < 2; ++scheme, viewer->menus.mnuColour.pick()) {
+        const bool coloured = viewer->menus.mnuColour.checked();
         const Colour text = coloured ? rgb(128, 0, 128) : colours::black;
         const Colour names = coloured ? rgb(0, 0, 255) : colours::black;
         EXPECT_GT(count(viewer->Text1, text), 20);
@@ -368,38 +328,48 @@ TEST_F(ViewerPaintingTest, BothColourSchemesReachTextAndLists) {
     }
 }
 
-TEST_F(ViewerPaintingTest, MenuEntriesHaveTheirPictures) {
+TEST_F(ViewerPaintingTest, MenuEntriesHavePicturesThatAreSeeThroughWhereNothingIsDrawn) {
+    const auto pixels_of = [](HBITMAP bitmap) {
+        BITMAP header{};
+        EXPECT_TRUE(GetObjectW(bitmap, sizeof header, &header));
+        const auto count = static_cast<std::size_t>(header.bmWidth * header.bmHeight);
+        return std::span(static_cast<const std::uint32_t*>(header.bmBits), count);
+    };
     const ViewerMenus& menus = viewer->menus;
     for (const Menu* entry : {&menus.mnuSave, &menus.mnuAddNew, &menus.mnuMailCheats, &menus.mnuExit, &menus.mnuCopy}) {
         MENUITEMINFOW info{};
         info.cbSize = sizeof info;
         info.fMask = MIIM_CHECKMARKS;
-        const HMENU menu = entry == &menus.mnuCopy ? menus.mnuOptions.handle() : menus.mnuMenu.handle();
-        ASSERT_TRUE(GetMenuItemInfoW(menu, static_cast<UINT>(entry->id()), FALSE, &info));
-        EXPECT_GT(colours_of(info.hbmpUnchecked), 2u) << text_of(viewer->window()).c_str();
-        EXPECT_GT(colours_of(info.hbmpChecked), 2u);
+        ASSERT_TRUE(GetMenuItemInfoW(GetMenu(viewer->window()), static_cast<UINT>(entry->id()), FALSE, &info));
+        for (const HBITMAP bitmap : {info.hbmpUnchecked, info.hbmpChecked}) {
+            const std::span pixels = pixels_of(bitmap);
+            EXPECT_GT(std::set(pixels.begin(), pixels.end()).size(), 2u);
+        }
+    }
+    // Wine: the menus' own are not.
+    const GdiObject<HBITMAP> see_through = Picture(PICTURE_GAME_PAD).bitmap(32);
+    EXPECT_EQ(pixels_of(see_through.get())[0], 0u) << "a corner";
+    for (const std::uint32_t pixel : pixels_of(see_through.get())) {
+        const std::uint32_t alpha = pixel >> 24;
+        EXPECT_TRUE((pixel & 0xFF) <= alpha && (pixel >> 8 & 0xFF) <= alpha && (pixel >> 16 & 0xFF) <= alpha);
     }
 }
 
 TEST_F(ViewerPaintingTest, AControlHasItsToolTip) {
-    const auto shown_tip = [this] {
-        HWND tips = nullptr;
-        do {
-            tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
-        } while (tips && GetWindow(tips, GW_OWNER) != viewer->window());
+    HWND tips = nullptr;
+    do {
+        tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+    } while (tips && GetWindow(tips, GW_OWNER) != viewer->window());
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof tool;
+    tool.hwnd = viewer->window();
+    tool.uId = reinterpret_cast<UINT_PTR>(viewer->Text1.window());
+    for (const wchar_t* tip : {L"Another", L"", L"Double-click a word to search for it"}) {
         wchar_t text[200]{};
-        TTTOOLINFOW tool{};
-        tool.cbSize = sizeof tool;
-        tool.hwnd = viewer->window();
-        tool.uId = reinterpret_cast<UINT_PTR>(viewer->Text1.window());
         tool.lpszText = text;
         SendMessageW(tips, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
-        return std::wstring(text);
-    };
-    EXPECT_EQ(shown_tip(), L"Double-click a word to search for it");
-    for (const wchar_t* tip : {L"Another", L""}) {
+        EXPECT_EQ(text, viewer->Text1.tool_tip());
         viewer->Text1.set_tool_tip(tip);
-        EXPECT_EQ(shown_tip(), tip);
     }
 }
 

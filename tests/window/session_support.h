@@ -4,22 +4,17 @@
 #include "forms/form.h"
 #include "registry_support.h"
 #include "support.h"
+#include "win/thread_windows.h"
 
 namespace quillomat {
 
 /// Returns the open form of a class, or null.
 template <class Window>
 Window* find_form() {
-    Window* found = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM result) -> BOOL {
-            auto& place = *reinterpret_cast<Window**>(result);
-            place = dynamic_cast<Window*>(Form::from(window));
-            return !place;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
+    for (const HWND window : thread_windows()) {
+        if (auto* const form = dynamic_cast<Window*>(Form::from(window))) return form;
+    }
+    return nullptr;
 }
 
 /// Tests windows of the program with files and settings of the test's own.

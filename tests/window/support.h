@@ -25,18 +25,12 @@ namespace quillomat {
 /// For another thread than the window's: whether the window, once a part of it was uncovered, is painted again within
 /// ten seconds.
 inline bool is_repainted(HWND window) {
-    const ULONGLONG deadline = GetTickCount64() + 10'000;
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE);
-    while (GetUpdateRect(window, nullptr, FALSE)) {
-        if (GetTickCount64() > deadline) return false;
-        Sleep(5);
-    }
-    return true;
+    return wait_until([window] { return !GetUpdateRect(window, nullptr, FALSE); }, std::chrono::seconds{10});
 }
 
 /// Windows are tested as they are: real ones, in the test's own process, with real messages.
-class WindowTest : public ::testing::Test {
-  protected:
+struct WindowTest : ::testing::Test {
     WindowTest();
     ~WindowTest() override;
 
@@ -60,6 +54,9 @@ class WindowTest : public ::testing::Test {
 
     /// As the user does, so that what goes wrong is shown to the user.
     static void press(const Control& button) { SendMessageW(button.window(), BM_CLICK, 0, 0); }
+
+    /// Changes the user's setting of Windows, for the rest of the test.
+    static void set_animations(bool wanted);
 
     /// Moves the pointer to a place of a window, in pixels from its inner left and top.
     static void move_pointer(HWND window, int x, int y);
