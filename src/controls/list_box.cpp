@@ -81,7 +81,8 @@ std::wstring ListBox::text() const {
 std::optional<int> ListBox::find(std::wstring_view text) const {
     // The system's own search ignores case and finds no empty text.
     const std::wstring wanted = displayable(text);
-    for (int index = 0; index < count(); ++index) {
+    const int items = count();
+    for (int index = 0; index < items; ++index) {
         const LRESULT length = send(LB_GETTEXTLEN, static_cast<WPARAM>(index));
         if (length == static_cast<LRESULT>(wanted.size()) && item(index) == wanted) return index;
     }
