@@ -38,6 +38,11 @@ void Frame::draw_background(HDC canvas, const RECT& client) {
 LRESULT Frame::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     // The system's group box is transparent to the mouse and paints in steps; as a container it does neither.
     if (message == WM_NCHITTEST) return HTCLIENT;
+    if (message == WM_ENABLE) {
+        // In the classic look it would paint itself at once.
+        InvalidateRect(window(), nullptr, FALSE);
+        return 0;
+    }
     if (const auto result = handle_container_message(message, wparam, lparam)) return *result;
     return Control::handle_message(message, wparam, lparam);
 }

@@ -23,6 +23,7 @@
 #include "viewer/check_box.h"
 // Needs the above.
 #include <commctrl.h>
+#include <uxtheme.h>
 
 namespace quillomat {
 namespace {
@@ -146,12 +147,19 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
              board.Text1.set_enabled(!on);
          }},
     };
-    for (const auto& [what, window, set] : changes) {
-        set(false);
-        const ShownPixels before(window);
-        for (const bool on : {true, false}) {
-            set(on);
-            EXPECT_EQ(ShownPixels(window).difference(before, before.area()).has_value(), on) << what;
+    for (const bool classic : {false, true}) {
+        const wchar_t* const theme = classic ? L" " : nullptr;
+        for (const Control* control : board.controls()) SetWindowTheme(control->window(), theme, theme);
+        board.Text1.set_focus();
+        for (const auto& [what, window, set] : changes) {
+            const bool is_shown = !classic || what != std::string_view("hovered button");
+            set(false);
+            const ShownPixels before(window);
+            for (const bool on : {true, false}) {
+                set(on);
+                EXPECT_EQ(ShownPixels(window).difference(before, before.area()).has_value(), on && is_shown)
+                    << what << (classic ? ", classic" : "");
+            }
         }
     }
 }
