@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <memory>
 
-#include "forms/application.h"
 #include "forms/form.h"
 #include "text/error.h"
 #include "text/paths.h"
@@ -58,13 +57,12 @@ void FolderListBox::set_path(const std::wstring& path) {
 }
 
 FolderContent FolderListBox::look_into(const std::wstring& path) {
-    if (answers_at_once(path)) return list_folder(path);
+    if (!run_slow_look || answers_at_once(path)) return list_folder(path);
     constexpr DWORD patience = 5000;  // milliseconds
-    const Hourglass hourglass(form());
     // Shared with the thread, which runs on alone if the drive takes longer.
     const auto content = std::make_shared<FolderContent>();
     const auto look = [content, path] { *content = list_folder(path); };
-    if (!form().application().run_without_blocking(look, patience)) throw Error(ErrorCode::DiskNotReady);
+    if (!run_slow_look(look, patience)) throw Error(ErrorCode::DiskNotReady);
     return *content;
 }
 

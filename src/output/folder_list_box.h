@@ -24,13 +24,16 @@ class FolderListBox : public ListBox {
     /// selected. Otherwise Enter presses the form's default button.
     bool enter_opens() const;
 
+    /// Runs a function that looks into a folder on a drive which may be far away or asleep, as
+    /// `Application::run_without_blocking` does. Returns false if that takes more than so many milliseconds.
+    std::function<bool(std::function<void()> look, DWORD milliseconds)> run_slow_look;
+
     /// The path of the current folder; empty until one is set.
     const std::wstring& path() const { return path_; }
     /// The names of the files in the current folder.
     const std::vector<std::wstring>& files() const { return content_.files; }
-    /// Makes a folder the current one and raises `on_change`. While its drive does not answer, the windows repaint but
-    /// take no input. Throws `Error` if the folder cannot be listed, DiskNotReady if that takes more than some seconds;
-    /// the current folder then stays the same.
+    /// Makes a folder the current one and raises `on_change`. Throws `Error` if the folder cannot be listed,
+    /// DiskNotReady if that takes more than some seconds; the current folder then stays the same.
     void set_path(const std::wstring& path);
 
     void notified(WORD code) override;

@@ -7,7 +7,6 @@
 #include "common/hover_help.h"
 #include "common/session.h"
 #include "controls/button.h"
-#include "controls/graphics.h"
 #include "controls/list_box.h"
 #include "controls/option_button.h"
 #include "controls/static_label.h"
@@ -41,8 +40,8 @@ class frmMailCheats final : public Form {
     OptionButton Option2{*this, L"Include cheats in an attached text file", {}, OptionButton::Group::Continues};
     Button Command2{*this, L"&Cancel", {}};
     Button Command1{*this, L"&Send!", {}};
-    Label Label6{*this, L"Please wait...", {}};
     TextBox Text5{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
+    StaticLabel Label6{*this, L"Please wait...", {}};
     Timer Timer1{*this, 1};
 
   private:

@@ -6,7 +6,6 @@
 #include "common/hover_help.h"
 #include "common/session.h"
 #include "controls/button.h"
-#include "controls/graphics.h"
 #include "controls/static_label.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
@@ -27,8 +26,8 @@ class frmMailMe final : public Form {
     TextBox Text1{*this, {60, 840, 6780, 4185}, TextBoxKind::Writing};
     Button Command2{*this, L"&Cancel", {3810, 5130, 1290, 300}};
     Button Command1{*this, L"&Send!", {5550, 5130, 1290, 300}};
-    Label Label6{*this, L"Please wait...", {60, 5130, 1800, 225}};
     TextBox Text2{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
+    StaticLabel Label6{*this, L"Please wait...", {60, 5130, 1800, 225}};
     Timer Timer1{*this, 1};
 
     /// Puts a text into the message, selected to be typed over, unless the user has written one already.

@@ -6,6 +6,7 @@
 #include "common/select_all_text.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
+#include "output/wait_notice.h"
 #include "text/error.h"
 #include "text/export_text.h"
 #include "text/line_end.h"
@@ -38,6 +39,7 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
       viewer_(viewer) {
     bind();
     bind_hover_help();
+    Label6.set_visible(false);
     set_default_button(&Command1);
     set_cancel_button(&Command2);
     // Lay out before filling the lists: the scroll position of the folders depends on the height of their list.
@@ -49,6 +51,7 @@ void frmSave::bind() {
     on_resize = [this] { Form_Resize(); };
     drag_by(*this);
     Drive1.on_change = [this] { Drive1_Change(); };
+    Dir1.run_slow_look = [this](auto look, DWORD milliseconds) { return wait_for(std::move(look), milliseconds); };
     Dir1.on_change = [this] { Dir1_Change(); };
     // The default button shows what Enter does.
     Dir1.on_click = [this] { set_default_button(Dir1.enter_opens() ? nullptr : &Command1); };
@@ -76,7 +79,7 @@ void frmSave::Form_Load() {
     set_caption(L"Save cheat codes of " + game);
     Combo1.add(L"Text Files (*.txt)");
     Combo1.select_index(0);
-    open_first_folder();
+    if (answers_at_once(current_folder())) open_first_folder();
     Text1.set_text(proposed_file_name(game));
     SelectAllText(Text1);
     const Form& viewer = viewer_.window();
@@ -89,8 +92,9 @@ void frmSave::open_first_folder() {
     for (auto step = steps.rbegin(); step != steps.rend() && Dir1.path().empty(); ++step) {
         try {
             Dir1.set_path(step->path);
-        } catch (const Error&) {
-            if (std::next(step) == steps.rend()) Dir1.set_path(session_.program_folder);
+        } catch (const Error& error) {
+            const bool drive_is_gone = error.code() == ErrorCode::DiskNotReady || std::next(step) == steps.rend();
+            if (drive_is_gone) Dir1.set_path(session_.program_folder);
         }
     }
 }
@@ -118,6 +122,8 @@ void frmSave::Form_Resize() {
     // The help box of OK appears between the two buttons.
     Command1.move({button_left, 345, button_width, button_height});
     Command2.move({button_left, 1080, button_width, button_height});
+    // Below the help box of Cancel; the text takes two lines.
+    Label6.move({button_left, 1845, button_width, 2 * label_height});
 }
 
 void frmSave::Drive1_Change() {
@@ -170,18 +176,19 @@ void frmSave::Command1_Click() {
     }
 }
 
+bool frmSave::wait_for(std::function<void()> work, DWORD milliseconds) {
+    const WaitNotice notice(*this, Label6);
+    return application().run_without_blocking(std::move(work), milliseconds);
+}
+
 bool frmSave::write() {
-    const Hourglass hourglass(*this);
     const std::wstring text = export_text(viewer_.shown_game(), viewer_.shown_cheats()).append(line_end);
-    return application().run_without_blocking([&] { session_.text_file.replace(chosen_path_, text); });
+    return wait_for([&] { session_.text_file.replace(chosen_path_, text); });
 }
 
 bool frmSave::may_be_written() {
     bool exists = false;
-    {
-        const Hourglass hourglass(*this);
-        if (!application().run_without_blocking([&] { exists = file_exists(chosen_path_); })) return false;
-    }
+    if (!wait_for([&] { exists = file_exists(chosen_path_); })) return false;
     if (!exists) return true;
     return show_message(window(), {.text = L"The cheat codes for " + chosen_path_ +
                                            L" already exist in this directory.\r\nDo you want to overwrite them?",
@@ -190,8 +197,12 @@ bool frmSave::may_be_written() {
 }
 
 void frmSave::Timer1_Timer() {
-    // The window reaches its final position only after on_load.
-    if (!std::exchange(pointer_placed_, true)) CenterMouseOn(Command1.window());
+    if (!std::exchange(shown_before_, true)) {
+        // The window reaches its final position only after on_load.
+        CenterMouseOn(Command1.window());
+        // Look into a drive that may not answer only now that the dialog can show that it waits.
+        if (Dir1.path().empty()) open_first_folder();
+    }
     hover_help_.tick();
 }
 

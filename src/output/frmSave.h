@@ -38,6 +38,8 @@ class frmSave final : public Form {
     Button Command1{*this, L"&OK", {}};
     Button Command2{*this, L"&Cancel", {}};
     TextBox Text2{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
+    /// Shown while a drive keeps the dialog waiting.
+    StaticLabel Label6{*this, L"Waiting for the drive...", {}};
     Timer Timer1{*this, 1};
 
   private:
@@ -54,6 +56,9 @@ class frmSave final : public Form {
     void Timer1_Timer();
 
     void open_first_folder();
+    /// Runs `work` without blocking, and shows meanwhile what the dialog waits for. Parameters and result are those of
+    /// `Application::run_without_blocking`.
+    bool wait_for(std::function<void()> work, DWORD milliseconds = INFINITE);
     /// Asks the user before a file is overwritten. Returns false if it must not be written.
     bool may_be_written();
     /// Returns false if nothing was written because an earlier call is still at work.
@@ -63,7 +68,7 @@ class frmSave final : public Form {
     ViewerLink& viewer_;
     HoverHelp hover_help_{session_.pointer, Text2, Timer1};
     std::wstring chosen_path_;  // path of the file chosen last
-    bool pointer_placed_ = false;
+    bool shown_before_ = false;
 };
 
 }  // namespace quillomat

@@ -5,7 +5,7 @@
 namespace quillomat {
 
 class Form;
-class Label;
+class Item;
 
 /// Tells the user what is needed for sending mail, when a window for it opens.
 void tell_mail_requirements(Form& form);
@@ -14,7 +14,7 @@ void tell_mail_requirements(Form& form);
 /// and `please_wait`, and no window takes input, except those of the mail program. Returns false if nothing was sent
 /// because another mail is being sent. Throws `Error` with a sentence for the user if the message may not have been
 /// sent.
-bool send_mail(Form& form, Label& please_wait, const std::function<void()>& send);
+bool send_mail(Form& form, Item& please_wait, const std::function<void()>& send);
 
 /// Tells the user that the message was sent, and closes the form.
 void close_after_sending(Form& form);

@@ -3,6 +3,7 @@
 #include "output/frmSave.h"
 #include "shown_viewer.h"
 #include "text/paths.h"
+#include "win/handle.h"
 
 namespace quillomat {
 namespace {
@@ -88,6 +89,20 @@ TEST_F(SaveTest, WhatCannotBeWrittenIsReportedAndTheDialogStays) {
     expect_message(L"Error!", L"Path not found");
     save(L"gone");
     EXPECT_FALSE(window->closed());
+}
+
+TEST_F(SaveTest, SaysThatItWaitsWhileAnotherProgramHoldsTheFile) {
+    write("place/held.txt", "old");
+    open();
+    int ticks = 0;
+    window->Timer1.on_timer = [&] { ticks += window->Label6.visible(); };
+    const FileHandle held(
+        CreateFileW((place / "held.txt").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    expect_question(L"held.txt");
+    expect_message(L"Error!", L"Permission denied");
+    save(L"held");
+    EXPECT_GT(ticks, 3) << "the timer goes on, like everything else";
+    EXPECT_FALSE(window->Label6.visible());
 }
 
 TEST_F(SaveTest, TheFoldersAreReachedByDoubleClickAndKeys) {

@@ -9,6 +9,7 @@
 #include "output/frmMailCheats.h"
 #include "output/frmMailMe.h"
 #include "output/frmPrintGames.h"
+#include "output/frmSave.h"
 #include "session_support.h"
 #include "shell/Dialog1.h"
 #include "shell/frmMain.h"
@@ -171,7 +172,8 @@ const State states[] = {
     {"FontProgress", L"frmStatus", [](WindowWalk& walk) { walk.open_in(walk.status, walk.viewer()); },
      [](WindowWalk& walk) { walk.status->show_progress(1, 2); }, L"", State::NotClosedByEscape, 144},
     {"Find", L"frmFind", [](WindowWalk& walk) { walk.viewer().menus.mnuTextBoxFind.pick(); }, nullptr, L"&Find"},
-    {"Save", L"frmSave", [](WindowWalk& walk) { walk.viewer().menus.mnuSave.pick(); }, nullptr, L"&OK", State::Dialog},
+    {"Save", L"frmSave", [](WindowWalk& walk) { walk.viewer().menus.mnuSave.pick(); },
+     [](WindowWalk&) { find_form<frmSave>()->Label6.set_visible(true); }, L"&OK", State::Dialog},
     {"PrintAll", L"frmPrintGames", open_range,
      [](WindowWalk&) { EXPECT_FALSE(find_form<frmPrintGames>()->Text1.enabled()); }, L"&OK", State::Dialog},
     {"PrintRange", L"frmPrintGames", open_range,

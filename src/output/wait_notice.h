@@ -1,0 +1,21 @@
+#pragma once
+
+#include "forms/form.h"
+#include "forms/item.h"
+
+namespace quillomat {
+
+/// Shows the hourglass over a form, and a hidden text on it, for as long as the object lives.
+class WaitNotice {
+  public:
+    WaitNotice(Form& form, Item& text) : hourglass_(form), text_(text) { text_.set_visible(true); }
+    ~WaitNotice() { text_.set_visible(false); }
+    WaitNotice(const WaitNotice&) = delete;
+    WaitNotice& operator=(const WaitNotice&) = delete;
+
+  private:
+    Hourglass hourglass_;
+    Item& text_;
+};
+
+}  // namespace quillomat
