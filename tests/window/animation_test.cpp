@@ -32,7 +32,7 @@ struct AnimationTest : SessionTest {
     static RECT shown(Label& label, const RECT& area) {
         const ShownPixels with(label.form().window());
         label.set_visible(false);
-        const RECT place = with.difference(ShownPixels(label.form().window()), area).value_or(RECT{});
+        const RECT place = with.difference(ShownPixels(label.form().window()), area);
         label.set_visible(true);
         return place;
     }

@@ -1,34 +1,12 @@
 // The rules that every window of the program relies on, held over every kind of control.
 
-#include "controls/button.h"
-#include "controls/frame.h"
-#include "controls/graphics.h"
-#include "controls/list_box.h"
-#include "controls/option_button.h"
-#include "controls/text_box.h"
-#include "forms/form.h"
+#include "board.h"
 #include "forms/timer.h"
 #include "support.h"
 #include "text/error.h"
 
 namespace quillomat {
 namespace {
-
-struct Board : Form {
-    explicit Board(Application& application)
-        : Form(application, {.name = L"frmBoard", .caption = L"Board", .width = 6000, .height = 6000}) {
-        // A tool tip hooks itself into its control; nothing may change by that.
-        for (Control* control : controls()) control->set_tool_tip(L"tip");
-    }
-
-    TextBox Text1{*this, {120, 120, 2000, 315}};
-    TextBox Text2{*this, {120, 600, 2000, 900}, TextBoxKind::MultiLine};
-    ListBox List1{*this, {120, 1600, 2000, 900}};
-    Frame Frame1{*this, L"Frame", {120, 2600, 2500, 900}, FrameBorder::Captioned};
-    OptionButton Option1{Frame1, L"&One", {60, 300, 1000, 255}, OptionButton::Group::Starts};
-    OptionButton Option2{Frame1, L"&Two", {1200, 300, 1000, 255}, OptionButton::Group::Continues};
-    Button Command1{*this, L"&Press", {120, 3600, 1200, 375}};
-};
 
 struct FormsTest : WindowTest {
     void show() {
@@ -44,7 +22,7 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
     int events = 0;
     const auto count = [&events] { ++events; };
     board.Text1.on_change = board.Text2.on_change = count;
-    board.List1.on_click = board.Option2.on_click = board.Command1.on_click = count;
+    board.List1.on_click = board.Option2.on_click = board.Button1.on_click = count;
     for (const wchar_t* item : {L"first", L"second"}) board.List1.add(item);
     const std::tuple<Control*, WORD, std::function<void()>> changes[] = {
         {&board.Text1, 'B', [this] { board.Text1.set_text(L"a"); }},
@@ -56,7 +34,7 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
              for (int i = 0; i < 2; ++i) board.Option2.set_value(true);
              board.Option1.set_value(true);
          }},
-        {&board.Command1, VK_SPACE, [this] { board.Command1.click(); }},
+        {&board.Button1, VK_SPACE, [this] { board.Button1.click(); }},
     };
     for (const auto& [control, key, change] : changes) {
         for (const bool by_user : {false, true}) {
@@ -89,8 +67,8 @@ TEST_F(FormsTest, KeysReachTheHandlerFirstThenTheDialogThenTheControl) {
     show();
     int defaults = 0;
     int seen = 0;
-    board.set_default_button(&board.Command1);
-    board.Command1.on_click = [&] { ++defaults; };
+    board.set_default_button(&board.Button1);
+    board.Button1.on_click = [&] { ++defaults; };
     board.Text1.on_key_down = [&](KeyEvent& event) { event.handled = event.key == keys::enter && ++seen == 1; };
     board.Text1.on_key_press = [&](CharacterEvent& event) { event.handled = event.character == L'x'; };
     board.Text1.set_focus();
@@ -208,10 +186,10 @@ TEST_F(FormsTest, AFaultOfPaintingOrOfATimerIsReportedOnceAndLater) {
     timer.on_timer = [&] { throw ++ticks; };
     EXPECT_SOON(ticks > 5);
     timer.set_enabled(false);
-    board.Command1.on_click = [] { throw 1; };
+    board.Button1.on_click = [] { throw 1; };
     for (int i = 0; i < 2; ++i) {
         expect_message(L"Quillomat", L"Unknown error");
-        press(board.Command1);
+        press(board.Button1);
         pump();
     }
 }

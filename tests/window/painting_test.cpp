@@ -4,23 +4,11 @@
 #include <set>
 #include <span>
 
+#include "board.h"
 #include "common/hover_help.h"
-#include "controls/button.h"
-#include "controls/frame.h"
-#include "controls/graphics.h"
-#include "controls/list_box.h"
-#include "controls/option_button.h"
-#include "controls/text_box.h"
-#include "forms/form.h"
-#include "output/drive_list_box.h"
-#include "output/folder_list_box.h"
-#include "resources/pictures.h"
 #include "shell/emboss_label.h"
-#include "shell/link.h"
-#include "shell/picture_box.h"
 #include "shown_pixels.h"
 #include "shown_viewer.h"
-#include "viewer/check_box.h"
 // Needs the above.
 #include <commctrl.h>
 #include <uxtheme.h>
@@ -31,47 +19,6 @@ namespace {
 constexpr Colour red = rgb(255, 0, 0);
 constexpr Colour green = rgb(0, 128, 0);
 constexpr Colour green_of_user = rgb(0, 255, 0);
-/// Large enough for strokes of the very colour of the text.
-const FontSpec large{.points = 20};
-
-/// One of each kind.
-struct Board : Form {
-    explicit Board(Application& application)
-        : Form(application, {.name = L"frmPainted", .caption = L"Painted", .width = 9600, .height = 7200}) {
-        for (Label* label : {&Label1, &Raised, &Shadow, &Highlight}) label->set_font(large);
-        for (Control* control :
-             std::initializer_list<Control*>{&Button1, &Button2, &Option1, &Check1, &Frame1, &Link1, &List1}) {
-            control->set_font(large);
-        }
-        // A link takes its size from its font only now.
-        Link1.resolution_changed();
-        List1.add(L"Item");
-        Text1.set_focus();
-    }
-
-    Label Label1{*this, L"Label", {120, 120, 2400, 600}};
-    Image Image1{*this, Picture(PICTURE_GAME_PAD), {2700, 120, 900, 900}};
-    Shape Shape1{*this, {3750, 120, 900, 900}};
-    Line Line1{*this, {4800, 120, 900, 30}};
-    Label Shadow{*this, {}, {6000, 120, 3000, 600}};
-    Label Highlight{*this, {}, {6000, 120, 3000, 600}};
-    Label Raised{*this, L"Raised", {6000, 120, 3000, 600}};
-    Button Button1{*this, L"Button", {120, 1200, 2400, 750}};
-    /// Without a caption, so that only its face tells whether it is pressed.
-    Button Button2{*this, {}, {2700, 1200, 2400, 750}};
-    OptionButton Option1{*this, L"Option", {120, 2100, 2400, 600}, OptionButton::Group::Starts};
-    CheckBox Check1{*this, L"Check", {2700, 2100, 2400, 600}};
-    Link Link1{*this, L"Link", 5400, 2100};
-    Frame Frame1{*this, L"Frame", {5400, 750, 2400, 1200}, FrameBorder::Captioned};
-    PictureBox Picture1{*this, Picture(PICTURE_COIN), L"Coin", {120, 2850, 1500, 1500}};
-    ListBox List1{*this, {2700, 2850, 2400, 1500}};
-    TextBox Text1{*this, {5400, 2850, 2400, 600}};
-    FolderListBox Folders{*this, {120, 4500, 3000, 2100}};
-    DriveListBox Drives{*this, {3300, 4500, 3000, 315}};
-    /// Over the list, which is made before it and so lies in front of it at first.
-    TextBox Help{*this, {2760, 3600, 1500, 270}, TextBoxKind::Help};
-};
-
 RECT inside_of(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
@@ -98,67 +45,61 @@ struct PaintingTest : SessionTest {
 };
 
 TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
-    const auto send = [](HWND window, UINT message) {
-        return [window, message](bool on) { SendMessageW(window, message, WPARAM{on}, 0); };
+    const auto send = [](const Control& control, UINT message) {
+        return [&control, message](bool on) { SendMessageW(control.window(), message, WPARAM{on}, 0); };
     };
-    const auto hover = [](HWND window) {
-        return [window](bool on) { SendMessageW(window, on ? WM_MOUSEMOVE : WM_MOUSELEAVE, 0, MAKELPARAM(3, 3)); };
+    const auto hover = [](const Control& control) {
+        return [&control](bool on) {
+            SendMessageW(control.window(), on ? WM_MOUSEMOVE : WM_MOUSELEAVE, 0, MAKELPARAM(3, 3));
+        };
     };
     const auto enable = [](Item& item) { return [&item](bool on) { item.set_enabled(!on); }; };
-    const HWND form = board.window(), button = board.Button1.window(), face_only = board.Button2.window(),
-               link = board.Link1.window(), list = board.List1.window();
-    const std::tuple<const char*, HWND, std::function<void(bool)>> changes[] = {
-        {"disabled label", form, enable(board.Label1)},
-        {"other caption", form, [&](bool on) { board.Label1.set_caption(on ? L"Other" : L"Label"); }},
-        {"italic label", form, [&](bool on) { board.Label1.set_font({.points = 20, .italic = on}); }},
-        {"disabled image", form, enable(board.Image1)},
-        {"bordered image", form,
-         [&](bool on) { board.Image1.set_border(on ? ImageBorder::Single : ImageBorder::None); }},
-        {"hidden image", form, [&](bool on) { board.Image1.set_visible(!on); }},
-        {"hidden line", form, [&](bool on) { board.Line1.set_visible(!on); }},
-        {"disabled button", button, enable(board.Button1)},
-        {"pressed button", face_only, send(face_only, BM_SETSTATE)},
-        {"hovered button", button, hover(button)},
-        {"default button", button, [&](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
-        {"focused button", face_only,
-         [&](bool on) {
-             SendMessageW(board.window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
-             on ? board.Button2.set_focus() : board.Text1.set_focus();
-         }},
-        {"underlined button", button, [&](bool on) { board.Button1.set_underlined(on); }},
-        {"disabled option", form, enable(board.Option1)},
-        {"set option", form, [&](bool on) { board.Option1.set_value(on); }},
-        {"disabled check box", form, enable(board.Check1)},
-        {"set check box", form, [&](bool on) { board.Check1.set_value(on); }},
-        {"disabled frame", form, enable(board.Frame1)},
-        {"hovered link", link, hover(link)},
-        {"pressed link", link, send(link, BM_SETSTATE)},
-        {"narrow picture", form, [&](bool on) { board.Picture1.set_width_factor(on ? 0.5 : 1); }},
-        {"mirrored picture", form, [&](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
-        {"help box", form,
+    const auto focus = [](Control& control) {
+        return [&control](bool on) { on ? control.set_focus() : static_cast<void>(SetFocus(nullptr)); };
+    };
+    SendMessageW(board.window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    board.Text1.set_text(L"Text");
+    SetFocus(nullptr);
+    const HWND list = board.List1.window();
+    const std::pair<const char*, std::function<void(bool)>> changes[] = {
+        {"disabled label", enable(board.Label1)},
+        {"other caption", [&](bool on) { board.Label1.set_caption(on ? L"Other" : L"Label"); }},
+        {"italic label", [&](bool on) { board.Label1.set_font({.points = 20, .italic = on}); }},
+        {"disabled image", enable(board.Image1)},
+        {"bordered image", [&](bool on) { board.Image1.set_border(static_cast<ImageBorder>(on)); }},
+        {"hidden image", [&](bool on) { board.Image1.set_visible(!on); }},
+        {"disabled button", enable(board.Button1)},
+        {"pressed button", send(board.Button2, BM_SETSTATE)},
+        {"hovered button", hover(board.Button1)},
+        {"default button", [&](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
+        {"focused button", focus(board.Button2)},
+        {"underlined button", [&](bool on) { board.Button1.set_underlined(on); }},
+        {"disabled option", enable(board.Option1)},
+        {"set option", [&](bool on) { board.Option1.set_value(on); }},
+        {"disabled check box", enable(board.Check1)},
+        {"set check box", [&](bool on) { board.Check1.set_value(on); }},
+        {"disabled frame", enable(board.Frame1)},
+        {"hovered link", hover(board.Link1)},
+        {"focused link", focus(board.Link1)},
+        {"pressed link", send(board.Link1, BM_SETSTATE)},
+        {"mirrored picture", [&](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
+        {"help box",
          [&](bool on) { on ? ShowTip(board.Button1, board.Help, L"Help") : HideTip(board.Button1, board.Help); }},
-        {"disabled list", list, enable(board.List1)},
-        {"selected item", list,
-         [&](bool on) { SendMessageW(list, LB_SETCURSEL, on ? 0 : static_cast<WPARAM>(-1), 0); }},
-        {"disabled text", form,
-         [&](bool on) {
-             board.Text1.set_text(L"Text");
-             board.Button2.set_focus();
-             board.Text1.set_enabled(!on);
-         }},
+        {"disabled list", enable(board.List1)},
+        {"selected item", [list](bool on) { SendMessageW(list, LB_SETCURSEL, WPARAM{on} - 1, 0); }},
+        {"disabled text", enable(board.Text1)},
     };
     for (const bool classic : {false, true}) {
         const wchar_t* const theme = classic ? L" " : nullptr;
         for (const Control* control : board.controls()) SetWindowTheme(control->window(), theme, theme);
-        board.Text1.set_focus();
-        for (const auto& [what, window, set] : changes) {
+        for (const auto& [what, set] : changes) {
             const bool is_shown = !classic || what != std::string_view("hovered button");
             set(false);
-            const ShownPixels before(window);
+            const ShownPixels before = shown();
             for (const bool on : {true, false}) {
                 set(on);
-                EXPECT_EQ(ShownPixels(window).difference(before, before.area()).has_value(), on && is_shown)
-                    << what << (classic ? ", classic" : "");
+                const RECT changed = shown().difference(before, before.area());
+                EXPECT_EQ(!IsRectEmpty(&changed), on && is_shown) << what << (classic ? ", classic" : "");
             }
         }
     }

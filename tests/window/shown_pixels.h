@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "win/gdi.h"
 
 namespace quillomat {
@@ -33,11 +31,9 @@ class ShownPixels {
         bounds(area, [&](LONG x, LONG y) { return at(x, y) == colour && ++count; });
         return count;
     }
-    /// Returns the part of an area in which another picture differs; nothing if none does.
-    std::optional<RECT> difference(const ShownPixels& other, const RECT& area) const {
-        const RECT changed = bounds(area, [&](LONG x, LONG y) { return at(x, y) != other.at(x, y); });
-        if (IsRectEmpty(&changed)) return std::nullopt;
-        return changed;
+    /// Returns the part of an area in which another picture differs; an empty one if none does.
+    RECT difference(const ShownPixels& other, const RECT& area) const {
+        return bounds(area, [&](LONG x, LONG y) { return at(x, y) != other.at(x, y); });
     }
     /// Returns the smallest rectangle around all pixels of an area that are not of the colour behind what is painted.
     RECT ink(const RECT& area, COLORREF behind) const {
