@@ -37,10 +37,6 @@ DWORD button_type(HWND window) {
     return class_of(window) == L"Button" ? style_of(window) & BS_TYPEMASK : ~0u;
 }
 
-bool is_option(HWND window) {
-    return button_type(window) == BS_AUTORADIOBUTTON;
-}
-
 std::string described(HWND window) {
     return narrow(class_of(window) + L" \"" + text_of(window).substr(0, 40) + L"\"");
 }
@@ -198,20 +194,13 @@ void expect_unique_access_keys(HWND window) {
 }
 
 std::vector<HWND> inputs_of(HWND window) {
-    std::vector<HWND> inputs;
-    for (const HWND control : controls_on(window)) {
-        if (button_type(control) == BS_GROUPBOX || class_of(control) == L"Static" || !IsWindowEnabled(control))
-            continue;
-        const auto same_group = [control](HWND other) {
-            return is_option(other) && GetParent(other) == GetParent(control);
-        };
-        const auto first = std::find_if(inputs.begin(), inputs.end(), same_group);
-        if (!is_option(control) || first == inputs.end()) {
-            inputs.push_back(control);
-        } else if (SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED) {
-            *first = control;
-        }
-    }
+    std::vector<HWND> inputs = controls_on(window);
+    std::erase_if(inputs, [](HWND control) {
+        const bool takes_none = button_type(control) == BS_GROUPBOX || class_of(control) == L"Static";
+        const bool is_other_option =
+            button_type(control) == BS_AUTORADIOBUTTON && SendMessageW(control, BM_GETCHECK, 0, 0) != BST_CHECKED;
+        return takes_none || is_other_option || !IsWindowEnabled(control);
+    });
     return inputs;
 }
 

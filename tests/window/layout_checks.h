@@ -16,7 +16,7 @@ void expect_unique_access_keys(HWND window);
 /// A screen reader finds a name for every input.
 void expect_spoken_names(HWND window);
 
-/// The inputs that the Tab key must reach, in any order; of a group of options only one.
+/// The inputs that the Tab key must reach, in any order; of a group of options only the chosen one.
 std::vector<HWND> inputs_of(HWND window);
 
 /// Each control of a walk by the Tab key, all the way round, stands below or to the right of the one before.

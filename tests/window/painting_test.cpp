@@ -194,7 +194,6 @@ TEST_F(PaintingTest, ControlsHaveTheirColoursAndTextsThatCanBeRead) {
 
 TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) {
     std::filesystem::create_directories(folder.path() / "inner");
-    board.Folders.set_font(large);
     board.Folders.set_path(folder.path().wstring());
     const int last = board.Folders.count() - 1;
     ASSERT_EQ(board.Folders.item(last), L"inner");
@@ -259,7 +258,7 @@ struct ViewerPaintingTest : ShownViewerTest {
 
 TEST_F(ViewerPaintingTest, BothColourSchemesReachTextAndLists) {
     for (Control* control : std::initializer_list<Control*>{&viewer->Text1, &viewer->List1, &viewer->List2}) {
-        control->set_font(large);
+        control->set_font({.points = 20});
     }
     viewer->List1.add(L"Doom");
     SendMessageW(viewer->List2.window(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
