@@ -293,7 +293,6 @@ void Form::show() {
         // Focus frames and underlined access keys show as the user's settings and the last input ask for.
         SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
         resized();
-        if (IsWindowEnabled(window_)) internals_.keyboard.restore_focus();
     }
     constexpr int commands[] = {SW_SHOWNORMAL, SW_SHOWMINIMIZED, SW_SHOWMAXIMIZED};
     ShowWindow(window_, IsWindowVisible(window_) ? SW_SHOW : commands[static_cast<int>(state)]);
