@@ -11,8 +11,8 @@
 namespace quillomat::bench {
 
 constexpr int game_count = 2501;
-/// A database of `game_count` games and about `bytes` bytes, made of everyday words. Of the first 2460 games, 2368 hold
-/// the word "level".
+/// Returns a database of `game_count` games and about `bytes` bytes, made of common words. Of the first 2460 games,
+/// 2368 contain the word "level".
 inline std::string database(std::size_t bytes) {
     static constexpr std::string_view words =
         " the press and type game during to health code for enter all weapons console in hold unlock a while menu full "
@@ -34,7 +34,8 @@ inline std::string database(std::size_t bytes) {
     return text;
 }
 
-/// The median milliseconds of actions that take turns, so that whatever else the machine does hits all alike.
+/// Returns the median duration of each action in milliseconds. The actions take turns, so that other load on the
+/// machine affects all alike.
 inline std::vector<double> medians(const std::vector<std::function<void()>>& actions) {
     constexpr int rounds = 31;
     std::vector times(actions.size(), std::vector<double>());
@@ -54,7 +55,7 @@ inline std::vector<double> medians(const std::vector<std::function<void()>>& act
     return result;
 }
 
-/// Prints a line of the table that scripts/bench makes: `value` may be `at_most` times the baseline.
+/// Prints a line of the table of scripts/bench: `value` may be at most `at_most` times the baseline.
 inline void print(const std::string& figure, double value, const char* unit, const char* baseline_name, double baseline,
                   double at_most) {
     std::printf("%s\t%.3g %s\t%s\t%.3g %s\t%.3f\t%g\n", figure.c_str(), value, unit, baseline_name, baseline, unit,

@@ -1,4 +1,4 @@
-// The least that a Windows program does to show a window of the viewer's size.
+// The least that a Windows program can do to show a window of the viewer's size.
 
 #include "win/api.h"
 

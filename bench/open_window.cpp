@@ -1,4 +1,5 @@
-// Opens one of the program's windows and prints a line when it is shown: open_window WINDOW FOLDER_OF_THE_DATABASE
+// Opens one of the program's windows and prints a line when the window is visible:
+// open_window WINDOW FOLDER_OF_THE_DATABASE
 
 #include <cstdio>
 #include <memory>

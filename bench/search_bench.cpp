@@ -1,5 +1,5 @@
-// The search natively: search_bench GREP_MILLISECONDS, where that is what `grep -i` takes for the database, which
-// search_bench database BYTES writes.
+// Measures the search in a native build: search_bench GREP_MILLISECONDS, the time that `grep -i` takes for the
+// database. search_bench database BYTES writes the database.
 
 #include <cstring>
 #include <iostream>
@@ -22,9 +22,9 @@ int main(int count, char** arguments) {
     const auto search = [&](std::wstring_view keyword) {
         catalogue.search(SearchScope::Cheats, keyword, bench::game_count, [&](int number) { checksum += number; });
     };
-    search(L"");  // the first search makes the texts
+    search(L"");  // the first search converts the texts
     std::vector<double> worst{0, 1};
-    // No character has this byte, so the pass goes to the end.
+    // No character contains this byte, so memchr reads to the end.
     const auto scan = [&] { checksum += std::memchr(all.data(), 0x7F, all.size() * sizeof(wchar_t)) == nullptr; };
     for (const wchar_t* keyword : {L"ZQX", L"#", L"ES T", L"THE LEVELS", L"ETERNAL", L"E#", L"HOLD ALL THE MONEYS"}) {
         const auto times = bench::medians({[&] { search(keyword); }, scan});

@@ -1,5 +1,5 @@
-// From the start of a process until its first window is painted and answers: start_bench FOLDER, which holds a
-// database.
+// Measures the time from the start of a process until its first window is painted and answers: start_bench FOLDER, a
+// folder with a database.
 
 #include <filesystem>
 

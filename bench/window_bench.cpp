@@ -1,5 +1,5 @@
-// Files and windows of the program in their own process: window_bench FILE ... loads every FILE and uses the first,
-// window_bench memory FILE measures the memory that a database takes.
+// Measures the program's loading and its windows in one process: window_bench FILE ... loads every FILE and opens
+// windows with the first one. window_bench memory FILE measures the memory that a database takes.
 
 #include "bench.h"
 #include "common/session.h"
@@ -12,7 +12,7 @@
 #include "viewer/frmFind.h"
 #include "win/code_page.h"
 #include "win/database_file.h"
-// Needs the above.
+// Needs <windows.h> before it.
 #include <psapi.h>
 
 namespace quillomat::bench {
@@ -76,7 +76,7 @@ struct OpenedViewer {
     OpenViewer link{viewer};
 };
 
-/// Prints what may take a sixtieth of a second.
+/// Prints the duration of an action that may take up to a frame, a sixtieth of a second.
 void print_frame(const std::string& figure, const std::function<void()>& action, const std::function<void()>& before) {
     print(figure, medians({before, action})[1], "ms", "a frame", 17, 1);
 }

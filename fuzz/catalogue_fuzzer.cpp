@@ -18,16 +18,16 @@ std::vector<std::wstring> load(Catalogue& catalogue, const std::wstring& text) {
     try {
         catalogue.load(text, [&](std::wstring_view name) { listed.emplace_back(name); });
     } catch (const quillomat::Error&) {
-        // What was read before stays in the catalogue.
+        // The games read before the error stay in the catalogue.
     }
     return listed;
 }
 
 }  // namespace
 
-/// Whatever is in the file: the games that are read of it, written to a new file, are read again as the same games.
+/// For any file: games that are read and written to a new file are read back as the same games.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    // Made once: clearing them for each input is part of loading.
+    // Created only once, because loading clears them.
     static Catalogue first{quillomat::upper_case};
     static Catalogue second{quillomat::upper_case};
     const std::vector<std::wstring> names = load(first, std::wstring(data, data + size));

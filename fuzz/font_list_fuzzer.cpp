@@ -14,7 +14,7 @@ void require(bool condition) {
 
 }  // namespace
 
-/// Whatever is in the file, what is read of it can be listed in a menu, and written it reads the same again.
+/// For any file: the names that are read can be listed in a menu, and are read back the same after writing.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quillomat;
     const std::wstring text(data, data + size);

@@ -1,9 +1,8 @@
-// Puts the player's own games behind those of a new database: join_databases NEW OLD INSTALLED JOINED
+// Appends the player's own games to a new database: join_databases NEW OLD INSTALLED JOINED
 //
-// OLD begins with INSTALLED bytes that were once installed; all behind them is the player's. JOINED is written with the
-// games of NEW, except those that the player has under the same name, and with the player's bytes as they are. The exit
-// code is how many bytes of JOINED come from NEW. It is 0, and JOINED is not written, if anything is not as it should
-// be.
+// The first INSTALLED bytes of OLD were installed; the rest are the player's. JOINED consists of the games of NEW,
+// except those that the player has under the same name, and of the player's bytes unchanged. The exit code is the
+// number of bytes in JOINED that come from NEW. It is 0, and JOINED is not written, if anything is wrong.
 
 #include <io.h>
 
@@ -25,13 +24,13 @@ namespace {
 
 using quillomat::record_marker_length;
 
-/// A game in the bytes of a file, which are compared and copied without a code page.
+/// A game in the bytes of a file. Bytes are compared and copied without decoding them.
 struct Record {
     std::string_view bytes;
     std::string_view name;
 };
 
-/// The games of a database; nothing if there is anything in it that the program would not have written.
+/// Returns the games of a database, or nothing if it contains anything that the program would not have written.
 std::optional<std::vector<Record>> records_of(std::string_view database) {
     std::vector<Record> records;
     std::size_t record_start = 0;
@@ -46,12 +45,12 @@ std::optional<std::vector<Record>> records_of(std::string_view database) {
             {database.substr(record_start, line_start - record_start), line.substr(record_marker_length + 1)});
         record_start = line_start;
     }
-    // The text of a game whose name line has never been written.
+    // The text of a game without a name line.
     if (record_start != database.size()) return std::nullopt;
     return records;
 }
 
-/// The part of a new database that goes before the player's games; empty if the two cannot be joined for certain.
+/// Returns the part of a new database that goes before the player's games; empty if joining them is not safe.
 std::string part_before(std::string_view new_database, std::string_view installed, std::string_view own) {
     const auto new_records = records_of(new_database);
     const auto own_records = records_of(own);
@@ -82,7 +81,7 @@ std::string read(const wchar_t* path) {
     return bytes;
 }
 
-/// Whether all the bytes are on the disk now.
+/// Returns true once all bytes are on the disk, or false if writing fails.
 bool write(const wchar_t* path, std::string_view bytes) {
     const File file(_wfopen(path, L"wb"));
     return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&

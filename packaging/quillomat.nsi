@@ -1,16 +1,16 @@
-; The installer: for the user alone, without an administrator. Made by scripts/pack, which defines
-;   VERSION, AUTHOR, WEB_SITE  as they are in the program
-;   APP                        the folder with the files that are handed out
+; The installer: for the current user only, without an administrator. scripts/pack builds it and defines
+;   VERSION, AUTHOR, WEB_SITE  as in the program
+;   APP                        the folder with the files to install
 ;   JOINER                     join_databases.exe
 ;   OUTPUT                     the installer to write
 ;
-; Besides its windows there is the silent way: /S, and as the last argument /D=FOLDER without quotes. It ends with 0, or
-; with 2 when it gave up, which it does before it changes anything when the program is running.
+; /S installs silently; /D=FOLDER, without quotes and as the last argument, chooses the folder. The exit code is 0, or 2
+; if the installer gave up. If the program is running, it gives up before changing anything.
 
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
-; A file that cannot be written ends the installation; half of one is no use.
+; A file that cannot be written aborts the installation.
 AllowSkipFiles off
 
 !include LogicLib.nsh
@@ -19,22 +19,22 @@ AllowSkipFiles off
 !define NAME "Quillomat"
 !define PROGRAM "$INSTDIR\Quillomat.exe"
 !define DATABASE "$INSTDIR\Cheats.dat"
-; What the installer brings, until it is the database; beside a database of the player's own it stays.
+; The new database before it takes its place. It stays if the player keeps a database of their own.
 !define NEW_DATABASE "$INSTDIR\Cheats.new.dat"
-; The database that takes the place of one with games of the player's own, until it is complete.
+; The new database with the player's own games, before it takes its place.
 !define JOINED_DATABASE "$INSTDIR\Cheats.joined.dat"
 !define SHORTCUT "$SMPROGRAMS\Quillomat.lnk"
 !define UNINSTALLER "$INSTDIR\Uninstall.exe"
-; Here Windows finds what it lists under "Apps & features".
+; Windows lists the programs below this key under "Apps & features".
 !define REGISTERED "Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillomat"
 !define SETTINGS "Software\Quillomat"
-; In bytes, many times any database that is handed out.
+; In bytes; many times the size of any released database.
 !define LARGEST_HASHED 67108864
 
 Name "${NAME}"
 OutFile "${OUTPUT}"
 RequestExecutionLevel user
-; The program writes beside itself, so it lives where its user may write.
+; The program writes to its own folder, so the user must have write access to it.
 InstallDir "$LOCALAPPDATA\Programs\Quillomat"
 InstallDirRegKey HKCU "${REGISTERED}" "InstallLocation"
 BrandingText "${NAME} ${VERSION}"
@@ -62,7 +62,7 @@ Var finish_text
 !define MUI_FINISHPAGE_NOREBOOTSUPPORT
 !define MUI_COMPONENTSPAGE_NODESC
 
-; An update goes where the program is.
+; An update goes to the folder of the installed program.
 !define MUI_PAGE_CUSTOMFUNCTION_PRE skip_when_installed
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
@@ -82,7 +82,7 @@ Var finish_text
 
 !macro both PREFIX
 
-; Goes on once the program is not running: Windows lets nobody write to the file of a running program.
+; Waits until the program is closed: Windows lets nobody write to the file of a running program.
 Function ${PREFIX}wait_until_closed
   ${Do}
     ${IfNot} ${FileExists} "${PROGRAM}"
@@ -103,8 +103,8 @@ Function ${PREFIX}wait_until_closed
   ${Loop}
 FunctionEnd
 
-; Takes from the stack how many bytes to look at, or "" for all, and the path of a file; leaves the SHA-256 of these
-; bytes there, or nothing when that cannot be had. What has no hash counts as the player's own. Uses $0 to $8.
+; Pops the number of bytes to hash, or "" for all, and the path of a file. Pushes the SHA-256 of these bytes, or "" if
+; the file cannot be read or hashed; such a file counts as the player's own. Uses $0 to $8.
 Function ${PREFIX}hash_of_file
   Pop $8
   Pop $0
@@ -162,8 +162,8 @@ Function skip_when_installed
   ${EndIf}
 FunctionEnd
 
-; Puts the player's games behind those of the new database, if what was installed stands unchanged before them. Then
-; $R4 is the joined database, and $R5 and $R6 are the hash and the size of what is not the player's in it; else $R6 is 0.
+; Appends the player's games to the new database, if the installed games before them are unchanged. Then $R4 is the
+; joined database, and $R5 and $R6 are the hash and the size of its part that is not the player's. Otherwise $R6 is 0.
 Function join_databases
   StrCpy $R6 0
   ${If} $R3 == ""
@@ -191,9 +191,8 @@ Function join_databases
   ${EndIf}
 FunctionEnd
 
-; A database that is still the one that was installed gives way to the new one. Games of the player's own behind it are
-; put behind the new one. Any other database stays as it is, and the new one stays beside it when there is something new
-; in it.
+; Replaces a database that is unchanged since it was installed. If the player's own games follow in it, appends them to
+; the new one. Any other database is kept, and the new one is left beside it if it contains anything new.
 Function install_database
   File "/oname=${NEW_DATABASE}" "${APP}/Cheats.dat"
   !insertmacro hash_of "" "${NEW_DATABASE}" "" $R0
@@ -219,7 +218,7 @@ Function install_database
       ${EndIf}
     ${EndIf}
   ${EndIf}
-  ; At once, whatever happens meanwhile; 9 is MOVEFILE_REPLACE_EXISTING and MOVEFILE_WRITE_THROUGH.
+  ; An atomic replacement; 9 is MOVEFILE_REPLACE_EXISTING and MOVEFILE_WRITE_THROUGH.
   System::Call 'kernel32::MoveFileExW(w R4, w "${DATABASE}", i 9) i .r0'
   ${If} $0 <> 0
     WriteRegStr HKCU "${REGISTERED}" "DatabaseHash" $R5
@@ -247,7 +246,7 @@ Section "${NAME}" section_program
   File "${APP}/readme.txt"
   Call install_database
   WriteUninstaller "${UNINSTALLER}"
-  ; The program works where its user keeps texts: a shortcut starts in the folder that was set last.
+  ; The program starts in Documents, where it proposes to save: a shortcut starts in the folder that was set last.
   SetOutPath $DOCUMENTS
   CreateShortcut "${SHORTCUT}" "${PROGRAM}"
 
@@ -267,7 +266,7 @@ SectionEnd
 
 ; --- uninstalling --------------------------------------------------------------------------------------------------------
 
-; What is removed needs no space.
+; Uninstalling needs no space.
 Function un.hide_space
   ShowWindow $mui.ComponentsPage.SpaceRequired ${SW_HIDE}
 FunctionEnd
@@ -291,9 +290,9 @@ Section "un.${NAME}"
   ${EndIf}
 
   Delete "${UNINSTALLER}"
-  SetOutPath $TEMP ; a folder somebody stands in cannot go
+  SetOutPath $TEMP ; the current folder of a process cannot be removed
   RMDir $INSTDIR
-  ; Another copy may have been installed elsewhere since; what leads to that one stays.
+  ; If another copy has been installed elsewhere since, keep what belongs to that one.
   ReadRegStr $0 HKCU "${REGISTERED}" "InstallLocation"
   ${IfNot} ${FileExists} "$0\Quillomat.exe"
     Delete "${SHORTCUT}"

@@ -7,11 +7,11 @@
 
 namespace quillomat::soak {
 
-/// One action of a player's mouse or keyboard; or `Rest`, which closes every window but the main screen and counts the
+/// An action with the mouse or the keyboard, or `Rest`, which closes every window but the main screen and counts the
 /// program's system objects.
 struct Action {
     enum class Kind { Move, Click, DoubleClick, RightClick, Drag, Wheel, Key, Character, Rest };
-    /// Keys held during the action. `Ahead` is no key: the next action follows even if the program is still busy.
+    /// The keys held during the action. `Ahead` is no key: the next action follows even if the program is still busy.
     enum Modifier : unsigned { Shift = 1, Control = 2, Alt = 4, Ahead = 8 };
 
     Kind kind = Kind::Rest;
@@ -24,11 +24,11 @@ struct Action {
 
 /// Returns the action as a line of the log.
 std::string to_line(const Action& action);
-/// Returns the action of a log line, or nothing if the line holds only a remark, which begins with "#". Throws
-/// `std::invalid_argument` for any other line.
+/// Returns the action in a line of the log, or nothing if the line is a comment, which begins with "#", or empty.
+/// Throws `std::invalid_argument` for any other line.
 std::optional<Action> from_line(const std::string& line);
 
-/// Performs the action as real input to whatever is on the screen. `Rest` is left to the caller.
+/// Performs the action as real input to the windows on the screen. The caller performs `Rest`.
 void perform(const Action& action);
 
 }  // namespace quillomat::soak

@@ -1,9 +1,9 @@
-// Plays with the program by random real input:
+// Plays with the program by random real input, or repeats the actions in the log of an earlier run:
 //
 //   soak PROGRAM DATABASE LOG SECONDS SEED
-//   soak PROGRAM DATABASE LOG replay ACTIONS      what the log of an earlier run says
+//   soak PROGRAM DATABASE LOG replay ACTIONS
 //
-// Refuses to run where the program could reach another drive than C:, so that it never saves over the user's files.
+// Refuses to run if there are other drives than C:, so that the program never overwrites the user's files.
 
 #include <algorithm>
 #include <chrono>

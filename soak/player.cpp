@@ -8,7 +8,7 @@
 namespace quillomat::soak {
 namespace {
 
-/// Actions from one rest to the next.
+/// The number of actions from one rest to the next.
 constexpr unsigned period = 150;
 
 constexpr std::wstring_view characters =
@@ -21,7 +21,8 @@ bool confirms_exit(HWND control) {
     return std::wstring_view(caption) == L"&Yes" && class_of(GetParent(control)) == L"frmMain";
 }
 
-/// True if a click at the place may end the program. That is done seldom: leaks show only in a program that lives on.
+/// Returns true if a click at the place may end the program. The player seldom does that, because leaks show only in a
+/// program that runs for long.
 bool is_way_out(POINT place) {
     const HWND window = WindowFromPoint(place);
     if (class_of(window) == L"frmMain") {
@@ -32,7 +33,7 @@ bool is_way_out(POINT place) {
     return confirms_exit(window);
 }
 
-/// True if the key may end the program.
+/// Returns true if the key may end the program.
 bool is_way_out(const Action& action, const Scene& scene) {
     if (action.kind == Action::Kind::Key && action.value == VK_F4) return class_of(scene.topmost()) == L"frmMain";
     constexpr std::wstring_view pressing{L"\r yY"};
@@ -65,7 +66,7 @@ Action Player::next(const Scene& scene) {
     random_.seed(numbers);
     if (count_ % period == 0) return {};
     if (planned_.empty() && !scene.menu()) {
-        // Windows with a menu bar stay open for much longer than those with boxes to fill in.
+        // Windows with a menu bar stay open for much longer than windows with boxes to fill in.
         const bool has_menu_bar = scene.topmost() && GetMenu(scene.topmost());
         int percent = 15;
         if (has_menu_bar) percent = 2;
@@ -84,7 +85,7 @@ Action Player::next(const Scene& scene) {
         action = with_key(scene);
     }
     if (is_way_out(action, scene) && !chance(5)) action = {.kind = Action::Kind::Key, .value = VK_TAB};
-    // Mostly as fast as possible, and sometimes long enough for a timer to do its work.
+    // Mostly as fast as possible, and sometimes slow enough for timers to tick.
     action.pause = number(0, 40);
     if (chance(10)) action.pause = number(50, 400);
     if (chance(20)) action.modifiers |= Action::Ahead;
@@ -138,7 +139,7 @@ void Player::plan_filling_in(const Scene& scene) {
         if (class_of(control) != L"Edit") continue;
         click(control);
         for (int length = number(1, 12); length > 0; --length) {
-            // Rarely a character that the files' code page lacks: the program refuses it.
+            // Rarely a character that the files' code page lacks, because the program refuses such texts.
             const wchar_t letter = chance(98) ? any(characters.substr(0, 26)) : any(characters);
             planned_.push_back({.kind = Action::Kind::Character, .value = letter, .pause = number(0, 10)});
         }

@@ -8,8 +8,8 @@
 
 namespace quillomat::soak {
 
-/// Chooses the next action at random. The same seed gives the same actions in the same scenes: each action has random
-/// numbers of its own, so that one action that turns out differently does not change all later ones.
+/// Chooses the next action at random. The same seed gives the same actions in the same scenes. Each action has its own
+/// random numbers, so that an action that turns out differently does not change all later ones.
 class Player {
   public:
     explicit Player(unsigned seed) : seed_(seed) {}
@@ -22,13 +22,13 @@ class Player {
     template <class Values>
     auto any(const Values& values);
 
-    /// Finds a place of the screen that belongs to the program. Returns false if there is none.
+    /// Finds a place on the screen that belongs to the program. Returns false if there is none.
     bool aim(const Scene& scene, POINT& place);
     POINT place_on(HWND window);
     /// Plans the keys that pick a command of the menu bar.
     void plan_command();
-    /// Plans to type into every text box of a window and to press one of its buttons, which would never happen by
-    /// chance.
+    /// Plans to type into every text box of a window and to press one of its buttons. By chance that would never
+    /// happen.
     void plan_filling_in(const Scene& scene);
     Action with_mouse(const Scene& scene);
     Action with_key(const Scene& scene);

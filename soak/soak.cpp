@@ -15,7 +15,7 @@ constexpr wchar_t main_screen_class[] = L"frmMain";
 
 using Clock = std::chrono::steady_clock;
 
-/// A program that has not answered for this long has hung for good.
+/// A program that does not answer for this long has hung for good.
 constexpr std::chrono::duration<double> for_good{60};
 
 /// Returns the number of records in the text, or nothing if the text holds anything but whole records.
@@ -115,7 +115,7 @@ void Soak::note(const Action& action, const Scene& scene) {
     if (const HWND hit = WindowFromPoint(action.at); hit && action.at.x + action.at.y > 0) {
         log_ << ' ' << narrow(class_of(hit));
     }
-    // Flushed, because this action may be the one that crashes the program or this one.
+    // Flush the log, because this action may crash the program, or this one.
     log_ << std::endl;
 }
 
@@ -237,7 +237,7 @@ void Soak::rest() {
 }
 
 void Soak::count_at_rest() {
-    // Away from every control that shows help.
+    // Move the pointer away from every control with hover help.
     perform({.kind = Action::Kind::Move, .at = {GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2}});
     // The fewest of several counts: a paint handler may be holding objects at the moment of one of them.
     std::vector<ObjectCounts> counted;
@@ -250,7 +250,7 @@ void Soak::count_at_rest() {
 }
 
 void Soak::judge_growth() {
-    // The program and Windows cache objects on first use, and not every window has been open before the first rests.
+    // The program and Windows cache objects on first use, and at the first rests not every window has been open yet.
     // Only a count that keeps growing from rest to rest is a leak.
     constexpr std::size_t warm_up = 4;
     constexpr std::size_t judged = 5;

@@ -18,8 +18,8 @@ namespace quillomat::soak {
 /// Returns the next action for the present scene, or nothing at the end.
 using Actions = std::function<std::optional<Action>(const Scene&)>;
 
-/// Plays with the program and detects if the program crashes, hangs, has no window any more, lets the wrong windows
-/// take input, leaks system objects, or harms its database.
+/// Plays with the program and detects whether it crashes, hangs, loses its last window, lets the wrong windows take
+/// input, leaks system objects, or damages its database.
 class Soak {
   public:
     /// Every action is written to the file `log` before it is performed.
@@ -35,7 +35,7 @@ class Soak {
     void note(const Action& action, const Scene& scene);
     /// Returns how long the program took to answer a message, in seconds.
     double seconds_without_answer();
-    /// Returns what is still wrong about which windows take input after a short wait; empty if nothing is.
+    /// Returns `Scene::input_fault` after a short wait for it to become empty.
     std::string input_fault();
     void look_after_program();
     void rest();
