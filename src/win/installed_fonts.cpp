@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "win/api.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 namespace {
@@ -37,9 +37,8 @@ ScreenFonts installed_fonts() {
     LOGFONTW any{};
     any.lfCharSet = DEFAULT_CHARSET;
     FoundFonts found;
-    const HDC screen = GetDC(nullptr);
-    EnumFontFamiliesExW(screen, &any, add_font, reinterpret_cast<LPARAM>(&found), 0);
-    ReleaseDC(nullptr, screen);
+    const WindowCanvas screen(nullptr);
+    EnumFontFamiliesExW(screen.get(), &any, add_font, reinterpret_cast<LPARAM>(&found), 0);
     if (found.failure) std::rethrow_exception(found.failure);
     const int count = static_cast<int>(found.names.size());
     return {count, [names = std::move(found.names)](int position) {

@@ -143,19 +143,17 @@ void PrintJob::set_position(double left, double top) {
 }
 
 void PrintJob::print(std::wstring_view text) {
-    for (const std::wstring& line :
-         printed_lines(text, [this](std::wstring_view part) { return fitting_length(part); }))
-        print_line(line);
+    const auto length = [this](std::wstring_view part) { return fitting_length(part); };
+    for (const std::wstring& line : printed_lines(text, length)) print_line(line);
 }
 
 void PrintJob::draw_line(double left, double top, double right, double bottom) {
-    const HPEN pen = CreatePen(PS_SOLID, line_width_, RGB(0, 0, 0));
-    const HGDIOBJ former = SelectObject(canvas_, pen);
-    const bool drawn = MoveToEx(canvas_, dots_across(left), dots_down(top), nullptr) &&
-                       LineTo(canvas_, dots_across(right), dots_down(bottom));
-    SelectObject(canvas_, former);
-    DeleteObject(pen);
-    if (!drawn) throw Error(ErrorCode::PrinterError);
+    const GdiObject<HPEN> pen(CreatePen(PS_SOLID, line_width_, RGB(0, 0, 0)));
+    const Selection selected(canvas_, pen.get());
+    if (!MoveToEx(canvas_, dots_across(left), dots_down(top), nullptr) ||
+        !LineTo(canvas_, dots_across(right), dots_down(bottom))) {
+        throw Error(ErrorCode::PrinterError);
+    }
 }
 
 void PrintJob::end() {
@@ -171,7 +169,7 @@ void PrintJob::start_page() {
         description.lfHeight = -round_half_even(font_points * GetDeviceCaps(canvas_, LOGPIXELSY) / 72);
         description.lfCharSet = DEFAULT_CHARSET;
         std::copy(std::begin(font_name), std::end(font_name), description.lfFaceName);
-        font_.reset(CreateFontIndirectW(&description));
+        font_ = GdiObject<HFONT>(CreateFontIndirectW(&description));
     }
     former_font_ = SelectObject(canvas_, font_.get());
     // An opaque text background would cover lines drawn close to the text.

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "text/print_page.h"
-#include "win/api.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 
@@ -82,11 +82,6 @@ class PrintJob {
     void end();
 
   private:
-    struct FontDeleter {
-        using pointer = HFONT;
-        void operator()(HFONT font) const { DeleteObject(font); }
-    };
-
     void start_page();
     void end_page();
     void print_line(const std::wstring& line);
@@ -98,7 +93,7 @@ class PrintJob {
     PrintDevice& device_;
     HDC canvas_ = nullptr;  ///< null outside of a page
     HGDIOBJ former_font_ = nullptr;
-    std::unique_ptr<HFONT, FontDeleter> font_;
+    GdiObject<HFONT> font_;
     LineFlow flow_{0, 0};
     int left_ = 0;
     int line_width_ = 1;
