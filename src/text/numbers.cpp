@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "text/blanks.h"
 #include "text/error.h"
 #include "text/letter_case.h"
 
@@ -11,11 +12,6 @@ namespace {
 
 bool is_digit(wchar_t character) {
     return character >= L'0' && character <= L'9';
-}
-
-std::wstring_view without_surrounding_blanks(std::wstring_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
-    return text.substr(0, text.find_last_not_of(L' ') + 1);
 }
 
 /// Removes the digits at the beginning of a text and returns them.
@@ -69,10 +65,6 @@ std::optional<Integer> to_integer(std::wstring_view text) {
     return static_cast<Integer>(value);
 }
 
-bool equals_ignoring_case(std::wstring_view text, std::wstring_view upper_case_word) {
-    return std::ranges::equal(text, upper_case_word, {}, ascii_upper_case);
-}
-
 }  // namespace
 
 std::optional<std::int16_t> to_int16(std::wstring_view text) {
@@ -85,8 +77,8 @@ std::optional<std::int32_t> to_int32(std::wstring_view text) {
 
 std::optional<bool> to_boolean(std::wstring_view text) {
     text = without_surrounding_blanks(text);
-    if (equals_ignoring_case(text, L"TRUE")) return true;
-    if (equals_ignoring_case(text, L"FALSE")) return false;
+    if (equal_ignoring_ascii_case(text, L"True")) return true;
+    if (equal_ignoring_ascii_case(text, L"False")) return false;
     return std::nullopt;
 }
 
@@ -99,7 +91,7 @@ std::wstring sign_position_text(int number) {
 }
 
 std::int64_t leading_value(std::wstring_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
+    text = without_leading_blanks(text);
     const bool minus = take_minus(text);
     const std::int64_t value = saturated_value(take_digits(text), leading_value_limit);
     return minus ? -value : value;

@@ -42,8 +42,7 @@ std::wstring path_in(std::wstring_view folder, std::wstring_view name) {
 
 bool has_extension(std::wstring_view name, std::wstring_view extension) {
     return name.size() >= extension.size() &&
-           std::equal(extension.begin(), extension.end(), name.end() - static_cast<std::ptrdiff_t>(extension.size()),
-                      [](wchar_t a, wchar_t b) { return ascii_upper_case(a) == ascii_upper_case(b); });
+           equal_ignoring_ascii_case(name.substr(name.size() - extension.size()), extension);
 }
 
 }  // namespace quillomat

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/blanks.h"
+
 namespace quillomat {
 namespace {
 
@@ -20,10 +22,6 @@ std::wstring with_tabs_expanded(std::wstring_view line) {
         }
     }
     return expanded;
-}
-
-std::wstring_view without_trailing_blanks(std::wstring_view line) {
-    return line.substr(0, line.find_last_not_of(L' ') + 1);
 }
 
 bool is_second_of_pair(wchar_t character) {
@@ -54,8 +52,7 @@ void add_printed_lines(std::wstring_view line, const FittingLength& fitting_leng
         if (fitting == rest.size()) break;
         const std::size_t length = first_part_length(rest, fitting);
         lines.emplace_back(without_trailing_blanks(rest.substr(0, length)));
-        rest.remove_prefix(length);
-        rest.remove_prefix(std::min(rest.find_first_not_of(L' '), rest.size()));
+        rest = without_leading_blanks(rest.substr(length));
         if (rest.empty()) return;
     }
     lines.emplace_back(rest);

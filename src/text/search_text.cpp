@@ -1,5 +1,6 @@
 #include "text/search_text.h"
 
+#include "text/blanks.h"
 #include "text/line_end.h"
 
 namespace quillomat {
@@ -10,9 +11,7 @@ std::optional<std::wstring> search_menu_caption(std::wstring_view selected) {
 }
 
 std::wstring keyword_of(std::wstring_view selected) {
-    const std::size_t first = selected.find_first_not_of(L' ');
-    if (first == std::wstring_view::npos) return {};
-    return std::wstring(selected.substr(first, selected.find_last_not_of(L' ') - first + 1));
+    return std::wstring(without_surrounding_blanks(selected));
 }
 
 }  // namespace quillomat
