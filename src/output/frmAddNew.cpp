@@ -61,11 +61,7 @@ void frmAddNew::bind() {
     on_mouse_move = [this](const MouseEvent& event) { Form_MouseMove(event); };
     Text1.on_change = [this] { UpdateAddButton(); };
     Text1.on_key_down = [this](KeyEvent& event) { Text1_KeyDown(event); };
-    keep_line_count(lines_);
-    Text2.on_change = [this] {
-        UpdateAddButton();
-        show_line_count(lines_);
-    };
+    keep_line_count(lines_, [this] { UpdateAddButton(); });
     Text2.on_key_down = [this](KeyEvent& event) { leave_by_escape(event); };
     cmdButton[add_button]->on_click = [this] { AddGame(); };
     cmdButton[cancel_button]->on_click = [this] { close(); };

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "common/line_count.h"
@@ -81,11 +80,7 @@ void frmMailCheats::bind_inputs() {
     Text1.on_change = [this] { UpdateSendButton(); };
     Text2.on_change = [this] { Text2_Change(); };
     Text4.on_change = [this] { UpdateSendButton(); };
-    keep_line_count(lines_);
-    Text3.on_change = [this] {
-        show_line_count(lines_);
-        UpdateSendButton();
-    };
+    keep_line_count(lines_, [this] { UpdateSendButton(); });
     Text3.on_double_click = [this] { Text3_DblClick(); };
 }
 
@@ -197,8 +192,8 @@ void frmMailCheats::List1_KeyDown(KeyEvent& event) {
     event.handled = true;
     const int current = List1.selected_index().value_or(0);
     const std::vector<int> picked = List1.picked_indexes();
-    const auto target = upwards ? previous_picked(current, picked) : next_picked(current, picked);
-    if (target) List1.select_index(*target);
+    const auto find_picked = upwards ? previous_picked : next_picked;
+    if (const auto target = find_picked(current, picked)) List1.select_index(*target);
 }
 
 void frmMailCheats::Text2_Change() {

@@ -39,11 +39,7 @@ void frmMailMe::bind() {
     drag_by(*this);
     Combo1.on_change = [this] { UpdateSendButton(); };
     Combo1.on_key_down = [this](KeyEvent& event) { Combo1_KeyDown(event); };
-    keep_line_count(lines_);
-    Text1.on_change = [this] {
-        show_line_count(lines_);
-        UpdateSendButton();
-    };
+    keep_line_count(lines_, [this] { UpdateSendButton(); });
     Command1.on_click = [this] { SendToAuthor(); };
     Command2.on_click = [this] { close(); };
 }
