@@ -8,7 +8,6 @@ namespace quillomat {
 enum class MailResult : unsigned {
     Success = 0,
     UserAbort = 1,
-    Failure = 2,
     LogonFailure = 3,
     DiskFull = 4,
     InsufficientMemory = 5,

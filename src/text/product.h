@@ -7,8 +7,6 @@ namespace quillomat::product {
 inline constexpr wchar_t title[] = L"Quillomat";
 /// The version that windows show.
 inline constexpr wchar_t version[] = L"" QUILLOMAT_VERSION;
-/// The version with its update number, as Windows and the packages show it.
-inline constexpr wchar_t release[] = L"" QUILLOMAT_RELEASE;
 inline constexpr wchar_t author[] = L"Tobin Ferrand";
 
 /// The author's web site, as shown and printed; links put "http://" before it.

@@ -7,6 +7,7 @@
 
 #include "program/program.h"
 #include "text/product.h"
+#include "version.h"
 // Needs what they include.
 #include <shellapi.h>
 
@@ -118,7 +119,7 @@ TEST_F(Package, TellsWhatItIs) {
     for (const fs::path& path : {packages / L"app" / L"Quillomat.exe", installer(L"now")}) {
         SCOPED_TRACE(path.string());
         EXPECT_TRUE(holds(path, L"ProductName\0\0"s + product::title + L'\0'));
-        EXPECT_TRUE(holds(path, L"ProductVersion\0"s + product::release + L'\0'));
+        EXPECT_TRUE(holds(path, L"ProductVersion\0"s + L"" QUILLOMAT_RELEASE + L'\0'));
         EXPECT_TRUE(holds(path, L"FileDescription\0\0"s + product::title));
         EXPECT_TRUE(holds(path, "<assembly "s));
         EXPECT_GE(ExtractIconExW(path.c_str(), -1, nullptr, nullptr, 0), 1U);
@@ -132,7 +133,7 @@ TEST_F(Package, IsInstalledAndGoesWithoutATraceWhenNothingWasChanged) {
     expect_files(shipped_database);
     EXPECT_TRUE(holds(shortcut, file(L"Quillomat.exe").string()));
     EXPECT_TRUE(holds(shortcut, _wgetenv(L"USERPROFILE") + L"\\Documents"s)) << "the folder the program starts in";
-    EXPECT_EQ(user_text(registered_key, L"DisplayVersion"), product::release);
+    EXPECT_EQ(user_text(registered_key, L"DisplayVersion"), L"" QUILLOMAT_RELEASE);
     EXPECT_EQ(user_text(registered_key, L"DisplayIcon"), file(L"Quillomat.exe").wstring());
     EXPECT_EQ(user_text(registered_key, L"UninstallString"), L"\"" + file(L"Uninstall.exe").wstring() + L"\"");
 
