@@ -18,7 +18,8 @@ std::wstring key_path(std::wstring_view application, std::wstring_view section) 
 std::wstring GetSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,
                         std::wstring_view fallback) {
     std::optional<std::wstring> text = read_user_text(key_path(application, section), key);
-    return text ? *std::move(text) : std::wstring(fallback);
+    if (!text) return std::wstring(fallback);
+    return *std::move(text);
 }
 
 void SaveSetting(std::wstring_view application, std::wstring_view section, const std::wstring& key,

@@ -12,14 +12,14 @@ namespace quillomat {
 namespace {
 
 /// A line without its line break.
-struct Line {
+struct TextLine {
     std::wstring_view text{};
     bool has_lone_return = false;  ///< The line break is a CR without LF.
 };
 
 /// Removes the first line from a text.
-Line take_line(std::wstring_view& text) {
-    Line line{.text = text.substr(0, text.find(L'\r'))};
+TextLine take_line(std::wstring_view& text) {
+    TextLine line{.text = text.substr(0, text.find(L'\r'))};
     text.remove_prefix(line.text.size());
     line.has_lone_return = !text.empty() && !text.starts_with(line_end);
     text.remove_prefix(std::min(text.size(), line.has_lone_return ? 1 : line_end.size()));
@@ -43,7 +43,7 @@ Record take_record(std::wstring_view& text) {
     Record record{.lines = text};
     while (!text.empty()) {
         const std::size_t length = record.lines.size() - text.size();
-        const Line line = take_line(text);
+        const TextLine line = take_line(text);
         if (is_name_line(line.text)) {
             record.lines = record.lines.substr(0, length);
             record.name_line = line.text;

@@ -13,7 +13,8 @@ std::wstring text_of(const Drive& drive) {
     std::wstring letter = drive.root.substr(0, 2);
     switch (drive.kind) {
         case DriveKind::Fixed:
-            return drive.label.empty() ? letter : letter + L" [" + drive.label + L"]";
+            if (drive.label.empty()) return letter;
+            return letter + L" [" + drive.label + L"]";
         case DriveKind::Removable:
             return letter + L" (removable)";
         case DriveKind::Optical:
@@ -37,7 +38,8 @@ DriveListBox::DriveListBox(Container& container, Bounds bounds) : DropDownList(c
 
 std::wstring DriveListBox::drive() const {
     const auto index = selected_index();
-    return index ? roots_[static_cast<std::size_t>(*index)] : std::wstring();
+    if (!index) return {};
+    return roots_[static_cast<std::size_t>(*index)];
 }
 
 void DriveListBox::select_drive_of(const std::wstring& path) {

@@ -26,7 +26,8 @@ void DropDownList::add(std::wstring_view text) {
 
 std::optional<int> DropDownList::selected_index() const {
     const LRESULT index = send(CB_GETCURSEL);
-    return index == CB_ERR ? std::nullopt : std::optional(static_cast<int>(index));
+    if (index == CB_ERR) return std::nullopt;
+    return static_cast<int>(index);
 }
 
 void DropDownList::select_index(int index) {

@@ -68,7 +68,8 @@ FolderContent FolderListBox::look_into(const std::wstring& path) {
 
 std::wstring FolderListBox::selected_path() const {
     const auto index = selected_index();
-    return index ? entries_[static_cast<std::size_t>(*index)].path : path_;
+    if (!index) return path_;
+    return entries_[static_cast<std::size_t>(*index)].path;
 }
 
 bool FolderListBox::enter_opens() const {

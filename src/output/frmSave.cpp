@@ -1,6 +1,6 @@
 #include "output/frmSave.h"
 
-#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "common/select_all_text.h"

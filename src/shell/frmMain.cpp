@@ -1,11 +1,9 @@
 #include "shell/frmMain.h"
 
-#include <algorithm>
 #include <initializer_list>
 #include <limits>
 
 #include "text/author_links.h"
-#include "text/numbers.h"
 #include "text/product.h"
 #include "win/animation_setting.h"
 
@@ -31,13 +29,13 @@ frmMain::frmMain(Application& application, Session& session, const MainWindows& 
                          .border = FormBorder::Fixed}),
       session_(session),
       windows_(windows) {
-    dress();
+    style_controls();
     bind();
     bind_exit();
     bind_hover_help();
 }
 
-void frmMain::dress() {
+void frmMain::style_controls() {
     Frame1.set_back_colour(band_colour);
     Name.set_font({.name = L"Comic Sans MS", .points = 22});
     Name.set_fore_colour(colours::white);
@@ -113,20 +111,20 @@ void frmMain::bind_hover_help() {
     for (Button* button : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command6, &Command8}) {
         button->on_mouse_move = [this, button](const MouseEvent& event) {
             Timer7_Timer();
-            place_help_box(*button, event);
+            move_help_box(*button, event);
         };
     }
-    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { place_help_box(button, event); };
+    hover_help_.on_shown = [this](Control& button, const MouseEvent& event) { move_help_box(button, event); };
     hover_help_.pass_focus_to(Command4);
     Timer6.on_timer = [this] { Timer6_Timer(); };
     Timer7.on_timer = [this] { Timer7_Timer(); };
 }
 
-void frmMain::place_help_box(const Control& control, const MouseEvent& event) {
+void frmMain::move_help_box(const Control& control, const MouseEvent& event) {
     const double to_the_left = event.x >= help_box_turn ? Text1.width() : Text1.width() / 2;
     const double left = control.left() + event.x - to_the_left;
     const double top = control.top() + event.y - help_box_rise;
-    quillomat::place_help_box(Text1, left, top);
+    place_help_box(Text1, left, top);
 }
 
 void frmMain::Form_Load() {
@@ -144,9 +142,10 @@ void frmMain::Form_Load() {
 
 void frmMain::count_run() {
     // The count stops at its highest value; an overflow error would keep the main screen from opening.
-    const std::int16_t count = session_.settings.read(settings::Counter);
-    session_.StartUpTimes = count == std::numeric_limits<std::int16_t>::max() ? count : checked_add_16(count, 1);
-    session_.settings.write(settings::Counter, session_.StartUpTimes);
+    std::int16_t count = session_.settings.read(settings::Counter);
+    if (count < std::numeric_limits<std::int16_t>::max()) ++count;
+    session_.StartUpTimes = count;
+    session_.settings.write(settings::Counter, count);
 }
 
 void frmMain::Command3_Click() {
@@ -161,8 +160,8 @@ void frmMain::Command3_Click() {
     // Move the focus before its button is disabled: a disabled window swallows the keys typed ahead.
     show_answers();
     Command1.set_focus();
-    enable_what_leads_away(false);
-    if (!animations_wanted()) take_all_steps(Timer2);
+    enable_other_buttons(false);
+    if (!animations_wanted()) finish_animation(Timer2);
 }
 
 void frmMain::Command2_Click() {
@@ -171,13 +170,13 @@ void frmMain::Command2_Click() {
     Timer3.set_enabled(true);
     Timer1.set_enabled(true);
     Command3.set_visible(true);
-    enable_what_leads_away(true);
+    enable_other_buttons(true);
     Timer5.set_enabled(true);
     Command3.set_focus();
-    if (!animations_wanted()) take_all_steps(Timer3);
+    if (!animations_wanted()) finish_animation(Timer3);
 }
 
-void frmMain::take_all_steps(Timer& steps) {
+void frmMain::finish_animation(Timer& steps) {
     ExitConfirmation before;
     do {
         before = exit_confirmation();
@@ -185,7 +184,7 @@ void frmMain::take_all_steps(Timer& steps) {
     } while (steps.enabled() && exit_confirmation() != before);
 }
 
-void frmMain::enable_what_leads_away(bool enabled) {
+void frmMain::enable_other_buttons(bool enabled) {
     for (Button* button : {&Command4, &Command5, &Command6, &Command8, &Command3}) button->set_enabled(enabled);
     menus.mnuFileExit.set_enabled(enabled);
 }

@@ -77,11 +77,11 @@ class frmMain final : public Form {
     MainMenus menus{*this};
 
   private:
-    void dress();
+    void style_controls();
     void bind();
     void bind_exit();
     void bind_hover_help();
-    void place_help_box(const Control& control, const MouseEvent& event);
+    void move_help_box(const Control& control, const MouseEvent& event);
 
     void Form_Load();
     void count_run();
@@ -92,11 +92,11 @@ class frmMain final : public Form {
     void Timer6_Timer();
     void Timer7_Timer();
 
-    void enable_what_leads_away(bool enabled);
+    void enable_other_buttons(bool enabled);
     void show_answers();
     void hide_answers();
     /// Ticks one of the exit question's timers until it stops or the buttons no longer move.
-    void take_all_steps(Timer& steps);
+    void finish_animation(Timer& steps);
     ExitConfirmation exit_confirmation() const;
     void place(const ExitConfirmation& confirmation);
 

@@ -23,9 +23,14 @@ std::optional<std::size_t> find_in_text(const FindState& state, std::wstring tex
         upper_case(wanted.data(), wanted.size());
         upper_case(text.data() + begin, end - begin);
     }
-    const std::size_t found = state.gFindDirection ? text.find(wanted, start)
-                                                   : std::wstring_view(text).substr(0, end).rfind(wanted, start - 2);
-    return found == std::wstring::npos ? std::nullopt : std::optional(found);
+    std::size_t found = std::wstring::npos;
+    if (state.gFindDirection) {
+        found = text.find(wanted, start);
+    } else {
+        found = std::wstring_view(text).substr(0, end).rfind(wanted, start - 2);
+    }
+    if (found == std::wstring::npos) return std::nullopt;
+    return found;
 }
 
 }  // namespace quillomat

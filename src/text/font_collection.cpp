@@ -18,7 +18,8 @@ std::wstring collection_caption(int percent, int seconds) {
 double progress_window_top(double viewer_bottom, double height, double screen_height) {
     constexpr double gap = 100;
     constexpr double lower_end = 1000;
-    return height + gap <= screen_height - viewer_bottom ? viewer_bottom + gap : screen_height - lower_end;
+    if (height + gap <= screen_height - viewer_bottom) return viewer_bottom + gap;
+    return screen_height - lower_end;
 }
 
 }  // namespace quillomat

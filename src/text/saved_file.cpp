@@ -25,7 +25,7 @@ std::wstring without_colons(std::wstring_view text) {
     return result;
 }
 
-std::wstring upper_case(std::wstring_view text) {
+std::wstring ascii_upper_cased(std::wstring_view text) {
     std::wstring result(text.size(), L' ');
     std::ranges::transform(text, result.begin(), ascii_upper_case);
     return result;
@@ -34,7 +34,7 @@ std::wstring upper_case(std::wstring_view text) {
 /// Returns true if Windows takes the name for a device: only the part before the first full stop counts, without
 /// trailing blanks.
 bool names_device(std::wstring_view name) {
-    std::wstring stem = upper_case(name.substr(0, name.find(L'.')));
+    std::wstring stem = ascii_upper_cased(name.substr(0, name.find(L'.')));
     stem.erase(stem.find_last_not_of(L' ') + 1);
     constexpr std::array<std::wstring_view, 6> devices{L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
     if (std::find(devices.begin(), devices.end(), stem) != devices.end()) return true;

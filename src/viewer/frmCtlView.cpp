@@ -94,17 +94,17 @@ void frmCtlView::bind_hover_help() {
     add_hover_help(Option1, L"Click here to show the list of games");
     add_hover_help(Option2, L"Click here to search for a specific game");
     add_hover_help(Text3, L"Type what you want to search for here");
-    hover_help_.on_shown = [this](Control& control, const MouseEvent& event) { place_help_box(control, event); };
+    hover_help_.on_shown = [this](Control& control, const MouseEvent& event) { move_help_box(control, event); };
     hover_help_.pass_focus_to(Text1);
     Timer1.on_timer = [this] { Timer1_Timer(); };
 }
 
 void frmCtlView::add_hover_help(Control& control, const wchar_t* text) {
     hover_help_.add(control, text);
-    control.on_mouse_move = [this, &control](const MouseEvent& event) { place_help_box(control, event); };
+    control.on_mouse_move = [this, &control](const MouseEvent& event) { move_help_box(control, event); };
 }
 
-void frmCtlView::place_help_box(const Control& control, const MouseEvent& event) {
+void frmCtlView::move_help_box(const Control& control, const MouseEvent& event) {
     const bool in_panel = &control.container() == &Frame2;
     const double left = control.left() + event.x + (in_panel ? Frame2.left() : 0) - Text4.width() / 2;
     // The help box of List and Search opens above them; below, it would hide the keyword field.
@@ -112,7 +112,7 @@ void frmCtlView::place_help_box(const Control& control, const MouseEvent& event)
     if (in_panel) {
         top = Frame2.top() + control.top() + event.y + help_below_pointer;
     }
-    quillomat::place_help_box(Text4, left, top);
+    place_help_box(Text4, left, top);
 }
 
 void frmCtlView::show_game(int number) {
@@ -231,15 +231,14 @@ void frmCtlView::List_KeyDown(ListBox& list, KeyEvent& event) {
         event.handled = true;
         const auto item_text = [&list](int index) { return list.item(index); };
         const int selected = list.selected_index().value_or(-1);
-        const auto target =
-            upwards ? previous_group(selected, count, item_text) : next_group(selected, count, item_text);
-        if (target) list.select_index(*target);
+        const auto find_group = upwards ? previous_group : next_group;
+        if (const auto target = find_group(selected, count, item_text)) list.select_index(*target);
     }
 }
 
 std::wstring frmCtlView::hover_text(const ListBox& list, int index) const {
-    return &list == &List2 ? full_list_tooltip(list.item(index), index, list.count())
-                           : result_list_tooltip(list.item(index), index, list.count(), session_.viewer.search_keyword);
+    if (&list == &List2) return full_list_tooltip(list.item(index), index, list.count());
+    return result_list_tooltip(list.item(index), index, list.count(), session_.viewer.search_keyword);
 }
 
 void frmCtlView::List_MouseMove(ListBox& list, const MouseEvent& event) {

@@ -116,6 +116,8 @@ class frmCtlView final : public Form {
     void Label1_reset();
     void Timer1_Timer();
     void mnuFontName_Click(std::size_t Index);
+    /// The option that makes the search panel look through these texts.
+    OptionButton& scope_option(SearchScope scope);
     void offer_installed_fonts();
     std::wstring fonts_file() const;
     void open_status();
@@ -145,7 +147,7 @@ class frmCtlView final : public Form {
     void tidy_image_bar();
     std::wstring hover_text(const ListBox& list, int index) const;
     void add_hover_help(Control& control, const wchar_t* text);
-    void place_help_box(const Control& control, const MouseEvent& event);
+    void move_help_box(const Control& control, const MouseEvent& event);
 
     Session& session_;
     const ViewerWindows& windows_;

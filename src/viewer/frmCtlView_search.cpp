@@ -55,8 +55,8 @@ void frmCtlView::Command1_Click() {
         session_.viewer.search_keyword = upper_cased(Text3.text());
         const ListBox::Filling filling(List1);
         List1.clear();
-        session_.catalogue.search(Option3.value() ? SearchScope::Names : SearchScope::Cheats,
-                                  session_.viewer.search_keyword, session_.viewer.game_count,
+        const SearchScope scope = Option3.value() ? SearchScope::Names : SearchScope::Cheats;
+        session_.catalogue.search(scope, session_.viewer.search_keyword, session_.viewer.game_count,
                                   [this](int number) { List1.add(session_.catalogue.name(number)); });
         // Redraw the line once instead of after every hit: nothing is painted while the list is filled.
         if (List1.count() > 0) Line1.invalidate();
@@ -93,12 +93,13 @@ bool frmCtlView::offer_search_for_selection() {
     return caption.has_value();
 }
 
+OptionButton& frmCtlView::scope_option(SearchScope scope) {
+    if (scope == SearchScope::Names) return Option3;
+    return Option4;
+}
+
 void frmCtlView::SearchFor(SearchScope scope) {
-    OptionButton* option = &Option4;
-    if (scope == SearchScope::Names) {
-        option = &Option3;
-    }
-    option->set_value(true);
+    scope_option(scope).set_value(true);
     Option2.set_value(true);
     Text3.set_text(keyword_of(Text1.selected_text()));
     SelectAllText(Text3);
@@ -120,7 +121,7 @@ void frmCtlView::look_up(const std::wstring& question) {
         }
         if (name.find(keyword) != std::wstring::npos) named = true;
     }
-    (named ? Option3 : Option4).set_value(true);
+    scope_option(named ? SearchScope::Names : SearchScope::Cheats).set_value(true);
     Option2.set_value(true);
     Text3.set_text(question);
     Command1_Click();

@@ -10,7 +10,6 @@ ViewerMenus::ViewerMenus(Form& form) : bar(form), mnuSelected(form, L"Selected")
 }
 
 void ViewerMenus::attach_pictures() {
-    // The elements of the picture array Image3.
     const auto Image3 = [](int index) { return Picture(PICTURE_MENU_FIRST + index); };
     Menu* const first_menu[] = {&mnuSave, &mnuAddNew, &mnuMailCheats, &mnuExit};
     for (int k = 0; k < 4; ++k) first_menu[k]->set_pictures(Image3(k), Image3(k));

@@ -50,7 +50,8 @@ Error error_from_code(DWORD code) {
             return Error(ErrorCode::DeviceError);
         default:
             const std::wstring description = system_description(code);
-            return description.empty() ? Error(ErrorCode::DeviceError) : Error(ErrorCode::DeviceError, description);
+            if (description.empty()) return Error(ErrorCode::DeviceError);
+            return Error(ErrorCode::DeviceError, description);
     }
 }
 

@@ -140,10 +140,11 @@ Texts<std::string> in_system_code_page(const Mail& mail) try {
 
 MailSession::MailSession(HWND owner) : owner_(owner), library_(load_library()) {
     const auto log_on = find<LogonFunction>(library_, "MAPILogon");
-    const MailResult result =
-        log_on
-            ? MailResult{log_on(reinterpret_cast<ULONG_PTR>(owner), nullptr, nullptr, show_logon_dialog, 0, &session_)}
-            : MailResult::NotSupported;
+    auto result = MailResult::NotSupported;
+    if (log_on) {
+        result =
+            MailResult{log_on(reinterpret_cast<ULONG_PTR>(owner), nullptr, nullptr, show_logon_dialog, 0, &session_)};
+    }
     if (result == MailResult::Success) return;
     // Unload the library: it looks for a mail program only once, and the user may set one up before the next attempt.
     FreeLibrary(library_);

@@ -4,9 +4,9 @@
 
 namespace quillomat {
 
-/// A function of one of the system's libraries, which is brought in now; none when the system lacks it. What few runs
-/// need is called this way, as loading its library with the program would hold up the first window. The library stays:
-/// it may still be at work when the function has returned.
+/// Loads a library of Windows and returns one of its functions, or null if Windows lacks it. For functions that few
+/// runs need: loading their libraries with the program would delay the first window. The library is never unloaded,
+/// because its threads may outlive the call.
 template <class Function>
 Function* system_function(const wchar_t* library, const char* name) {
     const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);

@@ -42,12 +42,12 @@ void check_changeable(const std::wstring& path) {
 }
 
 /// RAII guard that closes the slot after a write, even a failed one: only reading leaves the slot open.
-class Closing {
+class SlotCloser {
   public:
-    explicit Closing(FileHandle& file) : file_(file) {}
-    ~Closing() { file_.close(); }
-    Closing(const Closing&) = delete;
-    Closing& operator=(const Closing&) = delete;
+    explicit SlotCloser(FileHandle& file) : file_(file) {}
+    ~SlotCloser() { file_.close(); }
+    SlotCloser(const SlotCloser&) = delete;
+    SlotCloser& operator=(const SlotCloser&) = delete;
 
   private:
     FileHandle& file_;
@@ -149,7 +149,7 @@ void TextFileSlot::append(const std::wstring& path, std::wstring_view text) {
     check_changeable(path);
     // Deny others writing, so that cutting the file back after a failure removes only this text.
     open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
-    const Closing closing(file_);
+    const SlotCloser closer(file_);
     const LONGLONG old_size = size_of(file_.get());
     try {
         if (!seek(file_.get(), old_size)) throw_last_error();
@@ -167,7 +167,7 @@ void TextFileSlot::replace(const std::wstring& path, std::wstring_view text) {
     const std::wstring new_file = create_beside(target);
     try {
         {
-            const Closing closing(file_);
+            const SlotCloser closer(file_);
             // Until the file is complete, Windows deletes it when its handle is closed.
             set_fate(file_.get(), AtClosing::Delete);
             write_flushed(file_.get(), bytes);

@@ -7,7 +7,11 @@ namespace quillomat {
 Theme::Theme(HWND window, const wchar_t* parts, int dpi) {
     // Looked up by name, because the import library of mingw-w64 lacks the function.
     static const auto open = system_function<decltype(OpenThemeDataForDpi)>(L"uxtheme.dll", "OpenThemeDataForDpi");
-    handle_ = open ? open(window, parts, static_cast<UINT>(dpi)) : OpenThemeData(window, parts);
+    if (open) {
+        handle_ = open(window, parts, static_cast<UINT>(dpi));
+    } else {
+        handle_ = OpenThemeData(window, parts);
+    }
 }
 
 }  // namespace quillomat
