@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "forms/graphic.h"
 #include "win/colour.h"
@@ -18,20 +19,21 @@ enum class BackStyle { Transparent, Opaque };
 /// A painted text. Access keys and screen readers pass it by: the caption of an input is a `StaticLabel`.
 class Label : public Graphic {
   public:
-    Label(Container& container, std::wstring caption, Bounds bounds);
+    Label(Container& container, std::wstring caption, Bounds bounds)
+        : Graphic(container, bounds), caption_(std::move(caption)) {}
 
     /// The text; it breaks into lines at the width of the label.
     const std::wstring& caption() const { return caption_; }
-    void set_caption(std::wstring caption);
-    void set_alignment(Alignment alignment);
-    void set_back_style(BackStyle style);
+    void set_caption(std::wstring caption) { change(caption_, std::move(caption)); }
+    void set_alignment(Alignment alignment) { change(alignment_, alignment); }
+    void set_back_style(BackStyle style) { change(back_style_, style); }
     /// Shown by an opaque label only.
     Colour back_colour() const { return back_colour_; }
-    void set_back_colour(Colour colour);
+    void set_back_colour(Colour colour) { change(back_colour_, colour); }
     Colour fore_colour() const { return fore_colour_; }
-    void set_fore_colour(Colour colour);
+    void set_fore_colour(Colour colour) { change(fore_colour_, colour); }
     const FontSpec& font() const { return font_; }
-    void set_font(FontSpec font);
+    void set_font(FontSpec font) { change(font_, std::move(font)); }
     /// Makes the label as large as its caption.
     void fit_to_caption();
 
@@ -52,12 +54,12 @@ enum class ImageBorder { None, Single };
 /// A painted picture, by itself or pressed into a single-line border.
 class Image : public Graphic {
   public:
-    Image(Container& container, Picture picture, Bounds bounds);
+    Image(Container& container, Picture picture, Bounds bounds) : Graphic(container, bounds), picture_(picture) {}
 
     /// Draws the picture this large, in twips, in the middle of the image instead of filling it.
-    void set_picture_size(double twips);
+    void set_picture_size(double twips) { change(picture_size_, twips); }
     ImageBorder border() const { return border_; }
-    void set_border(ImageBorder border);
+    void set_border(ImageBorder border) { change(border_, border); }
 
     void draw(HDC canvas) const override;
 
@@ -70,11 +72,11 @@ class Image : public Graphic {
 /// A painted rectangle, or only its border. The mouse meets what lies behind it.
 class Shape : public Graphic {
   public:
-    Shape(Container& container, Bounds bounds);
+    using Graphic::Graphic;
 
-    void set_border_colour(Colour colour);
+    void set_border_colour(Colour colour) { change(border_colour_, colour); }
     /// Paints the inside too, which is transparent before.
-    void set_fill_colour(Colour colour);
+    void set_fill_colour(Colour colour) { change(fill_colour_, std::optional(colour)); }
 
     void draw(HDC canvas) const override;
     bool takes_mouse() const override { return false; }
@@ -87,7 +89,7 @@ class Shape : public Graphic {
 /// A painted straight line along the upper or left edge of its bounds. The mouse meets what lies behind it.
 class Line : public Graphic {
   public:
-    Line(Container& container, Bounds bounds);
+    using Graphic::Graphic;
 
     void draw(HDC canvas) const override;
     bool takes_mouse() const override { return false; }

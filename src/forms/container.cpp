@@ -15,35 +15,34 @@ Modifiers current_modifiers() {
     return {.shift = is_down(VK_SHIFT), .control = is_down(VK_CONTROL), .alt = is_down(VK_MENU)};
 }
 
-MouseEvent to_mouse_event(UINT message, WPARAM wparam, LPARAM lparam, POINT origin, int dpi) {
-    MouseEvent event{.modifiers = current_modifiers(),
-                     .x = to_twips(GET_X_LPARAM(lparam) - origin.x, dpi),
-                     .y = to_twips(GET_Y_LPARAM(lparam) - origin.y, dpi)};
-    switch (message) {
-        case WM_LBUTTONDOWN:
-        case WM_LBUTTONUP:
-            event.button = MouseButton::Left;
-            break;
-        case WM_RBUTTONDOWN:
-        case WM_RBUTTONUP:
-        case WM_RBUTTONDBLCLK:
-            event.button = MouseButton::Right;
-            break;
-        case WM_MBUTTONDOWN:
-        case WM_MBUTTONUP:
-        case WM_MBUTTONDBLCLK:
-            event.button = MouseButton::Middle;
-            break;
-        default:
-            if (wparam & MK_LBUTTON) {
-                event.button = MouseButton::Left;
-            } else if (wparam & MK_RBUTTON) {
-                event.button = MouseButton::Right;
-            } else if (wparam & MK_MBUTTON) {
-                event.button = MouseButton::Middle;
-            }
+namespace {
+
+/// Returns the button that a message is about, or for a movement, the one held down.
+MouseButton button_of(UINT message, WPARAM held) {
+    struct Messages {
+        MouseButton button;
+        UINT first;
+        UINT last;
+        WPARAM held;
+    };
+    constexpr Messages buttons[] = {
+        {MouseButton::Left, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, MK_LBUTTON},
+        {MouseButton::Right, WM_RBUTTONDOWN, WM_RBUTTONDBLCLK, MK_RBUTTON},
+        {MouseButton::Middle, WM_MBUTTONDOWN, WM_MBUTTONDBLCLK, MK_MBUTTON},
+    };
+    for (const auto& [button, first, last, mask] : buttons) {
+        if (message == WM_MOUSEMOVE ? (held & mask) != 0 : message >= first && message <= last) return button;
     }
-    return event;
+    return MouseButton::None;
+}
+
+}  // namespace
+
+MouseEvent to_mouse_event(UINT message, WPARAM wparam, LPARAM lparam, POINT origin, int dpi) {
+    return {.button = button_of(message, wparam),
+            .modifiers = current_modifiers(),
+            .x = to_twips(GET_X_LPARAM(lparam) - origin.x, dpi),
+            .y = to_twips(GET_Y_LPARAM(lparam) - origin.y, dpi)};
 }
 
 void Container::set_back_colour(Colour colour) {

@@ -38,15 +38,13 @@ void Control::destroy_window() {
 
 void Control::create_window(std::wstring_view text, DWORD style) {
     const std::wstring caption(text);
-    const Bounds& bounds = exact_bounds();
-    const int resolution = dpi();
+    const RECT area = pixel_bounds();
+    const UINT_PTR id = form().internals().next_control_id++;
     // Siblings overlap (help boxes, sliding panels), so each must leave alone what lies in front of it.
     window_ = CreateWindowExW(extended_style_, system_class_, caption.c_str(),
-                              style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, to_pixels(bounds.left, resolution),
-                              to_pixels(bounds.top, resolution), to_pixels(bounds.width, resolution),
-                              to_pixels(bounds.height, resolution), container().window(),
-                              reinterpret_cast<HMENU>(static_cast<UINT_PTR>(form().internals().next_control_id++)),
-                              GetModuleHandleW(nullptr), nullptr);
+                              style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, area.left, area.top,
+                              area.right - area.left, area.bottom - area.top, container().window(),
+                              reinterpret_cast<HMENU>(id), GetModuleHandleW(nullptr), nullptr);
     if (!window_) throw_last_error();
     SetPropW(window_, control_property, this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -222,9 +220,8 @@ void Control::resolution_changed() {
 }
 
 void Control::apply_bounds() {
-    const Bounds& bounds = exact_bounds();
-    SetWindowPos(window_, nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
-                 to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()),
+    const RECT area = pixel_bounds();
+    SetWindowPos(window_, nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 

@@ -18,7 +18,7 @@ struct FormInternals {
     MenuCommands commands;
     FormKeyboard keyboard;
     std::vector<Timer*> timers;
-    int next_control_id = 1000;
+    UINT_PTR next_control_id = 1000;
 };
 
 }  // namespace quillomat

@@ -7,19 +7,12 @@
 
 namespace quillomat {
 
-Graphic::Graphic(Container& container, Bounds bounds) : Item(container, bounds) {
+Graphic::Graphic(Container& container, Bounds bounds) : Item(container, bounds), pixels_(pixel_bounds()) {
     container.add(*this);
 }
 
 Graphic::~Graphic() {
     container().remove(*this);
-}
-
-RECT Graphic::place() const {
-    const Bounds& bounds = exact_bounds();
-    const int x = to_pixels(bounds.left, dpi());
-    const int y = to_pixels(bounds.top, dpi());
-    return {x, y, x + to_pixels(bounds.width, dpi()), y + to_pixels(bounds.height, dpi())};
 }
 
 void Graphic::invalidate() const {
@@ -28,10 +21,10 @@ void Graphic::invalidate() const {
 }
 
 void Graphic::apply_bounds() {
-    const RECT place_now = place();
-    if (EqualRect(&place_now, &pixels_)) return;
+    const RECT pixels = pixel_bounds();
+    if (EqualRect(&pixels, &pixels_)) return;
     if (visible()) invalidate();
-    pixels_ = place_now;
+    pixels_ = pixels;
     if (visible()) invalidate();
     if (!tool_tip_.empty()) form().internals().tool_tips.set(container().window(), this, pixels_, tool_tip_);
 }
@@ -39,10 +32,6 @@ void Graphic::apply_bounds() {
 void Graphic::set_tool_tip(std::wstring text) {
     tool_tip_ = std::move(text);
     form().internals().tool_tips.set(container().window(), this, pixels_, tool_tip_);
-}
-
-void Graphic::apply_visible() {
-    invalidate();
 }
 
 void Graphic::bring_to_front() {

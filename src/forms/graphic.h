@@ -1,15 +1,16 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "forms/item.h"
-#include "win/api.h"
 
 namespace quillomat {
 
 /// An item without a window: its container paints it, in the order of the items, and gives it its mouse events.
 class Graphic : public Item {
   public:
+    Graphic(Container& container, Bounds bounds);
     ~Graphic() override;
 
     void bring_to_front() override;
@@ -30,13 +31,16 @@ class Graphic : public Item {
     void invalidate() const;
 
   protected:
-    Graphic(Container& container, Bounds bounds);
     void apply_bounds() override;
-    void apply_visible() override;
+    void apply_visible() override { invalidate(); }
     void apply_enabled() override { invalidate(); }
-    /// Where it stands for these bounds, in pixels.
-    virtual RECT place() const;
-    void place_now() { pixels_ = place(); }
+    /// Sets a property that shows in the drawing.
+    template <class Value>
+    void change(Value& property, Value value) {
+        if (value == property) return;
+        property = std::move(value);
+        invalidate();
+    }
 
   private:
     RECT pixels_{};

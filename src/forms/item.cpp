@@ -15,38 +15,20 @@ int Item::dpi() const {
     return form().dpi();
 }
 
+RECT Item::pixel_bounds() const {
+    const int x = to_pixels(bounds_.left, dpi());
+    const int y = to_pixels(bounds_.top, dpi());
+    return {x, y, x + to_pixels(bounds_.width, dpi()), y + to_pixels(bounds_.height, dpi())};
+}
+
 double Item::rounded(double twips) const {
     return to_twips(to_pixels(twips, dpi()), dpi());
-}
-
-void Item::set_left(double twips) {
-    move({twips, bounds_.top, bounds_.width, bounds_.height});
-}
-
-void Item::set_top(double twips) {
-    move({bounds_.left, twips, bounds_.width, bounds_.height});
-}
-
-void Item::set_width(double twips) {
-    move({bounds_.left, bounds_.top, twips, bounds_.height});
-}
-
-void Item::set_height(double twips) {
-    move({bounds_.left, bounds_.top, bounds_.width, twips});
-}
-
-void Item::set_size(double width, double height) {
-    move({bounds_.left, bounds_.top, width, height});
 }
 
 void Item::move(Bounds bounds) {
     if (bounds == bounds_) return;
     bounds_ = bounds;
     apply_bounds();
-}
-
-void Item::move_by(double right, double down) {
-    move({bounds_.left + right, bounds_.top + down, bounds_.width, bounds_.height});
 }
 
 void Item::set_visible(bool visible) {

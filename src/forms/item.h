@@ -1,9 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "forms/events.h"
 #include "forms/geometry.h"
+#include "win/api.h"
 
 namespace quillomat {
 
@@ -29,16 +28,18 @@ class Item : public MouseEvents {
     double top() const { return rounded(bounds_.top); }
     double width() const { return rounded(bounds_.width); }
     double height() const { return rounded(bounds_.height); }
-    void set_left(double twips);
-    void set_top(double twips);
-    void set_width(double twips);
-    void set_height(double twips);
+    void set_left(double twips) { move({twips, bounds_.top, bounds_.width, bounds_.height}); }
+    void set_top(double twips) { move({bounds_.left, twips, bounds_.width, bounds_.height}); }
+    void set_width(double twips) { set_size(twips, bounds_.height); }
+    void set_height(double twips) { set_size(bounds_.width, twips); }
     /// Both at once, where it stands.
-    void set_size(double width, double height);
+    void set_size(double width, double height) { move({bounds_.left, bounds_.top, width, height}); }
     /// Puts it in another place and size: one step instead of four.
     void move(Bounds bounds);
     /// Moves the item by a distance in twips; there and back again is exactly where it was.
-    void move_by(double right, double down);
+    void move_by(double right, double down) {
+        move({bounds_.left + right, bounds_.top + down, bounds_.width, bounds_.height});
+    }
 
     /// Whether it is shown, as far as its container is.
     bool visible() const { return visible_; }
@@ -55,8 +56,9 @@ class Item : public MouseEvents {
     virtual void resolution_changed() { apply_bounds(); }
 
   protected:
-    const Bounds& exact_bounds() const { return bounds_; }
     int dpi() const;
+    /// Where the item stands in its container, in pixels.
+    RECT pixel_bounds() const;
 
     virtual void apply_bounds() = 0;
     virtual void apply_visible() = 0;

@@ -68,28 +68,26 @@ Menu::Menu(Menu& parent, std::wstring caption, Ampersands ampersands)
 
 Menu::~Menu() {
     form_.internals().commands.remove(id_);
-    const int place = position();
-    if (place >= 0) RemoveMenu(container_, static_cast<UINT>(place), MF_BYPOSITION);
+    if (container_) RemoveMenu(container_, static_cast<UINT>(id_), MF_BYCOMMAND);
     if (handle_) DestroyMenu(handle_);
 }
 
-std::wstring Menu::shown_caption() const {
-    return ampersands_ == Ampersands::AreShown ? without_access_keys(caption_) : caption_;
-}
-
-UINT Menu::shown_type() const {
-    return caption_.empty() ? MFT_SEPARATOR : MFT_STRING;
+MENUITEMINFOW Menu::caption_info(std::wstring& text) const {
+    text = ampersands_ == Ampersands::AreShown ? without_access_keys(caption_) : caption_;
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE | MIIM_STRING;
+    info.fType = caption_.empty() ? MFT_SEPARATOR : MFT_STRING;
+    info.dwTypeData = text.data();
+    return info;
 }
 
 void Menu::attach(HMENU parent) {
     container_ = parent;
-    std::wstring text = shown_caption();
-    MENUITEMINFOW info{};
-    info.cbSize = sizeof info;
-    info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STRING | MIIM_SUBMENU;
-    info.fType = shown_type();
+    std::wstring text;
+    MENUITEMINFOW info = caption_info(text);
+    info.fMask |= MIIM_ID | MIIM_SUBMENU;
     info.wID = static_cast<UINT>(id_);
-    info.dwTypeData = text.data();
     info.hSubMenu = handle_;
     if (!InsertMenuItemW(parent, static_cast<UINT>(GetMenuItemCount(parent)), TRUE, &info)) throw_last_error();
 }
@@ -98,40 +96,20 @@ void Menu::become_submenu() {
     if (handle_) return;
     handle_ = CreatePopupMenu();
     if (!handle_) throw_last_error();
+    if (!container_) return;
     MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
     info.fMask = MIIM_SUBMENU;
     info.hSubMenu = handle_;
-    update(info);
-}
-
-int Menu::position() const {
-    for (int i = 0; container_ && i < GetMenuItemCount(container_); ++i) {
-        MENUITEMINFOW info{};
-        info.cbSize = sizeof info;
-        info.fMask = MIIM_ID;
-        if (GetMenuItemInfoW(container_, static_cast<UINT>(i), TRUE, &info) && info.wID == static_cast<UINT>(id_)) {
-            return i;
-        }
-    }
-    return -1;
-}
-
-void Menu::update(const MENUITEMINFOW& info) const {
-    if (!container_) return;
-    MENUITEMINFOW sized = info;
-    sized.cbSize = sizeof sized;
-    SetMenuItemInfoW(container_, static_cast<UINT>(id_), FALSE, &sized);
+    SetMenuItemInfoW(container_, static_cast<UINT>(id_), FALSE, &info);
 }
 
 void Menu::set_caption(std::wstring caption) {
     if (caption == caption_) return;
     caption_ = std::move(caption);
-    std::wstring text = shown_caption();
-    MENUITEMINFOW info{};
-    info.fMask = MIIM_FTYPE | MIIM_STRING;
-    info.fType = shown_type();
-    info.dwTypeData = text.data();
-    update(info);
+    std::wstring text;
+    const MENUITEMINFOW info = caption_info(text);
+    if (container_) SetMenuItemInfoW(container_, static_cast<UINT>(id_), FALSE, &info);
 }
 
 void Menu::set_checked(bool checked) {

@@ -80,10 +80,8 @@ class Menu {
     void attach(HMENU parent);
     void become_submenu();
     void pop_up_at(POINT screen, const Menu* default_item);
-    int position() const;
-    std::wstring shown_caption() const;
-    UINT shown_type() const;
-    void update(const MENUITEMINFOW& info) const;
+    /// Describes what the entry shows; `text` holds its characters.
+    MENUITEMINFOW caption_info(std::wstring& text) const;
 
     Form& form_;
     HMENU container_ = nullptr;  // the menu this is an entry of

@@ -10,11 +10,16 @@ class Application;
 class Error;
 
 /// The answers a message box offers.
-enum class MessageButtons { Ok, OkCancel, YesNo };
+enum class MessageButtons : UINT { Ok = MB_OK, OkCancel = MB_OKCANCEL, YesNo = MB_YESNO };
 /// The sign beside its text.
-enum class MessageIcon { None, Critical, Question, Information };
+enum class MessageIcon : UINT {
+    None = 0,
+    Critical = MB_ICONERROR,
+    Question = MB_ICONQUESTION,
+    Information = MB_ICONINFORMATION,
+};
 /// The user's answer; closing the box is `Cancel`, or `Ok` where nothing else is offered.
-enum class MessageAnswer { Ok, Cancel, Yes, No };
+enum class MessageAnswer { Ok = IDOK, Cancel = IDCANCEL, Yes = IDYES, No = IDNO };
 
 /// A message box: its text, its title and what it offers.
 struct Message {

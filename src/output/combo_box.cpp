@@ -42,10 +42,9 @@ void ComboBox::notified(WORD code) {
 
 void ComboBox::apply_bounds() {
     // Windows counts the open list into the height of the control.
-    const Bounds& bounds = exact_bounds();
+    const RECT area = pixel_bounds();
     const int list_height = most_lines_in_list * static_cast<int>(send(CB_GETITEMHEIGHT));
-    SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
-                 to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,
+    SetWindowPos(window(), nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top + list_height,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
     // Windows selects the text of a combo box that is resized.
     if (!has_focus()) send(CB_SETEDITSEL, 0, MAKELPARAM(0, 0));

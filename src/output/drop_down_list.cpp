@@ -50,13 +50,12 @@ void DropDownList::report_change() {
 }
 
 void DropDownList::apply_bounds() {
-    const Bounds& bounds = exact_bounds();
+    const RECT area = pixel_bounds();
     constexpr auto field = static_cast<WPARAM>(-1);
-    send(CB_SETITEMHEIGHT, field, to_pixels(bounds.height, dpi()) - frame_pixels);
+    send(CB_SETITEMHEIGHT, field, area.bottom - area.top - frame_pixels);
     // Windows counts the open list into the height of the control, and shortens the list to its texts.
     const int list_height = most_texts_shown * static_cast<int>(send(CB_GETITEMHEIGHT, 0));
-    SetWindowPos(window(), nullptr, to_pixels(bounds.left, dpi()), to_pixels(bounds.top, dpi()),
-                 to_pixels(bounds.width, dpi()), to_pixels(bounds.height, dpi()) + list_height,
+    SetWindowPos(window(), nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top + list_height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -16,9 +16,7 @@ int drawn_resolution(int dpi) {
 }  // namespace
 
 Backdrop::Backdrop(Container& container, int resource, Bounds bounds)
-    : Graphic(container, bounds), resource_(resource) {
-    place_now();
-}
+    : Graphic(container, bounds), resource_(resource) {}
 
 void Backdrop::resolution_changed() {
     bitmap_ = {};
