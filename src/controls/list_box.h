@@ -1,23 +1,17 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "forms/control.h"
 
 namespace quillomat {
 
-/// A list of texts, in the order they were added, of which one can be selected; or, for picking several, a list with a
-/// cursor, where each click or Space picks a text or takes it back.
+/// A list of texts, in the order they were added, of which one can be selected.
 class ListBox : public Control {
   public:
-    /// How many texts the user can select at a time.
-    enum class Picking { One, Several };
-
-    ListBox(Container& container, Bounds bounds, Picking picking = Picking::One);
+    ListBox(Container& container, Bounds bounds) : ListBox(container, bounds, 0) {}
 
     /// How many texts there are.
     int count() const;
@@ -40,20 +34,14 @@ class ListBox : public Control {
     /// The text at a position; empty where there is none.
     std::wstring item(int index) const;
 
-    /// The position of the selected text, or nothing. In a list for picking several, where its cursor is.
-    std::optional<int> selected_index() const;
+    /// The position of the selected text, or nothing.
+    virtual std::optional<int> selected_index() const;
     /// Selects the text at a position and raises the click. Throws `Error` with SubscriptOutOfRange when there is none.
-    void select_index(int index);
+    virtual void select_index(int index);
     /// The selected text; empty when none is selected.
     std::wstring text() const;
     /// Selects the first text that equals this one to the letter, and raises the click; without one, nothing changes.
     void select_text(std::wstring_view text);
-
-    /// The positions of what is picked, in the list's order; for a list for picking several.
-    std::vector<int> picked_indexes() const;
-    /// Picks the text at a position or takes it back, and raises the click. Throws `Error` with SubscriptOutOfRange
-    /// when there is none.
-    void set_picked(int index, bool picked);
 
     /// Scrolls the text at a position to the top, as far as the list goes.
     void set_top_index(int index);
@@ -62,22 +50,11 @@ class ListBox : public Control {
     /// outside of the list's texts.
     int item_from_point(int x, int y) const;
 
-    /// Lets the user scroll sideways as far as the longest text reaches; for a list for picking several.
-    void fit_scroll_range();
-
     void notified(WORD code) override;
-    void resolution_changed() override;
 
   protected:
-    LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
     /// A list of another style, such as one that draws its items itself.
     ListBox(Container& container, Bounds bounds, DWORD further_style);
-
-  private:
-    std::optional<int> find(std::wstring_view text) const;
-
-    Picking picking_;
-    bool told_of_change_ = false;
 };
 
 }  // namespace quillomat

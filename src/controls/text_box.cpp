@@ -60,14 +60,18 @@ TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
               kind == TextBoxKind::Help ? 0 : WS_EX_CLIENTEDGE),
       kind_(kind),
       breaks_lines_(may_break_lines(kind)) {
-    const bool help = kind == TextBoxKind::Help;
-    set_default_back_colour(help                          ? colours::tip_background
-                            : kind == TextBoxKind::Result ? colours::button_face
-                                                          : colours::window);
-    if (help) {
-        set_fore_colour(colours::tip_text);
-        set_font({.points = help_points});
-        set_visible(false);
+    switch (kind) {
+        case TextBoxKind::Help:
+            set_default_back_colour(colours::tip_background);
+            set_fore_colour(colours::tip_text);
+            set_font({.points = help_points});
+            set_visible(false);
+            break;
+        case TextBoxKind::Result:
+            set_default_back_colour(colours::button_face);
+            break;
+        default:
+            set_default_back_colour(colours::window);
     }
     send(EM_SETLIMITTEXT, no_limit);
 }
@@ -106,7 +110,8 @@ std::size_t TextBox::selection_length() const {
 std::wstring TextBox::selected_text() const {
     const std::size_t start = selection_start();
     const std::size_t length = selection_length();
-    return length == 0 ? std::wstring() : text().substr(start, length);
+    if (length == 0) return {};
+    return text().substr(start, length);
 }
 
 void TextBox::select(std::size_t start, std::size_t length) {
@@ -117,19 +122,12 @@ void TextBox::select(std::size_t start, std::size_t length) {
 void TextBox::fit_width_to_text() {
     RECT area{};
     GetWindowRect(window(), &area);
-    const int frame = area.right - area.left - room();
-    set_width(to_twips(text_width() + frame, dpi()));
-}
-
-int TextBox::text_width() const {
+    RECT inside{};
+    send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
+    const LONG frame = (area.right - area.left) - (inside.right - inside.left);
     // One more pixel than the text, or the box scrolls to make room for the caret.
-    return text_extent(form().application().fonts().get(font(), dpi()).get(), text()).cx + 1;
-}
-
-int TextBox::room() const {
-    RECT formatting{};
-    send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&formatting));
-    return formatting.right - formatting.left;
+    const LONG text_width = text_extent(form().application().fonts().get(font(), dpi()).get(), text()).cx + 1;
+    set_width(to_twips(text_width + frame, dpi()));
 }
 
 void TextBox::notified(WORD code) {
@@ -154,21 +152,6 @@ LRESULT TextBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
                 kind_ != TextBoxKind::Writing) {
                 CharacterEvent event{.character = static_cast<wchar_t>(wparam)};
                 raise(on_key_press, event);
-                return 0;
-            }
-            break;
-        case WM_CONTEXTMENU:
-            if (on_context_menu) {
-                raise(on_context_menu);
-                return 0;
-            }
-            break;
-        case WM_MOUSEWHEEL:
-            if (on_control_wheel && (GET_KEYSTATE_WPARAM(wparam) & MK_CONTROL)) {
-                wheel_delta_ += GET_WHEEL_DELTA_WPARAM(wparam);
-                const int notches = wheel_delta_ / WHEEL_DELTA;
-                wheel_delta_ %= WHEEL_DELTA;
-                raise(on_control_wheel, notches);
                 return 0;
             }
             break;

@@ -31,11 +31,6 @@ class TextBox : public Control {
 
     /// The text has changed, by the user or by the program.
     std::function<void()> on_change;
-    /// The user asks for a menu by the right mouse button. Without a handler the system shows the menu of its own.
-    std::function<void()> on_context_menu;
-    /// The user turns the wheel with Ctrl held, by a number of notches; positive is away from the user. Without a
-    /// handler the box scrolls.
-    std::function<void(int notches)> on_control_wheel;
 
     std::wstring text() const { return window_text(); }
     /// Sets the text, in which a NUL becomes a blank, and raises the change.
@@ -58,14 +53,11 @@ class TextBox : public Control {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:
-    int text_width() const;
-    int room() const;
     void choose_line_breaks(std::wstring_view text);
 
     TextBoxKind kind_;
     bool breaks_lines_;
     bool program_changes_ = false;
-    int wheel_delta_ = 0;  // of turns that have not made a whole notch yet
 };
 
 }  // namespace quillomat

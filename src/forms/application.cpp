@@ -7,6 +7,7 @@
 #include "forms/form.h"
 #include "win/errors.h"
 #include "win/thread_windows.h"
+#include "win/worker.h"
 
 namespace quillomat {
 
@@ -26,6 +27,15 @@ bool next_message(MSG& message) {
 
 bool is_keyboard_input(UINT message) {
     return message >= WM_KEYFIRST && message <= WM_KEYLAST;
+}
+
+/// True for the input of the user at a window that cannot be used, or could not a moment ago: a library that the work
+/// has called may have enabled the window.
+bool is_stray_input(const MSG& message) {
+    const bool is_input = is_keyboard_input(message.message) ||
+                          (message.message > WM_MOUSEMOVE && message.message <= WM_MOUSELAST) ||
+                          (message.message > WM_NCMOUSEMOVE && message.message <= WM_NCXBUTTONDBLCLK);
+    return is_input && !IsWindowEnabled(GetAncestor(message.hwnd, GA_ROOT));
 }
 
 }  // namespace
@@ -57,6 +67,45 @@ void Application::let_pending_events_run() {
         dispatch(message);
     }
     faults_.report();
+}
+
+bool Application::run_without_blocking(std::function<void()> work, DWORD milliseconds) {
+    if (std::exchange(working_, true)) return false;
+    struct Reset {
+        bool& flag;
+        ~Reset() { flag = false; }
+    } const reset{working_};
+
+    const HWND focused = GetFocus();
+    ModalScope others(*this);
+    Worker worker(std::move(work));
+    const HANDLE thread = worker.thread();
+    const ULONGLONG end = GetTickCount64() + milliseconds;
+    std::optional<int> quit;
+    DWORD result = WAIT_OBJECT_0 + 1;
+    while (result == WAIT_OBJECT_0 + 1) {
+        result = MsgWaitForMultipleObjectsEx(1, &thread, static_cast<DWORD>(end - std::min(GetTickCount64(), end)),
+                                             QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+        others.hold();
+        MSG message{};
+        if (result != WAIT_OBJECT_0 + 1 || !PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) continue;
+        others.hold();
+        if (message.message == WM_QUIT) {
+            quit = static_cast<int>(message.wParam);
+        } else if (!is_stray_input(message)) {
+            dispatch(message);
+        }
+    }
+    if (quit) PostQuitMessage(*quit);
+    others.end();
+    // The focus leaves a window that cannot be used.
+    if (IsWindow(focused)) SetFocus(focused);
+    if (result == WAIT_TIMEOUT) {
+        worker.leave_alone();
+        return false;
+    }
+    worker.join();
+    return true;
 }
 
 void Application::close_all_forms() {
@@ -97,10 +146,6 @@ void Application::dispatch(MSG& message) {
 void Application::report_current_exception() {
     faults_.note_current_exception(nullptr, Occasion::Action);
     faults_.report();
-}
-
-void pause_milliseconds(int milliseconds) {
-    Sleep(static_cast<DWORD>(milliseconds));
 }
 
 }  // namespace quillomat

@@ -87,7 +87,4 @@ class Application {
     std::optional<DWORD> first_click_;  // the time of the click whose second press is dropped
 };
 
-/// Stops the program for a moment, in the middle of an animation.
-void pause_milliseconds(int milliseconds);
-
 }  // namespace quillomat

@@ -91,7 +91,7 @@ LRESULT CALLBACK Control::procedure(HWND window, UINT message, WPARAM wparam, LP
     return control.form().guarded([&] { return control.handle_message(message, wparam, lparam); }, message);
 }
 
-LRESULT Control::default_message(UINT message, WPARAM wparam, LPARAM lparam) {
+LRESULT Control::default_message(UINT message, WPARAM wparam, LPARAM lparam) const {
     return CallWindowProcW(system_procedure_, window_, message, wparam, lparam);
 }
 

@@ -87,7 +87,7 @@ class Control : public Item {
 
     /// The control's window procedure.
     virtual LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT default_message(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT default_message(UINT message, WPARAM wparam, LPARAM lparam) const;
     LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const;
 
     /// The text that the system's window holds.

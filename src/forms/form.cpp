@@ -101,11 +101,7 @@ Form::Form(Application& application, const FormDesign& design)
     const UINT system_dpi = GetDpiForWindow(window_);
     set_dpi(application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi));
     internals_.tool_tips.create(window_, dpi());
-    if (design.measured == FormSize::Inside) {
-        set_inner_size(design.width, design.height);
-    } else {
-        set_size(design.width, design.height);
-    }
+    set_size(design.width, design.height);
 }
 
 Form::~Form() {

@@ -19,14 +19,11 @@ enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 /// What frames a form and whether the user can change its size.
 enum class FormBorder { Sizable, Fixed, Dialog, None };
 
-/// What the size of a form's design counts: the whole window, or what is inside of its frame and title bar, so that the
-/// thickness of the frame, which differs between versions of Windows, cuts nothing.
-enum class FormSize { Outside, Inside };
-
 /// The shape of the pointer over a form.
 enum class PointerShape { Default, Hourglass };
 
-/// How a form looks before its handlers have run. Sizes are in twips.
+/// How a form looks before its handlers have run. Sizes are in twips, and are those of the whole window. A form of
+/// fixed size calls `set_inner_size` instead, because the thickness of the frame differs between versions of Windows.
 struct FormDesign {
     /// Also the name of its window class, by which automation finds it.
     const wchar_t* name = nullptr;
@@ -34,8 +31,7 @@ struct FormDesign {
     double width = 0;
     double height = 0;
     FormBorder border = FormBorder::Sizable;
-    FormSize measured = FormSize::Outside;
-    /// What the user can make it no smaller than by its border, in twips.
+    /// What the user can make it no smaller than by its border.
     WindowSize minimum{};
 };
 

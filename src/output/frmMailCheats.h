@@ -13,6 +13,7 @@
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
+#include "output/picking_list_box.h"
 #include "output/viewer_link.h"
 
 namespace quillomat {
@@ -24,7 +25,7 @@ class frmMailCheats final : public Form {
     frmMailCheats(Application& application, Session& session, ViewerLink& viewer);
 
     StaticLabel Label1{*this, L"Select the games whose cheat codes you want to include.", {}};
-    ListBox List1{*this, {}, ListBox::Picking::Several};
+    PickingListBox List1{*this, {}};
     StaticLabel Label7{*this, L"(Press CTRL-Arrow Key to go to the next selected item.)", {}};
     /// The names of the picked games, in the list's order. Never shown.
     ListBox List2{*this, {}};

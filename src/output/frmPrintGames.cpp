@@ -25,14 +25,10 @@ constexpr int rule_width = 3;
 }  // namespace
 
 frmPrintGames::frmPrintGames(Application& application, Session& session, ViewerLink& viewer)
-    : Form(application, {.name = L"frmPrintGames",
-                         .caption = L"Number of Games",
-                         .width = 4740,
-                         .height = 3285,
-                         .border = FormBorder::Dialog,
-                         .measured = FormSize::Inside}),
+    : Form(application, {.name = L"frmPrintGames", .caption = L"Number of Games", .border = FormBorder::Dialog}),
       session_(session),
       viewer_(viewer) {
+    set_inner_size(4740, 3285);
     bind();
     bind_number_box(Text1, [this] { SelectAllText(Text2); });
     bind_number_box(Text2, [this] { Command1.set_focus(); });

@@ -13,24 +13,20 @@ namespace quillomat {
 namespace {
 
 constexpr wchar_t title[] = L"about the author - tobin ferrand";
-constexpr int pause_between_steps = 5;
+constexpr DWORD pause_between_steps = 5;  // milliseconds
 constexpr double inner_width_designed = 5910;
 constexpr double frame_height = 375;  // of the title bar and the frame that the dialog's heights include
 
 }  // namespace
 
 Dialog1::Dialog1(Application& application, PointerState& pointer)
-    : Form(application, {.name = L"Dialog1",
-                         .caption = title,
-                         .width = inner_width_designed,
-                         .height = author_dialog_height - frame_height,
-                         .border = FormBorder::Dialog,
-                         .measured = FormSize::Inside}),
+    : Form(application, {.name = L"Dialog1", .caption = title, .border = FormBorder::Dialog}),
       picSpin(PICTURE_COIN),
       Picture1{Picture(PICTURE_QUILL_FIRST), Picture(PICTURE_QUILL_FIRST + 1), Picture(PICTURE_QUILL_FIRST + 2)},
       picCopy(*this, picSpin, L"A coin that turns", {240, 240, 2340, 2340}, PictureBox::Edge::Thin),
       Label1(*this, product::author, {2835, 795, 2835, 420}),
       pointer_(pointer) {
+    set_inner_size(inner_width_designed, author_dialog_height - frame_height);
     picCopy.set_back_colour(colours::white);
     picCopy.set_tool_tip(L"Cool, eh?");
     Label1.set_font({.points = 16, .bold = true});
@@ -93,7 +89,7 @@ void Dialog1::resize(std::optional<double> (*next_height)(double)) {
         if (!animated) continue;
         set_inner_size(inner_width_designed, exact_height_ - frame_height);
         paint_changes();
-        pause_milliseconds(pause_between_steps);
+        Sleep(pause_between_steps);
     }
     set_inner_size(inner_width_designed, exact_height_ - frame_height);
 }

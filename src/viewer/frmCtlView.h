@@ -15,6 +15,7 @@
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "forms/timer.h"
+#include "viewer/cheat_text_box.h"
 #include "viewer/game_list_box.h"
 #include "viewer/viewer_menus.h"
 #include "viewer/viewer_windows.h"
@@ -49,7 +50,7 @@ class frmCtlView final : public Form {
         Frame1, L"G&ame", {120, 255, 1050, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set};
     OptionButton Option4{Frame1, L"&Cheats", {1230, 255, 1050, 255}, OptionButton::Group::Continues};
     GameListBox List1{Frame2, {0, 1315, 2490, 3230}};
-    TextBox Text1{*this, {2680, 780, 5945, 4905}, TextBoxKind::Reading};
+    CheatTextBox Text1{*this, {2680, 780, 5945, 4905}};
     TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Shape Shape1{*this, {0, 0, 420, 420}};
     Timer Timer1{*this, 1};

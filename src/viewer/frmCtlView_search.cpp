@@ -172,7 +172,7 @@ void frmCtlView::slide(Control& panel, double left, std::optional<double> (*next
 void frmCtlView::show_slide_step() {
     paint_changes();
     Line1.refresh();
-    pause_milliseconds(1);
+    Sleep(1);
 }
 
 }  // namespace quillomat

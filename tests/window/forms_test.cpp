@@ -49,9 +49,8 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
 }
 
 TEST_F(FormsTest, AFixedWindowKeepsItsInsideAndIsLaidOutOnceAtEachResolution) {
-    FormDesign design{.name = L"frmFixed", .caption = L"", .border = FormBorder::Fixed, .measured = FormSize::Inside};
-    design.width = design.height = 3000;
-    Form fixed(application, design);
+    Form fixed(application, {.name = L"frmFixed", .caption = L"", .border = FormBorder::Fixed});
+    fixed.set_inner_size(3000, 3000);
     fixed.show();
     int layouts = 0;
     fixed.on_resize = [&] { ++layouts; };
@@ -59,7 +58,7 @@ TEST_F(FormsTest, AFixedWindowKeepsItsInsideAndIsLaidOutOnceAtEachResolution) {
         const RECT suggested{10, 10, 400, 400};
         SendMessageW(fixed.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
         EXPECT_EQ(std::exchange(layouts, 0), 1);
-        EXPECT_TRUE(fixed.inner_width() == design.width && fixed.inner_height() == design.height) << dpi;
+        EXPECT_TRUE(fixed.inner_width() == 3000 && fixed.inner_height() == 3000) << dpi;
     }
 }
 
