@@ -24,8 +24,8 @@ class FolderListBox : public ListBox {
     /// selected. Otherwise Enter presses the form's default button.
     bool enter_opens() const;
 
-    /// Runs a function that looks into a folder on a drive which may be far away or asleep, as
-    /// `Application::run_without_blocking` does. Returns false if that takes more than so many milliseconds.
+    /// Runs a function that lists a folder on a slow drive, as `Application::run_without_blocking` does. Returns false
+    /// if that takes more than the given number of milliseconds.
     std::function<bool(std::function<void()> look, DWORD milliseconds)> run_slow_look;
 
     /// The path of the current folder; empty until one is set.

@@ -200,7 +200,7 @@ void frmSave::Timer1_Timer() {
     if (!std::exchange(shown_before_, true)) {
         // The window reaches its final position only after on_load.
         CenterMouseOn(Command1.window());
-        // Look into a drive that may not answer only now that the dialog can show that it waits.
+        // List a folder on a slow drive only now that the dialog is visible and can show that it waits.
         if (Dir1.path().empty()) open_first_folder();
     }
     hover_help_.tick();

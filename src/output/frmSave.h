@@ -56,7 +56,7 @@ class frmSave final : public Form {
     void Timer1_Timer();
 
     void open_first_folder();
-    /// Runs `work` without blocking, and shows meanwhile what the dialog waits for. Parameters and result are those of
+    /// Runs `work` without blocking, and meanwhile shows what the dialog waits for. Parameters and result are those of
     /// `Application::run_without_blocking`.
     bool wait_for(std::function<void()> work, DWORD milliseconds = INFINITE);
     /// Asks the user before a file is overwritten. Returns false if it must not be written.

@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// Shows the hourglass over a form, and a hidden text on it, for as long as the object lives.
+/// Shows the hourglass over a form, and a hidden label on it, until the end of the scope.
 class WaitNotice {
   public:
     WaitNotice(Form& form, Item& text) : hourglass_(form), text_(text) { text_.set_visible(true); }
