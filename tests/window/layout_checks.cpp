@@ -183,14 +183,22 @@ void expect_whole_layout(HWND window) {
     }
 }
 
-void expect_unique_access_keys(HWND window) {
+void expect_access_keys_and_names(HWND window) {
     std::set<wchar_t> keys;
+    if (const HMENU bar = GetMenu(window)) add_access_keys(bar, keys);
     for (const HWND control : controls_on(window)) {
         const std::wstring kind = class_of(control);
         const bool has_prefix = kind == L"Button" || (kind == L"Static" && !(style_of(control) & SS_NOPREFIX));
         if (has_prefix) add_access_key(text_of(control), keys);
+        if (kind == L"Static" || button_type(control) == BS_GROUPBOX) continue;
+        // A screen reader asks for the control first. Where the control has no caption, the reader takes the text
+        // right before it for the name.
+        SendMessageW(control, WM_GETOBJECT, 0, OBJID_CLIENT);
+        HWND name = control;
+        if (kind != L"Button") name = GetWindow(control, GW_HWNDPREV);
+        const bool is_named = name && !text_of(name).empty() && (name == control || class_of(name) == L"Static");
+        EXPECT_TRUE(is_named) << described(control) << " has no name";
     }
-    if (const HMENU bar = GetMenu(window)) add_access_keys(bar, keys);
 }
 
 std::vector<HWND> inputs_of(HWND window) {
@@ -202,23 +210,6 @@ std::vector<HWND> inputs_of(HWND window) {
         return takes_none || is_other_option || !IsWindowEnabled(control);
     });
     return inputs;
-}
-
-void expect_spoken_names(HWND window) {
-    for (const HWND control : controls_on(window)) {
-        if (class_of(control) == L"Static") continue;
-        // A screen reader asks for the control first. Where the control has no caption, the reader takes the text
-        // right before it for the name.
-        SendMessageW(control, WM_GETOBJECT, 0, OBJID_CLIENT);
-        if (button_type(control) == BS_GROUPBOX) continue;
-        if (class_of(control) == L"Button") {
-            EXPECT_FALSE(text_of(control).empty()) << "a button without a caption";
-        } else {
-            const HWND before = GetWindow(control, GW_HWNDPREV);
-            EXPECT_TRUE(before && class_of(before) == L"Static" && !text_of(before).empty())
-                << described(control) << " has no name";
-        }
-    }
 }
 
 void expect_reading_order(const std::vector<HWND>& walk) {

@@ -10,11 +10,9 @@ namespace quillomat {
 /// Everything on the window lies inside of what it stands on, nothing overlaps, and every text has the room it needs.
 void expect_whole_layout(HWND window);
 
-/// No two captions on the window and its menu bar, and no two entries of one menu, have the same access key.
-void expect_unique_access_keys(HWND window);
-
-/// A screen reader finds a name for every input.
-void expect_spoken_names(HWND window);
+/// No two captions on the window and its menu bar, and no two entries of one menu, have the same access key; and a
+/// screen reader finds a name for every input.
+void expect_access_keys_and_names(HWND window);
 
 /// The inputs that the Tab key must reach, in any order; of a group of options only the chosen one.
 std::vector<HWND> inputs_of(HWND window);

@@ -59,11 +59,6 @@ TEST_F(LeakTest, CommandsHoverHelpAndFontsThatWereTried) {
         viewer.menus.mnuFontName.back()->pick();
     }
     EXPECT_LT(count_objects().gdi, before.gdi + kept);
-    // What is on the screen keeps its font, be it new or old.
-    for (HWND control = GetWindow(viewer.window(), GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
-        const LRESULT font = SendMessageW(control, WM_GETFONT, 0, 0);
-        EXPECT_TRUE(!font || GetObjectType(reinterpret_cast<HGDIOBJ>(font)) == OBJ_FONT);
-    }
 }
 
 TEST_F(LeakTest, Animations) {

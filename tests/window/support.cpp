@@ -5,9 +5,10 @@
 namespace quillomat {
 namespace {
 
-std::wstring without_returns(std::wstring text) {
-    std::erase(text, L'\r');
-    return text;
+std::wstring message(const std::wstring& title, const std::wstring& text) {
+    std::wstring both = title + L": " + text;
+    std::erase(both, L'\r');
+    return both;
 }
 
 }  // namespace
@@ -26,9 +27,7 @@ WindowTest::~WindowTest() {
     set_animations(true);
     UnhookWindowsHookEx(hook_);
     running_ = nullptr;
-    for (const Announced& missing : announced_) {
-        ADD_FAILURE() << "the announced message never came: " << std::string(missing.text.begin(), missing.text.end());
-    }
+    EXPECT_TRUE(announced_.empty()) << "announced messages never came: " << ::testing::PrintToString(announced_);
 }
 
 LRESULT CALLBACK WindowTest::on_window_event(int code, WPARAM wparam, LPARAM lparam) {
@@ -38,23 +37,19 @@ LRESULT CALLBACK WindowTest::on_window_event(int code, WPARAM wparam, LPARAM lpa
     return CallNextHookEx(nullptr, code, wparam, lparam);
 }
 
-void WindowTest::expect_message(std::wstring title, std::wstring text, int button) {
-    announced_.push_back({std::move(title), std::move(text), button});
+void WindowTest::expect_message(const std::wstring& title, const std::wstring& text, int button) {
+    announced_.emplace_back(message(title, text), button);
 }
 
 void WindowTest::answer(HWND box) {
     EXPECT_EQ(forms_and_messages(TRUE, box), "") << "take input beside the message";
-    const std::wstring text = message_of(box);
-    int button = refusing_button(box);
-    if (announced_.empty()) {
-        ADD_FAILURE() << "a message nobody announced: " << std::string(text.begin(), text.end());
-    } else {
-        EXPECT_EQ(announced_.front().title, text_of(box));
-        EXPECT_EQ(without_returns(announced_.front().text), without_returns(text));
-        button = announced_.front().button;
-        announced_.erase(announced_.begin());
+    std::pair expected{std::wstring(L"no message"), refusing_button(box)};
+    if (!announced_.empty()) {
+        expected = announced_.front();
+        announced_.pop_front();
     }
-    answer_message(box, button);
+    EXPECT_EQ(message(text_of(box), message_of(box)), expected.first);
+    answer_message(box, expected.second);
 }
 
 bool WindowTest::pump_until(const std::function<bool()>& condition) {

@@ -36,7 +36,7 @@ struct WindowTest : ::testing::Test {
 
     /// Announces the next message box and how it is answered. One that comes unannounced, and one that was announced
     /// and does not come, fail the test.
-    void expect_message(std::wstring title, std::wstring text, int button = IDOK);
+    void expect_message(const std::wstring& title, const std::wstring& text, int button = IDOK);
 
     /// Handles messages until the condition holds; false when it does not within ten seconds.
     bool pump_until(const std::function<bool()>& condition);
@@ -77,19 +77,14 @@ struct WindowTest : ::testing::Test {
     Application application{L"Quillomat"};
 
   private:
-    struct Announced {
-        std::wstring title;
-        std::wstring text;
-        int button;
-    };
-
     static LRESULT CALLBACK on_window_event(int code, WPARAM wparam, LPARAM lparam);
     void answer(HWND box);
 
     static WindowTest* running_;
     static inline std::deque<WORD> menu_keys_;
     HHOOK hook_;
-    std::vector<Announced> announced_;
+    /// Title and text, and the button that answers.
+    std::deque<std::pair<std::wstring, int>> announced_;
 };
 
 }  // namespace quillomat
