@@ -153,9 +153,7 @@ void frmAddNew::show_help_box(std::size_t index, double x, double y) {
     const Button& button = *cmdButton[index];
     const bool flush_right = index == add_button && x >= most_centred;
     const double left = flush_right ? width() - Text3.width() : button.left() + x - Text3.width() / 2;
-    // At the outer edge, the end of the text would be under the window's frame.
-    const double last_left = inner_width() - Text3.width();
-    Text3.move({std::min(left, last_left), button.top() + y - 500, Text3.width(), Text3.height()});
+    place_help_box(Text3, left, button.top() + y - 500);
     Text3.set_visible(true);
 }
 
