@@ -1,4 +1,4 @@
-# Cross-builds for 64-bit Windows with Debian's mingw-w64 and runs what was built under Debian's Wine.
+# Cross-builds for 64-bit Windows with Debian's mingw-w64, and runs the programs under Debian's Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)

@@ -1,5 +1,5 @@
-# Leaves in QUILLOMAT_APP_DIR exactly what is handed out: copied anywhere, it runs. Only the presets that ship share
-# build/app; every other build has a folder of its own.
+# Copies the files of a release, and no others, to QUILLOMAT_APP_DIR, where the program runs. Only the presets for
+# releases share build/app; every other build has its own folder.
 set(app_folder ${QUILLOMAT_APP_DIR})
 add_custom_target(app ALL
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${app_folder}
