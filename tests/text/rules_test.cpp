@@ -8,7 +8,6 @@
 #include "text/mail_result.h"
 #include "text/numbers.h"
 #include "text/pointer_arithmetic.h"
-#include "text/question.h"
 #include "text/rounding.h"
 #include "text/shortened_name.h"
 #include "text/splash_animation.h"
@@ -76,18 +75,6 @@ TEST(WindowSize, IsLargeEnoughAtItsMinimumAtEveryDpi) {
             EXPECT_NE(corrected_size(actual, minimum, pixel), none) << dpi;
         }
     }
-}
-
-TEST(Question, IsAllWordsWithoutQuotationMarks) {
-    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
-        {L"", L""},
-        {L" \t\r\n", L""},
-        {L"\"\" \"", L""},
-        {L"  doom \t ii ", L"doom ii"},
-        {L"\"tomb raider\" ii", L"tomb raider ii"},
-        {L"\" doom\"\"ii \"", L"doomii"},
-    };
-    for (const auto& [arguments, question] : cases) EXPECT_EQ(question_of(arguments), question);
 }
 
 TEST(ShortenedName, LeavesOutTheMiddleOfANameThatHasNotEnoughRoom) {

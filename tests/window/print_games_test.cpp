@@ -9,46 +9,6 @@
 namespace quillomat {
 namespace {
 
-/// Wine: the default printer, for as long as the object lives, is a PostScript printer whose port is a file. Printing
-/// through it needs no print server.
-class FilePrinter {
-  public:
-    explicit FilePrinter(const std::filesystem::path& port) {
-        wchar_t folder[MAX_PATH];
-        DWORD needed = 0;
-        GetPrinterDriverDirectoryW(nullptr, nullptr, 1, reinterpret_cast<BYTE*>(folder), sizeof folder, &needed);
-        const std::filesystem::path place = std::filesystem::path(folder) / "3";
-        std::filesystem::create_directories(place);
-        write_bytes(place / "quillomat.ppd", description);
-        const auto text = [](const wchar_t* literal) { return const_cast<wchar_t*>(literal); };
-        DRIVER_INFO_2W driver{
-            3, text(L"Test"), text(L"Windows x64"), text(L"wineps.drv"), text(L"quillomat.ppd"), text(L"wineps.drv")};
-        AddPrinterDriverW(nullptr, 2, reinterpret_cast<BYTE*>(&driver));
-        PRINTER_INFO_2W printer{};
-        printer.pPrinterName = text(L"Test printer");
-        printer.pPortName = text(port.c_str());
-        printer.pDriverName = driver.pName;
-        printer.pPrintProcessor = text(L"WinPrint");
-        printer.pDatatype = text(L"RAW");
-        printer_ = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&printer));
-        SetDefaultPrinterW(printer.pPrinterName);
-    }
-    ~FilePrinter() {
-        DeletePrinter(printer_);
-        ClosePrinter(printer_);
-    }
-
-    bool installed() const { return printer_ != nullptr; }
-
-  private:
-    static constexpr char description[] =
-        "*PPD-Adobe: \"4.3\"\n*TTRasterizer: Type42\n*DefaultResolution: 600dpi\n"
-        "*DefaultPageSize: A4\n*PageSize A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
-        "*ImageableArea A4: \"18 18 577 824\"\n*PaperDimension A4: \"595 842\"\n";
-
-    HANDLE printer_ = nullptr;
-};
-
 struct PrintGamesTest : ShownViewerTest {
     void open(int games) {
         std::string database;
@@ -58,6 +18,34 @@ struct PrintGamesTest : ShownViewerTest {
         if (!viewer) open_viewer(database);
         session.open_printer = [this] { return std::make_unique<MetafilePrinter>(printed); };
         open_in(form, session, *link);
+    }
+    /// Wine: prints on a PostScript printer whose port is a file, which needs no print server. Returns false where
+    /// there is no such driver.
+    bool prints_to(const std::filesystem::path& port, const std::wstring& message = {}) {
+        wchar_t drivers[MAX_PATH];
+        DWORD needed = 0;
+        GetPrinterDriverDirectoryW(nullptr, nullptr, 1, reinterpret_cast<BYTE*>(drivers), sizeof drivers, &needed);
+        const std::filesystem::path description = std::filesystem::path(drivers) / "3" / "quillomat.ppd";
+        std::filesystem::create_directories(description.parent_path());
+        write_bytes(description,
+                    "*PPD-Adobe: \"4.3\"\n*DefaultPageSize: A4\n"
+                    "*PageSize A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
+                    "*ImageableArea A4: \"18 18 577 824\"\n*PaperDimension A4: \"595 842\"\n");
+        std::wstring name = L"Test printer", system = L"Windows x64", library = L"wineps.drv", data = L"quillomat.ppd",
+                     processor = L"WinPrint", port_name = port.wstring();
+        DRIVER_INFO_2W driver{3, name.data(), system.data(), library.data(), data.data(), library.data()};
+        AddPrinterDriverW(nullptr, 2, reinterpret_cast<BYTE*>(&driver));
+        PRINTER_INFO_2W printer{};
+        printer.pPrinterName = printer.pDriverName = name.data();
+        printer.pPortName = port_name.data();
+        printer.pPrintProcessor = processor.data();
+        const HANDLE added = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&printer));
+        if (!added) return false;
+        SetDefaultPrinterW(name.c_str());
+        if (!message.empty()) expect_message(L"Quillomat", message);
+        press(form->Command1);
+        DeletePrinter(added);
+        return ClosePrinter(added);
     }
 
     Printed printed;
@@ -100,18 +88,13 @@ TEST_F(PrintGamesTest, TheListGoesThroughThePrintingSystemOrTheUserIsToldWhyNot)
     expect_message(L"Quillomat",
                    L"No printer is set up. Install or choose a printer in the Windows settings and try again.");
     press(form->Command1);
-    {
-        const FilePrinter unreachable(folder.path() / "no such folder" / "out.ps");
-        if (!unreachable.installed()) GTEST_SKIP() << "only Wine has the driver";
-        expect_message(
-            L"Quillomat",
-            L"The document was not printed, or not all of it, because the printer \"Test printer\" could not "
-            L"be reached. Check that it is switched on and connected, and try again.");
-        press(form->Command1);
-        ASSERT_TRUE(form && !form->closed()) << "the user can try again";
+    if (!prints_to(folder.path() / "no such folder" / "out.ps",
+                   L"The document was not printed, or not all of it, because the printer \"Test printer\" could not "
+                   L"be reached. Check that it is switched on and connected, and try again.")) {
+        GTEST_SKIP() << "only Wine has the driver";
     }
-    const FilePrinter printer(folder.path() / "out.ps");
-    press(form->Command1);
+    ASSERT_TRUE(form && !form->closed()) << "the user can try again";
+    prints_to(folder.path() / "out.ps");
     ASSERT_SOON(!form);
     EXPECT_NE(bytes("out.ps").find("%%Pages: 3"), std::string::npos);
 }
