@@ -162,6 +162,9 @@ TEST_F(FormsTest, AClickOnAWaitingWindowBringsTheDialogToTheFront) {
         move_pointer(board.window(), 300, 300);
         click();
         EXPECT_SOON(GetWindow(dialog.window(), GW_HWNDNEXT) == board.window());
+        dialog.set_window_state(WindowState::Minimised);
+        board.bring_to_foreground();
+        EXPECT_EQ(dialog.window_state(), WindowState::Normal);
         dialog.close();
     };
     dialog.show_modal(nullptr);

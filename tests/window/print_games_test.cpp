@@ -32,13 +32,14 @@ struct PrintGamesTest : ShownViewerTest {
                     "*PageSize A4: \"<</PageSize [595 842]>> setpagedevice\"\n"
                     "*ImageableArea A4: \"18 18 577 824\"\n*PaperDimension A4: \"595 842\"\n");
         std::wstring name = L"Test printer", system = L"Windows x64", library = L"wineps.drv", data = L"quillomat.ppd",
-                     processor = L"WinPrint", port_name = port.wstring();
+                     processor = L"WinPrint", type = L"RAW", port_name = port.wstring();
         DRIVER_INFO_2W driver{3, name.data(), system.data(), library.data(), data.data(), library.data()};
         AddPrinterDriverW(nullptr, 2, reinterpret_cast<BYTE*>(&driver));
         PRINTER_INFO_2W printer{};
         printer.pPrinterName = printer.pDriverName = name.data();
         printer.pPortName = port_name.data();
         printer.pPrintProcessor = processor.data();
+        printer.pDatatype = type.data();
         const HANDLE added = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&printer));
         if (!added) return false;
         SetDefaultPrinterW(name.c_str());
@@ -60,11 +61,17 @@ TEST_F(PrintGamesTest, ARangeIsTypedCheckedPrintedAndRemembered) {
     for (const WORD key : std::initializer_list<WORD>{VK_TAB, '1', 'X', '8', VK_OEM_MINUS, VK_BACK, '2'})
         press_key(key);
     EXPECT_SOON(form->Text1.text() == L"12") << "digits and Backspace only";
-    for (const wchar_t* const last : {L"21", L"3"}) {
+    for (const auto& [first, last] : {std::pair{L"0", L"3"},
+                                      {L"5 pasted", L"4"},
+                                      {L"1", L""},
+                                      {L"1", L"21"},
+                                      {L"1", L"99999999999999999999999999"}}) {
+        form->Text1.set_text(first);
         form->Text2.set_text(last);
         expect_message(L"Error!", L"Please give a proper number ( 1 -20).");
         form->Command1.click();
     }
+    form->Text1.set_text(L" 012 pasted");
     form->Text1.set_focus();
     for (const WORD key : std::initializer_list<WORD>{VK_RETURN, '1', '3'}) press_key(key);
     EXPECT_SOON(form->Text2.text() == L"13" && form->Text3.text() == L"2");
@@ -75,7 +82,7 @@ TEST_F(PrintGamesTest, ARangeIsTypedCheckedPrintedAndRemembered) {
               (decltype(printed.pages){{L"List of Games", L"", L"Game 12", L"Game 13", L"", last_line}}));
 
     open(20);
-    EXPECT_EQ(form->Text1.text() + form->Text2.text(), L"1213");
+    EXPECT_EQ(form->Text1.text() + form->Text2.text(), L" 012 pasted13");
 }
 
 TEST_F(PrintGamesTest, TheListGoesThroughThePrintingSystemOrTheUserIsToldWhyNot) {

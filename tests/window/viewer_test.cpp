@@ -68,6 +68,7 @@ TEST_F(ViewerTest, AFailedLoadShowsWhyAndOffersNothing) {
     std::filesystem::remove(folder.path() / "Cheats.dat");
     expect_message(L"Error!", L"File not found\r\n" + (folder.path() / "Cheats.dat").wstring());
     open_viewer();
+    EXPECT_FALSE(exists("Cheats.dat")) << "reading makes no file";
     EXPECT_FALSE(viewer->Shape1.visible() || viewer->Label1[0].visible()) << "what has no meaning yet";
     EXPECT_FALSE(viewer->Image2[1].enabled() || viewer->menus.mnuSave.enabled() || viewer->Command1.enabled());
 }
@@ -75,8 +76,9 @@ TEST_F(ViewerTest, AFailedLoadShowsWhyAndOffersNothing) {
 TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
     open_viewer();
     viewer->List2.set_focus();
-    const std::tuple<WORD, WORD, int> cases[] = {
-        {VK_DOWN, VK_CONTROL, 4}, {VK_UP, VK_MENU, 3}, {VK_UP, VK_CONTROL, 0}, {VK_DOWN, VK_MENU, 2}};
+    const std::tuple<WORD, WORD, int> cases[] = {{VK_DOWN, VK_CONTROL, 4}, {VK_UP, VK_MENU, 3},
+                                                 {VK_UP, VK_MENU, 2},      {VK_UP, VK_MENU, 1},
+                                                 {VK_UP, VK_CONTROL, 0},   {VK_DOWN, VK_MENU, 2}};
     for (const auto& [key, held, selected] : cases) {
         press_key(key, {held});
         EXPECT_SOON(viewer->List2.selected_index() == selected);
@@ -212,7 +214,6 @@ TEST_F(ViewerTest, TheCheatTextCanBeMadeLarger) {
     for (int half_notch = 0; half_notch < 4; ++half_notch) {
         SendMessageW(viewer->Text1.window(), WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, WHEEL_DELTA / 2), 0);
     }
-    EXPECT_EQ(points(), usual + 3);
     close_viewer();
     open_viewer();
     EXPECT_EQ(points(), usual + 3) << "for as long as the program runs";

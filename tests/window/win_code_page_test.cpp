@@ -5,7 +5,6 @@
 #include <string>
 
 #include "text/error.h"
-#include "win/errors.h"
 
 namespace quillomat {
 namespace {
@@ -50,14 +49,6 @@ TEST(CodePage, TheFirstCharacterThatIsMissingIsNamed) {
             fault = error.description();
         }
         EXPECT_NE(fault.find(number), fault.npos) << testing::PrintToString(text);
-    }
-}
-
-TEST(SystemErrors, ACodeOfNoNumberOfOursKeepsTheSystemsSentenceIfThereIsOne) {
-    for (const DWORD code : {DWORD{ERROR_INVALID_NAME}, DWORD{ERROR_SUCCESS}, DWORD{0x2FFFFFFF}}) {
-        const Error error = error_from_code(code);
-        EXPECT_EQ(error.code(), ErrorCode::DeviceError);
-        EXPECT_EQ(error.description() == L"Device I/O error", code != ERROR_INVALID_NAME);
     }
 }
 
