@@ -19,7 +19,7 @@ void Button::notified(WORD code) {
 }
 
 bool Button::is_default() const {
-    // While any button has the focus, Enter presses that one.
+    // Enter presses a focused button instead of the default button.
     if (has_focus()) return true;
     const Control* focused = Control::from(GetFocus());
     return form().default_button() == this && !(focused && focused->is_button());
@@ -29,7 +29,8 @@ int Button::theme_state(bool pressed) const {
     if (!enabled()) return PBS_DISABLED;
     if (pressed) return PBS_PRESSED;
     if (hot_) return PBS_HOT;
-    return is_default() ? PBS_DEFAULTED : PBS_NORMAL;
+    if (is_default()) return PBS_DEFAULTED;
+    return PBS_NORMAL;
 }
 
 void Button::draw_face(HDC canvas, RECT& area, bool pressed) const {
@@ -52,7 +53,7 @@ void Button::draw_face(HDC canvas, RECT& area, bool pressed) const {
 
 COLORREF Button::caption_colour() const {
     if (!enabled()) return resolve(disabled_fore_colour_);
-    // A background whose colour runs through the rainbow must not swallow the caption.
+    // The caption must stay legible on a background that is animated through all colours.
     return legible(fore_colour(), back_colour());
 }
 
@@ -93,20 +94,20 @@ LRESULT Button::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             InvalidateRect(window(), nullptr, FALSE);
             break;
         case WM_LBUTTONDBLCLK:
-            // A fast second press is a press.
+            // The second press of a double-click is a press like any other.
             return Control::handle_message(WM_LBUTTONDOWN, wparam, lparam);
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
-            // The mark of the default button moves with the focus.
+            // Redraw the default button: it looks like one only while no other button has the focus.
             if (const Control* marked = form().default_button()) InvalidateRect(marked->window(), nullptr, FALSE);
             break;
         case WM_ERASEBKGND:
             return 1;
-        // What tells the dialog keys that an access key presses it.
         case WM_GETDLGCODE:
+            // IsDialogMessage presses a button of this code when its access key is typed.
             return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
         case BM_SETSTYLE:
-            // The dialog keys would turn it into a button that the system draws.
+            // IsDialogMessage would remove the owner-drawn style.
             return 0;
     }
     return Control::handle_message(message, wparam, lparam);

@@ -6,18 +6,18 @@
 
 namespace quillomat {
 
-/// A push button. It draws itself, because the system's own has neither a background colour nor an underlined caption
-/// that comes and goes.
+/// A push button. The button is owner-drawn, because a standard one cannot change its background colour or underline
+/// its caption.
 class Button : public Control {
   public:
     Button(Container& container, std::wstring_view caption, Bounds bounds);
 
-    /// The text on the button; "&" stands before the access key.
+    /// The caption; "&" marks the access key.
     std::wstring caption() const { return window_text(); }
     void set_caption(const std::wstring& caption);
-    /// The colour of the caption while the button is disabled: the system's grey unless it is set.
+    /// Sets the colour of the caption while the button is disabled; the default is the grey of Windows.
     void set_disabled_fore_colour(Colour colour) { disabled_fore_colour_ = colour; }
-    /// Does what a press of the button does.
+    /// Presses the button.
     void click() { raise(on_click); }
 
     bool is_button() const override { return true; }
@@ -26,7 +26,7 @@ class Button : public Control {
     void draw(const DRAWITEMSTRUCT& request) override;
 
   protected:
-    /// Whether the pointer is over it.
+    /// Whether the pointer is over the button.
     bool hot() const { return hot_; }
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 

@@ -36,10 +36,10 @@ void Frame::draw_background(HDC canvas, const RECT& client) {
 }
 
 LRESULT Frame::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
-    // The system's group box is transparent to the mouse and paints in steps; as a container it does neither.
+    // A standard group box is transparent to the mouse and paints in steps; a container must do neither.
     if (message == WM_NCHITTEST) return HTCLIENT;
     if (message == WM_ENABLE) {
-        // In the classic look it would paint itself at once.
+        // In the classic look, a standard group box would paint itself at once.
         InvalidateRect(window(), nullptr, FALSE);
         return 0;
     }

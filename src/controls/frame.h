@@ -5,11 +5,11 @@
 
 namespace quillomat {
 
-/// What is drawn around a frame.
+/// The border of a frame.
 enum class FrameBorder { None, Captioned };
 
-/// A group of items that moves and hides as one, with or without a frame and a caption around it. Its window is the
-/// system's group box, which tells screen readers what belongs together.
+/// A container within a form, with or without a border and caption. Its window is a standard group box, by which screen
+/// readers announce the group.
 class Frame : public Control, public Container {
   public:
     Frame(Container& container, std::wstring_view caption, Bounds bounds, FrameBorder border);

@@ -47,7 +47,8 @@ void Shape::draw(HDC canvas) const {
 
 void Line::draw(HDC canvas) const {
     RECT area = pixels();
-    DrawEdge(canvas, &area, EDGE_ETCHED, area.right - area.left >= area.bottom - area.top ? BF_TOP : BF_LEFT);
+    const bool is_horizontal = area.right - area.left >= area.bottom - area.top;
+    DrawEdge(canvas, &area, EDGE_ETCHED, is_horizontal ? BF_TOP : BF_LEFT);
 }
 
 }  // namespace quillomat

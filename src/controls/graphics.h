@@ -11,30 +11,31 @@
 
 namespace quillomat {
 
-/// Where the lines of a label stand between its edges.
+/// The alignment of a label's lines.
 enum class Alignment { Left, Centre, Right };
-/// Whether a label covers what lies behind it.
+/// Whether a label fills its background.
 enum class BackStyle { Transparent, Opaque };
 
-/// A painted text. Access keys and screen readers pass it by: the caption of an input is a `StaticLabel`.
+/// A painted text. It has no access key, and screen readers do not see it; use `StaticLabel` for the caption of an
+/// input.
 class Label : public Graphic {
   public:
     Label(Container& container, std::wstring caption, Bounds bounds)
         : Graphic(container, bounds), caption_(std::move(caption)) {}
 
-    /// The text; it breaks into lines at the width of the label.
+    /// The text, which breaks into lines at the width of the label.
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption) { change(caption_, std::move(caption)); }
     void set_alignment(Alignment alignment) { change(alignment_, alignment); }
     void set_back_style(BackStyle style) { change(back_style_, style); }
-    /// Shown by an opaque label only.
+    /// The background colour of an opaque label.
     Colour back_colour() const { return back_colour_; }
     void set_back_colour(Colour colour) { change(back_colour_, colour); }
     Colour fore_colour() const { return fore_colour_; }
     void set_fore_colour(Colour colour) { change(fore_colour_, colour); }
     const FontSpec& font() const { return font_; }
     void set_font(FontSpec font) { change(font_, std::move(font)); }
-    /// Makes the label as large as its caption.
+    /// Sizes the label to its caption, on one line.
     void fit_to_caption();
 
     void draw(HDC canvas) const override;
@@ -48,15 +49,15 @@ class Label : public Graphic {
     BackStyle back_style_ = BackStyle::Transparent;
 };
 
-/// What is drawn around an image.
+/// The border of an image.
 enum class ImageBorder { None, Single };
 
-/// A painted picture, by itself or pressed into a single-line border.
+/// A painted picture, with or without a sunken border.
 class Image : public Graphic {
   public:
     Image(Container& container, Picture picture, Bounds bounds) : Graphic(container, bounds), picture_(picture) {}
 
-    /// Draws the picture this large, in twips, in the middle of the image instead of filling it.
+    /// Draws the picture in this size, in twips, centred in the image. By default the picture fills the image.
     void set_picture_size(double twips) { change(picture_size_, twips); }
     ImageBorder border() const { return border_; }
     void set_border(ImageBorder border) { change(border_, border); }
@@ -69,13 +70,13 @@ class Image : public Graphic {
     ImageBorder border_ = ImageBorder::None;
 };
 
-/// A painted rectangle, or only its border. The mouse meets what lies behind it.
+/// A painted rectangle. Mouse events go to whatever lies behind it.
 class Shape : public Graphic {
   public:
     using Graphic::Graphic;
 
     void set_border_colour(Colour colour) { change(border_colour_, colour); }
-    /// Paints the inside too, which is transparent before.
+    /// Fills the inside, which is transparent by default.
     void set_fill_colour(Colour colour) { change(fill_colour_, std::optional(colour)); }
 
     void draw(HDC canvas) const override;
@@ -86,7 +87,7 @@ class Shape : public Graphic {
     std::optional<Colour> fill_colour_;
 };
 
-/// A painted straight line along the upper or left edge of its bounds. The mouse meets what lies behind it.
+/// A painted line along the top or left edge of its bounds. Mouse events go to whatever lies behind it.
 class Line : public Graphic {
   public:
     using Graphic::Graphic;

@@ -29,7 +29,7 @@ void ListBox::clear() {
 }
 
 void ListBox::add(std::wstring_view text) {
-    // Past the handlers, as in `item`, because windows add and read thousands of texts at once.
+    // Bypasses the handlers, like `item`, because windows add and read thousands of texts at once.
     if (default_message(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(displayable(text).c_str())) < 0) {
         throw Error(ErrorCode::OutOfMemory);
     }
@@ -61,7 +61,7 @@ std::wstring ListBox::text() const {
 }
 
 void ListBox::select_text(std::wstring_view text) {
-    // The system's own search ignores case and finds no empty text.
+    // LB_FINDSTRINGEXACT ignores case and does not find an empty text.
     const std::wstring wanted = displayable(text);
     const int items = count();
     for (int index = 0; index < items; ++index) {

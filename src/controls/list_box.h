@@ -8,18 +8,18 @@
 
 namespace quillomat {
 
-/// A list of texts, in the order they were added, of which one can be selected.
+/// A list of texts in the order of their addition. One text can be selected.
 class ListBox : public Control {
   public:
     ListBox(Container& container, Bounds bounds) : ListBox(container, bounds, 0) {}
 
-    /// How many texts there are.
+    /// Returns the number of texts.
     int count() const;
     /// Removes all texts.
     void clear();
-    /// Adds a text at the end. Throws `Error` with OutOfMemory when the list takes no more.
+    /// Appends a text. Throws `Error` with OutOfMemory if Windows has no memory for it.
     void add(std::wstring_view text);
-    /// Keeps the list from painting while many texts are added.
+    /// Suspends painting of the list during its lifetime, for adding many texts.
     class Filling {
       public:
         explicit Filling(ListBox& list);
@@ -31,29 +31,29 @@ class ListBox : public Control {
         ListBox& list_;
     };
 
-    /// The text at a position; empty where there is none.
+    /// Returns the text at a position; empty if there is none.
     std::wstring item(int index) const;
 
-    /// The position of the selected text, or nothing.
+    /// Returns the position of the selected text, or nothing.
     virtual std::optional<int> selected_index() const;
-    /// Selects the text at a position and raises the click. Throws `Error` with SubscriptOutOfRange when there is none.
+    /// Selects the text at a position and raises on_click. Throws `Error` with SubscriptOutOfRange if there is none.
     virtual void select_index(int index);
-    /// The selected text; empty when none is selected.
+    /// Returns the selected text; empty if none is selected.
     std::wstring text() const;
-    /// Selects the first text that equals this one to the letter, and raises the click; without one, nothing changes.
+    /// Selects the first text equal to `text`, case included, and raises on_click. Does nothing if there is none.
     void select_text(std::wstring_view text);
 
-    /// Scrolls the text at a position to the top, as far as the list goes.
+    /// Scrolls the text at a position to the top, as far as the list can scroll.
     void set_top_index(int index);
 
-    /// What the system says lies at a point in pixels: a position, with a flag above its 16 bits when the point lies
-    /// outside of the list's texts.
+    /// Returns the position of the text nearest to a point in pixels, with a flag above the lower 16 bits if the point
+    /// is outside of the list.
     int item_from_point(int x, int y) const;
 
     void notified(WORD code) override;
 
   protected:
-    /// A list of another style, such as one that draws its items itself.
+    /// For derived classes that need further styles, such as an owner-drawn list.
     ListBox(Container& container, Bounds bounds, DWORD further_style);
 };
 

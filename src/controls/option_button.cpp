@@ -6,11 +6,11 @@ namespace quillomat {
 
 OptionButton::OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group, Choice choice)
     : Control(container, bounds, L"BUTTON", caption,
-              // A group is one stop of the Tab key, at what is set; the system moves the stop with the choice.
+              // Tab stops at the set button of a group; Windows moves WS_TABSTOP when another one is set.
               BS_AUTORADIOBUTTON | (group == Group::Starts ? WS_GROUP : 0) |
                   (group == Group::Starts || choice == Choice::Set ? WS_TABSTOP : 0)),
       value_(choice == Choice::Set) {
-    // Now and not later: the system looks through all that stands on the container for the others of the group.
+    // Set it here, because setting it later makes Windows search all windows of the container for the group.
     if (value_) send(BM_SETCHECK, BST_CHECKED);
 }
 
@@ -19,7 +19,7 @@ void OptionButton::take_back_others() {
         auto* other = dynamic_cast<OptionButton*>(control);
         if (!other || other == this) continue;
         other->value_ = false;
-        // Also one that was not set: the first one is a stop of the Tab key until it is told that another one is.
+        // Clear even a clear button: this removes the WS_TABSTOP of the first one.
         other->send(BM_SETCHECK, BST_UNCHECKED);
     }
 }

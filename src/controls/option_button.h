@@ -4,21 +4,22 @@
 
 namespace quillomat {
 
-/// One of the choices of its container, of which at most one is set.
+/// An option button. At most one option button of a container is set.
 class OptionButton : public Control {
   public:
-    /// Whether an option is the first of its container.
+    /// Whether an option button is the first of its container.
     enum class Group { Starts, Continues };
-    /// Whether an option is the choice that is set at first.
+    /// Whether an option button is initially set.
     enum class Choice { Unset, Set };
 
-    /// The first option of a container starts the group that the arrow keys walk through.
+    /// The first option button of a container must start the group that arrow keys move in.
     OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group,
                  Choice choice = Choice::Unset);
 
-    /// Whether it is the choice that is set.
+    /// Whether the option button is set.
     bool value() const { return value_; }
-    /// Sets the choice and raises the click when it becomes set; the container's other choices are taken back.
+    /// Sets or clears the option button. Setting one that is clear clears all others of the container and raises
+    /// on_click.
     void set_value(bool value);
 
     void notified(WORD code) override;

@@ -11,7 +11,7 @@ void StaticLabel::set_caption(const std::wstring& caption) {
 
 void StaticLabel::apply_bounds() {
     Control::apply_bounds();
-    // Its lines may break elsewhere now, which the system does not think of.
+    // Lines may break elsewhere in the new size, but Windows repaints only the added area.
     InvalidateRect(window(), nullptr, TRUE);
 }
 

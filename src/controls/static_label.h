@@ -6,8 +6,8 @@
 
 namespace quillomat {
 
-/// The caption of the input made after it: screen readers name the input by it, and its access key moves the focus
-/// there. Without a size it names the input and shows nothing.
+/// The caption of the control constructed after it. Screen readers name the control by the caption, and the access key
+/// focuses the control. A label without a size only names the control.
 class StaticLabel : public Control {
   public:
     StaticLabel(Container& container, std::wstring_view caption, Bounds bounds);

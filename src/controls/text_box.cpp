@@ -8,19 +8,19 @@
 namespace quillomat {
 namespace {
 
-// The system's own limit of what can be typed is 32 K or 64 K characters.
+// The default limit for typed text is 32 K or 64 K characters.
 constexpr WPARAM no_limit = 0x7FFFFFFE;
 
-// Wine: the time to break one line grows with the square of its length; a line as long as this can still be shown at
-// once.
+// Wine: the time to break a line grows with the square of its length. A line of this length takes no noticeable time.
 constexpr std::size_t longest_broken_line = 20'000;
 
-// The largest size in which all help texts fit boxes of a given width, such as those of the viewer's image bar.
+// The largest size in which the help texts fit the boxes with a given width, such as those of the viewer's image bar.
 constexpr double help_points = 7.5;
 
 DWORD style_of(TextBoxKind kind, bool breaks_lines) {
     constexpr DWORD multi_line = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL | WS_TABSTOP | WS_GROUP;
-    const DWORD unbroken = breaks_lines ? 0 : ES_AUTOHSCROLL | WS_HSCROLL;
+    DWORD unbroken = 0;
+    if (!breaks_lines) unbroken = ES_AUTOHSCROLL | WS_HSCROLL;
     switch (kind) {
         case TextBoxKind::SingleLine:
             return ES_AUTOHSCROLL | WS_TABSTOP | WS_GROUP;
@@ -77,7 +77,7 @@ TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
 }
 
 void TextBox::set_text(std::wstring_view text) {
-    // The system reports a change by the program for some kinds of box and not for others; here it is always one event.
+    // Windows sends EN_CHANGE for SetWindowText to single-line boxes only. Every change raises one event here.
     program_changes_ = true;
     choose_line_breaks(text);
     SetWindowTextW(window(), displayable(text).c_str());
@@ -125,7 +125,7 @@ void TextBox::fit_width_to_text() {
     RECT inside{};
     send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
     const LONG frame = (area.right - area.left) - (inside.right - inside.left);
-    // One more pixel than the text, or the box scrolls to make room for the caret.
+    // One more pixel, or the box scrolls to make room for the caret.
     const LONG text_width = text_extent(form().application().fonts().get(font(), dpi()).get(), text()).cx + 1;
     set_width(to_twips(text_width + frame, dpi()));
 }
@@ -147,7 +147,7 @@ LRESULT TextBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             return result;
         }
         case WM_CHAR:
-            // A box for one line would beep: Enter and Escape have done their work when the key went down.
+            // Enter and Escape were handled as key presses. A single-line box would beep for their characters.
             if ((wparam == keys::enter || wparam == keys::escape) && kind_ != TextBoxKind::MultiLine &&
                 kind_ != TextBoxKind::Writing) {
                 CharacterEvent event{.character = static_cast<wchar_t>(wparam)};
@@ -156,7 +156,7 @@ LRESULT TextBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             }
             break;
         case WM_GETDLGCODE: {
-            // Unasked, a box for several lines takes itself for part of a dialog and closes its window on Escape.
+            // Hide the message from the box: a multi-line box that sees Escape here closes its parent like a dialog.
             LRESULT wanted = default_message(message, wparam, 0);
             if (kind_ == TextBoxKind::Reading || kind_ == TextBoxKind::Note) wanted &= ~DLGC_WANTALLKEYS;
             return wanted;

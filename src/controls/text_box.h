@@ -7,44 +7,44 @@
 
 namespace quillomat {
 
-/// What a text box is for.
+/// The purpose of a text box.
 enum class TextBoxKind {
     SingleLine,
-    /// Several lines to be edited; lines stay as long as they are.
+    /// Several lines for editing, without line breaks at the box's width.
     MultiLine,
-    /// Several lines to be written; lines that are not extremely long break at the box's width.
+    /// Several lines for writing. Lines break at the box's width, unless one is extremely long.
     Writing,
-    /// Several lines for reading only; lines that are not extremely long break at the box's width.
+    /// Several read-only lines. Lines break at the box's width, unless one is extremely long.
     Reading,
-    /// A few lines for reading only, all of them in sight.
+    /// A few read-only lines, without a scroll bar.
     Note,
-    /// One line that the program fills in and the user reads, and can copy.
+    /// One read-only line for a result, which the user can copy.
     Result,
-    /// A small box that shows a help text; it stands in front of other controls and has no place in the Tab order.
+    /// A small box for a help text, in front of other controls and without a tab stop.
     Help,
 };
 
-/// A box of text, of any length. Positions and lengths are in characters, lines end with CR LF.
+/// A text box without a length limit. Positions and lengths are in characters; lines end with CR LF.
 class TextBox : public Control {
   public:
     TextBox(Container& container, Bounds bounds, TextBoxKind kind = TextBoxKind::SingleLine);
 
-    /// The text has changed, by the user or by the program.
+    /// The user or the program has changed the text.
     std::function<void()> on_change;
 
     std::wstring text() const { return window_text(); }
-    /// Sets the text, in which a NUL becomes a blank, and raises the change.
+    /// Sets the text, with a blank for every NUL, and raises on_change.
     void set_text(std::wstring_view text);
     bool empty() const { return GetWindowTextLengthW(window()) == 0; }
 
-    /// What is selected; without a selection, where the caret is.
+    /// The selection, which is empty and at the caret if nothing is selected.
     std::size_t selection_start() const;
     std::size_t selection_length() const;
     std::wstring selected_text() const;
     /// Selects a range and scrolls it into view.
     void select(std::size_t start, std::size_t length);
 
-    /// Makes the box as wide as its text needs. For help boxes.
+    /// Sets the width that the text needs. For help boxes.
     void fit_width_to_text();
 
     void notified(WORD code) override;

@@ -18,7 +18,7 @@ Application::Application(std::wstring title) : title_(std::move(title)) {
 
 namespace {
 
-/// Waits for the next message of the thread; false for a request to quit.
+/// Waits for the next message. Returns false for a request to quit. Throws `Error` if GetMessage fails.
 bool next_message(MSG& message) {
     const BOOL result = GetMessageW(&message, nullptr, 0, 0);
     if (result < 0) throw_last_error();
@@ -29,8 +29,8 @@ bool is_keyboard_input(UINT message) {
     return message >= WM_KEYFIRST && message <= WM_KEYLAST;
 }
 
-/// True for the input of the user at a window that cannot be used, or could not a moment ago: a library that the work
-/// has called may have enabled the window.
+/// Returns true for keyboard and mouse input of a disabled window. Such input arrives if a library has enabled the
+/// window for a moment.
 bool is_stray_input(const MSG& message) {
     const bool is_input = is_keyboard_input(message.message) ||
                           (message.message > WM_MOUSEMOVE && message.message <= WM_MOUSELAST) ||
@@ -98,7 +98,7 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
     }
     if (quit) PostQuitMessage(*quit);
     others.end();
-    // The focus leaves a window that cannot be used.
+    // Windows takes the focus away from a window that is disabled.
     if (IsWindow(focused)) SetFocus(focused);
     if (result == WAIT_TIMEOUT) {
         worker.leave_alone();
@@ -110,9 +110,8 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
 
 void Application::close_all_forms() {
     for (const HWND window : thread_windows()) {
-        // What closes may take others with it.
-        Form* form = IsWindow(window) ? Form::from(window) : nullptr;
-        if (form) form->close();
+        // A form that closes destroys others with it; `Form::from` returns null for those.
+        if (Form* form = Form::from(window)) form->close();
     }
 }
 
@@ -133,8 +132,8 @@ void Application::quit() {
 
 void Application::dispatch(MSG& message) {
     if (is_second_press(message)) return;
-    Form* form = message.hwnd ? Form::from(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
-    // A window that waits for a dialog can still have the focus.
+    Form* form = Form::from(GetAncestor(message.hwnd, GA_ROOT));
+    // A window that is disabled by a dialog can still have the focus.
     const bool waits = form && !IsWindowEnabled(form->window()) && is_keyboard_input(message.message);
     if (!waits && !(form && form->internals().keyboard.translate(message))) {
         TranslateMessage(&message);

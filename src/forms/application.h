@@ -13,53 +13,53 @@ namespace quillomat {
 
 class Form;
 
-/// What all windows of the program share: its title, its fonts, and the message loop they live in. Owned by the entry
-/// and handed down.
+/// What all windows of the program share: its title, its fonts, and its message loop. main() owns it and passes it by
+/// reference.
 class Application {
   public:
-    /// `title` is that of its messages.
+    /// `title` is the title of message boxes.
     explicit Application(std::wstring title);
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
     const std::wstring& title() const { return title_; }
     FontCache& fonts() { return fonts_; }
-    /// Which windows the user can use.
+    /// Decides which windows the user can use.
     Modality& modality() { return modality_; }
-    /// What went wrong in handlers.
+    /// Reports exceptions that leave handlers.
     Faults& faults() { return faults_; }
-    /// The window whose handler is running, the innermost one; null between events.
+    /// The window whose handler is running, the innermost if they are nested; null between events.
     HWND handling() const { return handling_; }
 
-    /// Makes every window take `dpi` for its resolution instead of asking the system; 0 asks again. For tests.
+    /// Makes every window use `dpi` instead of asking Windows for its resolution; 0 asks again. For tests.
     void force_dpi(int dpi) { forced_dpi_ = dpi; }
-    /// The resolution that was forced; 0 for none.
+    /// The forced resolution; 0 for none.
     int forced_dpi() const { return forced_dpi_; }
 
-    /// Runs the windows until `quit` is called; the result is the program's exit code. Throws `Error` if the messages
+    /// Runs the message loop until `quit` is called and returns the program's exit code. Throws `Error` if messages
     /// cannot be read, as the other loops do.
     int run();
-    /// Runs the windows until `finished` holds. A request to quit ends it too and is passed on to the outer loop.
+    /// Runs the message loop until `finished` returns true. A request to quit ends this loop and all outer ones.
     void run_until(const std::function<bool()>& finished);
-    /// Handles the messages that wait now, so that a long task stays responsive.
+    /// Handles the messages in the queue, so that windows respond during a long task.
     void let_pending_events_run();
-    /// Drops the next mouse press if it turns the click being handled into a double-click. For a click that closes its
-    /// window: the second press would reach whatever has opened under the pointer.
+    /// Drops the next mouse press if it makes a double-click of the click being handled. For clicks that close their
+    /// window: the second press would reach the window that has opened under the pointer.
     void drop_second_press();
-    /// Runs `work` on a thread of its own and returns true when the work has ended. Meanwhile the windows repaint, but
-    /// none of them takes input, even if a library that the work calls enables one. The work must not touch a window.
-    /// Returns false after `milliseconds`, and the work then goes on by itself; and at once if a work is running
-    /// already. Rethrows the exception that leaves the work; throws `Error` with Crashed if the work crashes.
+    /// Runs `work` on a thread of its own and returns true once the work has ended. Meanwhile windows repaint but take
+    /// no input, even if a library called by the work enables one of them. The work must not touch any window.
+    /// Returns false after `milliseconds`; the work then continues in the background. Returns false at once if another
+    /// work is running. Rethrows exceptions that leave the work; throws `Error` with Crashed if the work crashes.
     bool run_without_blocking(std::function<void()> work, DWORD milliseconds = INFINITE);
-    /// Closes every form that is open, dialogs before the windows below them.
+    /// Closes every open form, dialogs before the windows below them.
     void close_all_forms();
     /// Ends the outermost `run`.
     void quit();
 
-    /// Shows the user the exception being handled, in a critical message box.
+    /// Shows the exception being handled in a critical message box.
     void report_current_exception();
 
-    /// Marks a window's handler as running for as long as it lives. For the toolkit.
+    /// Marks a window's handler as running during the lifetime of this object. For the toolkit.
     class Handling {
       public:
         Handling(Application& application, HWND window)
@@ -83,7 +83,7 @@ class Application {
     Faults faults_{*this};
     HWND handling_ = nullptr;
     int forced_dpi_ = 0;
-    bool working_ = false;              // by `run_without_blocking`
+    bool working_ = false;              // during `run_without_blocking`
     std::optional<DWORD> first_click_;  // the time of the click whose second press is dropped
 };
 

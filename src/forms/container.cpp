@@ -17,7 +17,7 @@ Modifiers current_modifiers() {
 
 namespace {
 
-/// Returns the button that a message is about, or for a movement, the one held down.
+/// Returns the button of a press or release, or the button that is held during a move.
 MouseButton button_of(UINT message, WPARAM held) {
     struct Messages {
         MouseButton button;
@@ -31,7 +31,9 @@ MouseButton button_of(UINT message, WPARAM held) {
         {MouseButton::Middle, WM_MBUTTONDOWN, WM_MBUTTONDBLCLK, MK_MBUTTON},
     };
     for (const auto& [button, first, last, mask] : buttons) {
-        if (message == WM_MOUSEMOVE ? (held & mask) != 0 : message >= first && message <= last) return button;
+        const bool is_press_or_release = message >= first && message <= last;
+        const bool is_held_in_move = message == WM_MOUSEMOVE && (held & mask);
+        if (is_press_or_release || is_held_in_move) return button;
     }
     return MouseButton::None;
 }
@@ -90,7 +92,8 @@ Graphic* Container::graphic_at(POINT point) const {
         return graphic->visible() && graphic->enabled() && graphic->takes_mouse() &&
                PtInRect(&graphic->pixels(), point);
     });
-    return hit == graphics_.rend() ? nullptr : *hit;
+    if (hit == graphics_.rend()) return nullptr;
+    return *hit;
 }
 
 std::optional<LRESULT> Container::handle_mouse(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -116,13 +119,13 @@ std::optional<LRESULT> Container::handle_mouse(UINT message, WPARAM wparam, LPAR
             raise(target->on_mouse_down, event);
             break;
         case WM_LBUTTONDBLCLK:
-            // The second press of a double-click is a double-click instead of a press; its release is a release.
+            // The second press of a double-click raises on_double_click instead of on_mouse_down, but needs a release.
             press(*target, origin);
             double_clicked_ = true;
             raise(target->on_double_click);
             break;
         default: {
-            // A button that went down elsewhere, on a menu for example, is not released here.
+            // Ignore the release of a button that was pressed elsewhere, on a menu for example.
             if (presses_ == 0) break;
             const bool clicked = message == WM_LBUTTONUP && !std::exchange(double_clicked_, false);
             release(event, wparam);
@@ -134,16 +137,16 @@ std::optional<LRESULT> Container::handle_mouse(UINT message, WPARAM wparam, LPAR
 }
 
 void Container::press(MouseEvents& target, POINT origin) {
-    // Until the release all movements belong to what was pressed, also outside of it.
+    // While a button is held, all mouse moves go to the item that was pressed, even outside its bounds.
     pressed_ = &target;
     pressed_origin_ = origin;
-    // Capturing the mouse once more would look as if it was taken away.
+    // Calling SetCapture again would send WM_CAPTURECHANGED, which means losing the mouse.
     if (presses_++ == 0) SetCapture(window());
 }
 
 void Container::release(const MouseEvent& event, WPARAM buttons_held) {
     MouseEvents& target = *pressed_;
-    // With no button down any more, no press is left without its release.
+    // The last release ends every press, so that each on_mouse_down gets its on_mouse_up.
     const int releases = buttons_held & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON) ? 1 : presses_;
     presses_ -= releases;
     if (presses_ == 0) {
@@ -154,7 +157,7 @@ void Container::release(const MouseEvent& event, WPARAM buttons_held) {
 }
 
 void Container::release_all() {
-    // Another window has taken the mouse away; what looks pressed is let go, as its release will not be heard of.
+    // Another window has captured the mouse, so the release will not arrive here.
     double_clicked_ = false;
     while (presses_ > 0) {
         MouseEvents& target = *pressed_;
@@ -189,7 +192,7 @@ std::optional<LRESULT> Container::handle_container_message(UINT message, WPARAM 
             return 0;
         case WM_SYSCOLORCHANGE:
         case WM_THEMECHANGED:
-            // The system tells top-level windows only. A frame passes it on to the controls on it.
+            // Windows sends these messages to top-level windows only. Frames forward them to their own controls.
             for (const Control* control : controls_) SendMessageW(control->window(), message, wparam, lparam);
             InvalidateRect(window(), nullptr, TRUE);
             break;

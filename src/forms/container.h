@@ -13,8 +13,8 @@ class Control;
 class Form;
 class Graphic;
 
-/// A window that items stand on. It paints its graphics in one pass that does not flicker, gives them their mouse
-/// events, and passes the messages of its controls on to them.
+/// A window that contains items. A container paints its graphics in one double-buffered pass, raises their mouse
+/// events, and forwards the notifications of its controls.
 class Container {
   public:
     Container() = default;
@@ -22,18 +22,18 @@ class Container {
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
 
-    /// The system's window; null once it has gone.
+    /// The window handle; null once the window has been destroyed.
     virtual HWND window() const = 0;
-    /// The form that it is, or that it stands on.
+    /// The form that contains this container, or the container itself if it is a form.
     virtual Form& owner_form() = 0;
 
-    /// What lies under all items.
+    /// The colour behind all items.
     Colour back_colour() const { return back_colour_; }
     void set_back_colour(Colour colour);
 
-    /// Items in the order they were made, which is the order of the Tab key. For the toolkit.
+    /// The controls in the order of their construction, which is the Tab order. For the toolkit.
     const std::vector<Control*>& controls() const { return controls_; }
-    /// The painted items, the backmost first. For the toolkit and its tests.
+    /// The graphics from back to front. For the toolkit and its tests.
     const std::vector<Graphic*>& graphics() const { return graphics_; }
     void add(Control& control) { controls_.push_back(&control); }
     void remove(Control& control) { std::erase(controls_, &control); }
@@ -42,14 +42,14 @@ class Container {
     void bring_to_front(Graphic& graphic);
 
   protected:
-    /// The events of the container's own surface.
+    /// The mouse events of the container itself, where no graphic is hit.
     virtual MouseEvents& surface() = 0;
-    /// Draws what lies under the graphics.
+    /// Draws the background behind the graphics.
     virtual void draw_background(HDC canvas, const RECT& client);
 
-    /// Handles what every container handles alike; nothing when the message is none of these.
+    /// Handles the messages that all containers handle in the same way. Returns nothing for any other message.
     std::optional<LRESULT> handle_container_message(UINT message, WPARAM wparam, LPARAM lparam);
-    /// Has all items take over a new resolution.
+    /// Tells all items that the resolution has changed.
     void items_resolution_changed();
 
   private:
@@ -66,14 +66,14 @@ class Container {
     std::vector<Graphic*> graphics_;
     MouseEvents* pressed_ = nullptr;
     POINT pressed_origin_{};
-    int presses_ = 0;  // without their release
+    int presses_ = 0;  // mouse buttons that are down
     bool double_clicked_ = false;
 };
 
-/// The mouse event of a message whose position is in pixels from `origin`.
+/// Returns the event of a mouse message, with the position relative to `origin`, which is in pixels.
 MouseEvent to_mouse_event(UINT message, WPARAM wparam, LPARAM lparam, POINT origin, int dpi);
 
-/// The Shift, Ctrl and Alt keys as they are now.
+/// Returns the state of the Shift, Ctrl and Alt keys at the time of the message being handled.
 Modifiers current_modifiers();
 
 }  // namespace quillomat

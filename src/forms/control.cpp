@@ -11,7 +11,7 @@
 namespace quillomat {
 namespace {
 
-// Leads from a window to its control, and from any other window to none.
+// The window property that holds the Control.
 constexpr wchar_t control_property[] = L"QuillomatControl";
 
 }  // namespace
@@ -30,7 +30,7 @@ Control::~Control() {
 
 void Control::destroy_window() {
     if (!window_) return;
-    // The handlers may be gone already, so nothing that the destruction sends is an event.
+    // Handlers may be destroyed already, so no message that DestroyWindow sends must raise an event.
     SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_procedure_));
     RemovePropW(window_, control_property);
     DestroyWindow(std::exchange(window_, nullptr));
@@ -40,7 +40,7 @@ void Control::create_window(std::wstring_view text, DWORD style) {
     const std::wstring caption(text);
     const RECT area = pixel_bounds();
     const UINT_PTR id = form().internals().next_control_id++;
-    // Siblings overlap (help boxes, sliding panels), so each must leave alone what lies in front of it.
+    // Siblings overlap (help boxes, sliding panels); a control must not draw over those in front of it.
     window_ = CreateWindowExW(extended_style_, system_class_, caption.c_str(),
                               style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, area.left, area.top,
                               area.right - area.left, area.bottom - area.top, container().window(),
@@ -48,15 +48,15 @@ void Control::create_window(std::wstring_view text, DWORD style) {
     if (!window_) throw_last_error();
     SetPropW(window_, control_property, this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    // Wine: SetWindowSubclass looks its chain up for every message, so that listing 2,368 games took 190 ms instead of
-    // the 13 ms that it takes this way.
+    // Wine: SetWindowSubclass looks its chain up for every message, so that listing 2,368 games took 190 ms; replacing
+    // the window procedure takes 13 ms.
     system_procedure_ =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     apply_font();
 }
 
 void Control::recreate(DWORD style) {
-    // The order of the windows is kept, as screen readers go by it.
+    // The new window takes the z-order of the old one, which screen readers read by.
     const HWND above = GetWindow(window_, GW_HWNDPREV);
     const bool focused = has_focus();
     const HWND former = window_;
@@ -77,7 +77,7 @@ void Control::recreate(DWORD style) {
 
 Control* Control::from(HWND window) {
     if (HANDLE control = GetPropW(window, control_property)) return static_cast<Control*>(control);
-    // A part that the system made for a control, such as the field of a combo box, belongs to the control.
+    // A child window created by Windows, such as the edit field of a combo box, belongs to the control.
     return static_cast<Control*>(GetPropW(GetParent(window), control_property));
 }
 
@@ -143,7 +143,8 @@ void Control::set_focus() {
 }
 
 Colour Control::back_colour() const {
-    return back_colour_ ? *back_colour_ : container().back_colour();
+    if (back_colour_) return *back_colour_;
+    return container().back_colour();
 }
 
 void Control::set_back_colour(Colour colour) {
@@ -181,7 +182,7 @@ void Control::set_underlined(bool underlined) {
 void Control::apply_font() {
     Font font = form().application().fonts().get(font_, dpi());
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
-    // The former one is in use until here.
+    // The window has used the former font until now.
     system_font_ = std::move(font);
 }
 
@@ -192,8 +193,8 @@ void Control::set_tool_tip(std::wstring text) {
 }
 
 void Control::set_spoken_name(const std::wstring& name) {
-    // Screen readers take a control's name from the static text right before it in z-order. The text takes no room, and
-    // starts a group, so that the arrow keys do not walk to it from the options before it.
+    // Screen readers name a control by the static text before it in z-order. That text has no size and starts a group,
+    // so that arrow keys do not reach it from the option buttons before it.
     if (!name_window_) {
         name_window_ = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | WS_GROUP, 0, 0, 0, 0,
                                        container().window(), nullptr, GetModuleHandleW(nullptr), nullptr);

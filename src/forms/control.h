@@ -11,78 +11,76 @@
 
 namespace quillomat {
 
-/// An item with a window of its own: what the user types into, chooses from or presses. The window is one of the
-/// system's controls, so that screen readers and automation know it.
+/// An item with a window of its own, for keyboard input. The window is a standard control of Windows, so that screen
+/// readers and automation can use it.
 ///
-/// A change made by the program raises the same event as one made by the user.
+/// A change by the program raises the same event as a change by the user.
 class Control : public Item {
   public:
     ~Control() override;
 
-    /// The control has got the focus, by the user or by the program.
+    /// The control has received the focus, by the user or by the program.
     std::function<void()> on_got_focus;
-    /// A key goes down while the control has the focus.
+    /// A key is pressed while the control has the focus.
     std::function<void(KeyEvent&)> on_key_down;
-    /// A key that goes down, before `on_key_down`: for the shortcuts that an object beside the form gives the control.
+    /// Raised before `on_key_down`, for shortcuts added to the control by another object than its form.
     std::function<void(KeyEvent&)> on_shortcut_key;
     /// A character is about to be typed into the control.
     std::function<void(CharacterEvent&)> on_key_press;
 
-    /// The system's window. It can be another one later: see `recreate`.
+    /// The window handle. It changes when the window is recreated.
     HWND window() const { return window_; }
 
-    /// Gives it the focus, at once or when the form is first shown.
+    /// Gives the control the focus, at once or when the form is first shown.
     void set_focus();
     bool has_focus() const { return from(GetFocus()) == this; }
 
-    /// The colour behind the text (the container's own until one is set) and that of the text, which is made legible
-    /// where the two are too much alike.
+    /// The colours of the background (by default the container's) and of the text. The text is drawn in another colour
+    /// if the contrast between the two is too low.
     Colour back_colour() const;
     void set_back_colour(Colour colour);
     Colour fore_colour() const { return fore_colour_; }
     void set_fore_colour(Colour colour);
 
-    /// The font of the text.
     const FontSpec& font() const { return font_; }
     void set_font(FontSpec font);
     void set_underlined(bool underlined);
 
-    /// The one-line text shown while the pointer rests on the control; an empty one shows none.
+    /// The text of the tool tip; empty for no tool tip.
     const std::wstring& tool_tip() const { return tool_tip_; }
     void set_tool_tip(std::wstring text);
 
-    /// What screen readers call it, for a control that has no caption standing before it.
+    /// Sets the name by which screen readers announce a control that has no caption before it.
     void set_spoken_name(const std::wstring& name);
 
     void bring_to_front() override;
     void resolution_changed() override;
 
-    /// The control of a window or of one of the parts the system made for it, or null.
+    /// Returns the control of a window or of a child window that Windows has created in it; null if there is none.
     static Control* from(HWND window);
 
-    // What the container passes on from the control's window.
-    /// The window reports something that happened to it, by its notification code.
+    // The container forwards these from the control's window.
+    /// Handles a notification, given by its code.
     virtual void notified(WORD /*code*/) {}
-    /// Sets the colours its text is drawn with; returns the brush for the rest.
+    /// Sets the text colours of `canvas` and returns the brush for the background.
     virtual HBRUSH prepare_colours(HDC canvas);
     /// Draws an owner-drawn control.
     virtual void draw(const DRAWITEMSTRUCT& /*request*/) {}
 
-    /// Raises the key event, before the dialog keys are looked at; true if a handler kept the key.
+    /// Raises the key events before dialog keys are handled. Returns true if a handler has handled the key.
     bool raise_key_down(int key);
 
-    /// True for a push button: Enter presses it while it has the focus.
+    /// Returns true for a push button, which Enter presses while the button has the focus.
     virtual bool is_button() const { return false; }
-    /// Does what a press of the button does.
+    /// Presses the control, if it is a push button.
     virtual void press() {}
 
   protected:
-    /// Creates the window; to be called by the constructor of the kind of control.
+    /// Creates the window. Throws `Error` if Windows cannot create it.
     Control(Container& container, Bounds bounds, const wchar_t* system_class, std::wstring_view text, DWORD style,
             DWORD extended_style = 0);
 
-    /// Puts a new, empty window of another style in the place of the control's window: some styles of the system's
-    /// controls cannot be changed.
+    /// Replaces the control's window by an empty one of another style, for styles that Windows reads at creation only.
     void recreate(DWORD style);
 
     /// The control's window procedure.
@@ -90,9 +88,9 @@ class Control : public Item {
     LRESULT default_message(UINT message, WPARAM wparam, LPARAM lparam) const;
     LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const;
 
-    /// The text that the system's window holds.
+    /// Returns the text of the window.
     std::wstring window_text() const;
-    /// The text as the system's controls can hold it: they would end it at its first NUL, so a NUL becomes a blank.
+    /// Returns `text` with a blank for every NUL, because a control would cut the text off at the first NUL.
     static std::wstring displayable(std::wstring_view text);
 
     void set_default_back_colour(Colour colour) { back_colour_ = colour; }
@@ -114,7 +112,7 @@ class Control : public Item {
     std::optional<Colour> back_colour_;
     Colour fore_colour_ = colours::window_text;
     FontSpec font_;
-    Font system_font_;  ///< what the window draws with
+    Font system_font_;  // the window draws with it
     std::wstring tool_tip_;
     HWND name_window_ = nullptr;  // destroyed with the container's window
 };

@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// A mouse button; for a movement, the one held down.
+/// A mouse button; in a move, the button that is held.
 enum class MouseButton { None, Left, Right, Middle };
 
 /// The Shift, Ctrl and Alt keys held down during an event.
@@ -17,7 +17,7 @@ struct Modifiers {
     bool only_alt() const { return alt && !shift && !control; }
 };
 
-/// A press, release or movement of the mouse. The position is in twips from the item's left and top.
+/// A press, release or move of the mouse. The position is in twips from the item's left and top.
 struct MouseEvent {
     MouseButton button = MouseButton::None;
     Modifiers modifiers;
@@ -25,7 +25,7 @@ struct MouseEvent {
     double y = 0;
 };
 
-/// Codes of the keys that windows of the program answer to.
+/// The virtual-key codes that the windows handle.
 namespace keys {
 inline constexpr int enter = 13;
 inline constexpr int escape = 27;
@@ -37,14 +37,14 @@ inline constexpr int f1 = 112;
 inline constexpr int f10 = 121;
 }  // namespace keys
 
-/// A key that goes down. A handler that sets `handled` keeps it from the control and from the dialog keys.
+/// A key press. A handler that sets `handled` keeps the key from the control and from dialog handling.
 struct KeyEvent {
     int key = 0;
     Modifiers modifiers;
     bool handled = false;
 };
 
-/// A character about to be typed. A handler that sets `handled` keeps it from the control.
+/// A typed character. A handler that sets `handled` keeps the character from the control.
 struct CharacterEvent {
     wchar_t character = 0;
     bool handled = false;
@@ -56,7 +56,7 @@ void raise(const std::function<void(Arguments...)>& handler, Values&&... values)
     if (handler) handler(values...);
 }
 
-/// The mouse events that every item and every form has.
+/// The mouse events of items and forms.
 struct MouseEvents {
     std::function<void(const MouseEvent&)> on_mouse_down;
     std::function<void(const MouseEvent&)> on_mouse_move;

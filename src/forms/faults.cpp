@@ -9,7 +9,7 @@
 namespace quillomat {
 namespace {
 
-/// Returns the description of the exception being handled, or an empty string if it is none to report.
+/// Returns the description of the exception being handled, or an empty string if it need not be reported.
 std::wstring current_description() {
     try {
         throw;
@@ -33,10 +33,10 @@ void Faults::note_current_exception(HWND window, Occasion occasion) noexcept {
         std::wstring description = current_description();
         if (!description.empty()) note(window, std::move(description), occasion);
     } catch (...) {
-        // Not even the description found memory.
+        // There was no memory for the description.
         could_not_note_ = true;
     }
-    // A handler that was called by a sent message does not end the wait of the message loop.
+    // Wakes the message loop: a handler called by a sent message does not end its wait.
     PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
@@ -48,7 +48,7 @@ void Faults::note(HWND window, std::wstring description, Occasion occasion) {
 void Faults::report() {
     if (std::exchange(could_not_note_, false)) noted_.push_back({nullptr, Error(ErrorCode::OutOfMemory).description()});
     while (!noted_.empty()) {
-        // Another one may be noted while the message is up.
+        // Another exception may be recorded while the message box is shown.
         const Fault fault = std::move(noted_.front());
         noted_.erase(noted_.begin());
         show_message(application_, fault.window,

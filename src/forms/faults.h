@@ -11,28 +11,27 @@ namespace quillomat {
 
 class Application;
 
-/// What a handler was running for when it failed.
+/// Why a handler was running when it failed.
 enum class Occasion {
-    /// Something the user did: each failure is reported.
+    /// For an action of the user: every failure is reported.
     Action,
-    /// Painting or a timer, which would fail again and again: a window's failure is reported once.
+    /// For painting or a timer, which would fail again and again: the failure is reported once per window.
     Repeating,
 };
 
-/// Reports exceptions that left a handler, in critical message boxes with their descriptions. They are noted when they
-/// are caught and reported later, from the message loop, so that no message box opens in the middle of painting.
+/// Reports exceptions that leave a handler in critical message boxes. Exceptions are recorded when they are caught and
+/// reported by the message loop, so that no message box opens during painting.
 class Faults {
   public:
     explicit Faults(Application& application) : application_(application) {}
     Faults(const Faults&) = delete;
     Faults& operator=(const Faults&) = delete;
 
-    /// Notes the exception being handled, which came from a handler of `window`. One that says that the user cancelled
-    /// is no fault.
+    /// Records the exception being handled, which has left a handler of `window`. An `Error` with Cancelled is ignored.
     void note_current_exception(HWND window, Occasion occasion) noexcept;
-    /// Reports what was noted; for the message loop.
+    /// Shows the recorded exceptions. For the message loop.
     void report();
-    /// A window is being destroyed: what its successor with the same handle does is reported again.
+    /// Forgets a window that is being destroyed, because Windows may reuse its handle.
     void forget(HWND window);
 
   private:
@@ -44,7 +43,7 @@ class Faults {
 
     Application& application_;
     std::vector<Fault> noted_;
-    std::set<std::pair<HWND, std::wstring>> repeating_;  // noted once, not to be noted again
+    std::set<std::pair<HWND, std::wstring>> repeating_;  // not to be recorded again
     bool could_not_note_ = false;
 };
 

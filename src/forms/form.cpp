@@ -67,7 +67,7 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     description.lpfnWndProc = procedure;
     description.hInstance = program;
     description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(application_icon));
-    // The one drawn for this size; else the system makes one out of the large one, and takes its time.
+    // Without an icon drawn for this size, Windows would scale the large one, which looks worse and is slow.
     description.hIconSm =
         static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(application_icon), IMAGE_ICON,
                                       GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
@@ -76,15 +76,15 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     if (!RegisterClassExW(&description)) throw_last_error();
 }
 
-/// Ends a menu that is open, or a window being moved by keyboard. A window that closes meanwhile is hidden, so the keys
-/// that end those loops no longer reach it.
+/// Closes an open menu and stops moving a window by keyboard. Keys that end these modal loops of Windows would not
+/// reach a window hidden by closing.
 void leave_system_loops() {
     EndMenu();
     GUITHREADINFO state{};
     state.cbSize = sizeof state;
     if (!GetGUIThreadInfo(GetCurrentThreadId(), &state) || !(state.flags & GUI_INMOVESIZE)) return;
     SendMessageW(state.hwndMoveSize, WM_CANCELMODE, 0, 0);
-    // Wine: moving goes on until the next Escape all the same.
+    // Wine: WM_CANCELMODE does not stop moving; the next Escape does.
     PostMessageW(state.hwndMoveSize, WM_KEYDOWN, VK_ESCAPE, 0);
 }
 
@@ -106,7 +106,7 @@ Form::Form(Application& application, const FormDesign& design)
 
 Form::~Form() {
     if (!window_) return;
-    // From here on the window has no object behind it: nothing that its destruction sends reaches a handler.
+    // Without the pointer to the form, no message that DestroyWindow sends reaches a handler.
     SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
     const HWND window = window_;
     forget_window();
@@ -140,7 +140,7 @@ LRESULT Form::window_destroyed(Form& form, HWND window, WPARAM wparam, LPARAM lp
     if (const HWND owner = GetWindow(window, GW_OWNER)) PostMessageW(owner, destroy_message, 0, 0);
     SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     form.forget_window();
-    // The handler may destroy the form, itself included, so it is moved out of it first.
+    // The handler may destroy the form and with it the handler itself, so the handler is moved out first.
     Application& application = form.application_;
     const auto on_closed = std::move(form.on_closed);
     const LRESULT result = DefWindowProcW(window, WM_NCDESTROY, wparam, lparam);
@@ -180,15 +180,15 @@ void Form::destroy_when_idle() {
     } catch (...) {
         application_.faults().note_current_exception(window_, Occasion::Repeating);
     }
-    // The system destroys owned windows first, and one of those may not be idle.
+    // DestroyWindow destroys owned windows first, and a handler of one of those may be running.
     if (!owns_forms) DestroyWindow(window_);
 }
 
 std::vector<Form*> Form::owned_forms() const {
     std::vector<Form*> forms;
     for (const HWND window : thread_windows()) {
-        Form* form = GetWindow(window, GW_OWNER) == window_ ? Form::from(window) : nullptr;
-        if (form) forms.push_back(form);
+        if (GetWindow(window, GW_OWNER) != window_) continue;
+        if (Form* form = Form::from(window)) forms.push_back(form);
     }
     return forms;
 }
@@ -203,7 +203,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             if (closed_) return 0;
             break;
         case WM_DESTROY:
-            // The bar belongs to its MenuBar; Windows would destroy it with the window.
+            // MenuBar owns the menu bar; Windows would destroy an attached one with the window.
             SetMenu(window_, nullptr);
             break;
         case WM_ENDSESSION:
@@ -228,11 +228,11 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             internals_.commands.opens(reinterpret_cast<HMENU>(wparam));
             return 0;
         case WM_ACTIVATE:
-            // A window that is being minimised has lost the focus already; where it was counts when it comes back.
+            // A window that is being minimised has lost the focus already, which must not overwrite the remembered one.
             if (LOWORD(wparam) == WA_INACTIVE) internals_.keyboard.remember_focus();
             break;
         case WM_NEXTDLGCTL:
-            // The access key of a caption gives that the focus, and then asks for the next control.
+            // For an access key, Windows asks to focus the caption, and then the control after it.
             if (LOWORD(lparam)) {
                 SetFocus(reinterpret_cast<HWND>(wparam));
             } else {
@@ -243,7 +243,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             internals_.keyboard.restore_focus();
             return 0;
         case WM_SETCURSOR:
-            // A press on a window that waits: what it waits for may be hidden behind it.
+            // A press on a disabled window: the dialog it waits for may be hidden behind it.
             if (LOWORD(lparam) == static_cast<WORD>(HTERROR) && is_button_press(HIWORD(lparam))) {
                 beep();
                 bring_to_foreground();
@@ -282,11 +282,11 @@ void Form::show() {
         DrawMenuBar(window_);
         place_on_screen();
     }
-    // The layout that comes first is still that of the normal state.
+    // `resized` resets `state_` to Normal, because the window is neither minimised nor maximised yet.
     const WindowState state = state_;
     if (!shown_) {
         shown_ = true;
-        // Focus frames and underlined access keys show as the user's settings and the last input ask for.
+        // Shows or hides focus frames and underlined access keys by the user's settings and the last input.
         SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
         resized();
     }
@@ -302,7 +302,8 @@ void Form::set_owner(const Form& owner) {
 void Form::show_modal(Form* owner) {
     modal_ = true;
     if (owner) set_owner(*owner);
-    const HWND opener = owner ? owner->window_ : application_.handling();
+    HWND opener = application_.handling();
+    if (owner) opener = owner->window_;
     application_.modality().let_through(window_);
     {
         ModalScope modal(application_, window_);
@@ -317,7 +318,7 @@ void Form::close() {
     if (std::exchange(closed_, true)) return;
     leave_system_loops();
     for (Form* form : owned_forms()) form->close();
-    // A session can end while a message of the load is up. What has not been read yet must not be saved.
+    // A session can end while `on_load` shows a message. Settings that have not been read yet must not be saved.
     if (!loading_) {
         guarded([this] {
             raise(on_unload);
@@ -325,7 +326,7 @@ void Form::close() {
         });
     }
     for (Timer* timer : internals_.timers) timer->set_enabled(false);
-    // A dialog is hidden by its modal loop, after its owner can be activated again.
+    // The modal loop hides a dialog once the owner is enabled again and can be activated.
     if (!modal_) ShowWindow(window_, SW_HIDE);
     PostMessageW(window_, destroy_message, 0, 0);
 }
@@ -339,7 +340,8 @@ void Form::set_caption(std::wstring caption) {
 WindowState Form::window_state() const {
     if (!shown_) return state_;
     if (IsIconic(window_)) return WindowState::Minimised;
-    return IsZoomed(window_) ? WindowState::Maximised : WindowState::Normal;
+    if (IsZoomed(window_)) return WindowState::Maximised;
+    return WindowState::Normal;
 }
 
 void Form::set_window_state(WindowState state) {
@@ -362,7 +364,7 @@ void Form::resolution_changed(int system_dpi, const RECT& suggested) {
     resolution_changing_ = true;
     place_for_resolution(suggested);
     resolution_changing_ = false;
-    // A minimised window has nothing to lay out, and for its handler a minimised size means that it was minimised now.
+    // A minimised window has nothing to lay out, and its on_resize would take this for being minimised just now.
     if (shown_ && !IsIconic(window_)) resized();
 }
 

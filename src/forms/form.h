@@ -13,47 +13,48 @@ namespace quillomat {
 class Application;
 class Control;
 
-/// How a form is shown, by the numbers that the settings hold.
+/// How a form is shown. The settings store these numbers.
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 
-/// What frames a form and whether the user can change its size.
+/// The frame of a form; the user can resize only a Sizable one.
 enum class FormBorder { Sizable, Fixed, Dialog, None };
 
-/// The shape of the pointer over a form.
+/// The shape of the mouse pointer over a form.
 enum class PointerShape { Default, Hourglass };
 
-/// How a form looks before its handlers have run. Sizes are in twips, and are those of the whole window. A form of
-/// fixed size calls `set_inner_size` instead, because the thickness of the frame differs between versions of Windows.
+/// The initial look of a form. Sizes are outer sizes in twips. Forms of fixed size call `set_inner_size` instead,
+/// because the thickness of the frame differs between versions of Windows.
 struct FormDesign {
-    /// Also the name of its window class, by which automation finds it.
+    /// The name of the form and of its window class, by which automation finds the window.
     const wchar_t* name = nullptr;
     const wchar_t* caption = nullptr;
     double width = 0;
     double height = 0;
     FormBorder border = FormBorder::Sizable;
-    /// What the user can make it no smaller than by its border.
+    /// The smallest size to which the user can drag the border.
     WindowSize minimum{};
 };
 
-/// A top-level window. The object is made when the window is opened and lives until it has closed.
+/// A top-level window with its events, its keyboard and its modality. The object lives from the opening of the window
+/// until it has closed.
 class Form : public TopLevelWindow, public MouseEvents {
   public:
     Form(Application& application, const FormDesign& design);
     ~Form() override;
 
-    /// Before the window is first shown; the place to read settings.
+    /// Before the window is first shown. Read settings here.
     std::function<void()> on_load;
-    /// Before the window closes; the place to save settings.
+    /// Before the window closes. Save settings here.
     std::function<void()> on_unload;
-    /// The window has a new size or state; also before it is first shown.
+    /// The size or state of the window has changed; also raised before the window is first shown.
     std::function<void()> on_resize;
-    /// The pointer has moved over the form or over anything on it.
+    /// The pointer has moved over the form or any item.
     std::function<void()> on_pointer_moved;
-    /// A key goes down while the form or anything on it has the focus, before the control hears of it.
+    /// A key is pressed while the form or a control has the focus; raised before the control's own events.
     std::function<void()> on_key_pressed;
-    /// A key while no control has the focus.
+    /// A key is pressed while no control has the focus.
     std::function<void(KeyEvent&)> on_key_down;
-    /// After the window has gone and no handler of the form is running any more: its owner may destroy the object.
+    /// The window has been destroyed and no handler of the form is running. The handler may destroy the form.
     std::function<void()> on_closed;
 
     Application& application() const { return application_; }
@@ -62,46 +63,47 @@ class Form : public TopLevelWindow, public MouseEvents {
 
     /// Shows the window without waiting for it to close.
     void show();
-    /// Keeps the window in front of `owner` and out of the taskbar, and closes it with that one; the user can work in
-    /// both. To be called before the window is shown.
+    /// Keeps the window in front of `owner` and out of the taskbar, and closes it with `owner`. The user can work in
+    /// both. Call this before the window is shown.
     void set_owner(const Form& owner);
-    /// Shows the window as a dialog of `owner` and returns when it has closed.
+    /// Shows the window as a dialog of `owner`, which may be null, and returns when the dialog has closed.
     void show_modal(Form* owner);
-    /// Closes the windows it owns, runs `on_unload` unless `on_load` is still running, hides the window and has it
-    /// destroyed as soon as no handler of it is running.
+    /// Closes the owned windows, raises `on_unload` unless `on_load` is still running, and hides the window. Destroys
+    /// the window once none of its handlers is running.
     void close();
     bool closed() const { return closed_; }
-    /// Whether the window has been shown, so that it exists for the user.
+    /// Whether the window has ever been shown.
     bool shown() const { return shown_; }
 
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption);
 
-    /// How the window is shown; before that, how it will be.
+    /// The state of the window, or before it is first shown, the state in which it will be shown.
     WindowState window_state() const;
     void set_window_state(WindowState state);
 
-    /// The shape of the pointer over the form and all that stands on it, from now on.
+    /// Sets the shape of the pointer over the form and all its items.
     void set_mouse_pointer(PointerShape shape);
-    /// Lets the user drag the window by something on it, or by its own surface, as if by its title bar. Takes over the
-    /// mouse presses there.
+    /// Lets the user drag the window by an item or by the form's own surface, as if by the title bar. Replaces
+    /// `on_mouse_down` of `surface`.
     void drag_by(MouseEvents& surface);
-    /// Makes it the window the user works in.
+    /// Activates the window, or if it waits for a dialog, that dialog.
     void bring_to_foreground();
-    /// Paints what has changed in the window and on all that stands on it now instead of when the program is idle.
+    /// Paints the invalid parts of the window and its controls at once, without waiting for an empty message queue.
     void paint_changes();
 
-    /// The buttons that Enter and Escape press; null for none.
+    /// The buttons pressed by Enter and Escape; null for none.
     void set_default_button(Control* button) { internals_.keyboard.set_default_button(button); }
     Control* default_button() const { return internals_.keyboard.default_button(); }
     void set_cancel_button(Control* button) { internals_.keyboard.set_cancel_button(button); }
 
-    /// The form of a window of this program, or null.
+    /// Returns the form of a window; null if the window has been destroyed or is no form of this thread.
     static Form* from(HWND window);
-    /// What the toolkit keeps for the form.
+    /// For the toolkit.
     FormInternals& internals() { return internals_; }
-    /// Runs what may raise events, for a message of the system or for none: no exception gets out to the system, it is
-    /// reported to the user later instead; and the form stays alive until the work is done.
+    /// Runs `work`, which may raise events, and returns its result. The form stays alive meanwhile. An exception is
+    /// recorded to be shown later, because no exception may leave a window procedure. `message` is the message being
+    /// handled.
     LRESULT guarded(const std::function<LRESULT()>& work, UINT message = WM_NULL);
 
   protected:
@@ -135,7 +137,7 @@ class Form : public TopLevelWindow, public MouseEvents {
     int handlers_running_ = 0;
 };
 
-/// Shows the hourglass over a form for as long as it lives.
+/// Shows the hourglass over a form during the lifetime of this object.
 class Hourglass {
   public:
     explicit Hourglass(Form& form) : form_(form) { form_.set_mouse_pointer(PointerShape::Hourglass); }

@@ -10,7 +10,7 @@ namespace quillomat {
 
 class Timer;
 
-/// What the controls, menus and timers of one form share. For the toolkit: the author of a window needs none of it.
+/// State shared by the controls, menus and timers of a form. Only the toolkit uses it, no window.
 struct FormInternals {
     explicit FormInternals(Form& form) : keyboard(form) {}
 

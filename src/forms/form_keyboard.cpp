@@ -22,8 +22,8 @@ bool takes_tab(HWND window) {
     return (GetWindowLongPtrW(window, GWL_STYLE) & WS_TABSTOP) && IsWindowVisible(window) && IsWindowEnabled(window);
 }
 
-// In the order in which the controls were made, which is the order of reading. The order of the system's windows is
-// not: it changes when one of them comes to the front.
+// Collects windows in the order of the controls' construction, which is the Tab order. The z-order is not, because
+// bringing a control to the front changes it.
 void collect_in_reading_order(const Container& container, std::vector<HWND>& windows) {
     for (Control* control : container.controls()) {
         windows.push_back(control->window());
@@ -48,8 +48,8 @@ bool FormKeyboard::translate(MSG& message) {
             handled = (message.message == WM_KEYDOWN && handle_dialog_key(message)) ||
                       IsDialogMessageW(form_.window(), &message);
         }
-        // Unless the system hears of a key pressed with Alt, it opens the menu bar when Alt is released. Alt itself it
-        // has heard of; told twice, it takes that for such a key, and Alt alone would not open the bar.
+        // Tell Windows of a handled key pressed with Alt, or releasing Alt would open the menu bar. Windows already
+        // knows of Alt itself; a second message would look like such a key, and Alt alone would not open the menu bar.
         const bool with_alt = message.message == WM_SYSKEYDOWN && (message.lParam & alt_held);
         if (handled && with_alt && message.wParam != VK_F4 && message.wParam != VK_MENU && form_.window()) {
             DefWindowProcW(form_.window(), message.message, message.wParam, message.lParam);
@@ -73,13 +73,13 @@ bool FormKeyboard::handle_dialog_key(const MSG& message) {
             Control* button = Control::from(message.hwnd);
             if (!button || !button->is_button()) button = default_button_;
             if (!button) return false;
-            // A key held down presses one button, not also those of the windows that open meanwhile.
+            // Key repeat must not press the buttons of windows that open while Enter is held.
             if (message.lParam & was_down_before) return true;
             if (button->enabled() && IsWindowVisible(button->window())) button->press();
             return true;
         }
         case VK_ESCAPE:
-            // A list that is dropped down closes first.
+            // Escape closes an open drop-down list first.
             if (const Control* control = Control::from(message.hwnd);
                 control && SendMessageW(control->window(), CB_GETDROPPEDSTATE, 0, 0)) {
                 return false;
@@ -96,14 +96,14 @@ void FormKeyboard::move_focus(bool backwards) {
     std::vector<HWND> windows;
     collect_in_reading_order(form_, windows);
     if (backwards) std::reverse(windows.begin(), windows.end());
-    // From the one behind the focus, which need not be a stop itself, once around.
+    // Search once around, starting after the focused control, which need not be a tab stop.
     const Control* focused = Control::from(GetFocus());
     const auto current = std::find(windows.begin(), windows.end(), focused ? focused->window() : nullptr);
     if (current != windows.end()) std::rotate(windows.begin(), std::next(current), windows.end());
     const auto next = std::find_if(windows.begin(), windows.end(), takes_tab);
     if (next == windows.end()) return;
     SetFocus(*next);
-    // As in every dialog, what stands in an input can be typed over; a long text is left as it is.
+    // As in every dialog, Tab selects the text of an input, unless it has several lines.
     const bool is_input = SendMessageW(*next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
     if (is_input && !(GetWindowLongPtrW(*next, GWL_STYLE) & ES_MULTILINE)) SendMessageW(*next, EM_SETSEL, 0, -1);
 }
@@ -122,7 +122,7 @@ void FormKeyboard::remember_focus() {
 }
 
 void FormKeyboard::restore_focus() {
-    // The window itself may not be visible yet.
+    // The form may not be visible yet, so IsWindowVisible would fail.
     const auto style = last_focus_ ? GetWindowLongPtrW(last_focus_, GWL_STYLE) : 0;
     if (IsChild(form_.window(), last_focus_) && (style & WS_VISIBLE) && !(style & WS_DISABLED)) {
         SetFocus(last_focus_);

@@ -7,30 +7,30 @@ namespace quillomat {
 class Control;
 class Form;
 
-/// How the keyboard reaches a form: key events first, then the keys that every dialog knows, then the control. Keeps
-/// where the focus was while the form is not active.
+/// Handles the keyboard of a form: first key events, then the dialog keys (Tab, Enter, Escape, access keys); all other
+/// keys go to the control. Remembers the focused control while the form is inactive.
 class FormKeyboard {
   public:
     explicit FormKeyboard(Form& form) : form_(form) {}
     FormKeyboard(const FormKeyboard&) = delete;
     FormKeyboard& operator=(const FormKeyboard&) = delete;
 
-    /// Gives the dialog keys and key events of a message to where they belong; true when it needs nothing further.
+    /// Raises the key events of a message and handles dialog keys. Returns true if the message has been handled.
     bool translate(MSG& message);
 
     void set_default_button(Control* button);
     Control* default_button() const { return default_button_; }
     void set_cancel_button(Control* button) { cancel_button_ = button; }
 
-    /// Gives the focus to a control, at once or when the window is first shown.
+    /// Gives a control the focus, at once or when the form is first shown.
     void focus(HWND control);
-    /// Moves the focus to the next control that takes it, in the order of reading.
+    /// Moves the focus to the next or previous tab stop.
     void move_focus(bool backwards);
-    /// The form is being deactivated.
+    /// Remembers the focused control, because the form is being deactivated.
     void remember_focus();
-    /// Gives the focus to the control that had it last, or to the first that takes it.
+    /// Focuses the control that had the focus last, or else the first tab stop.
     void restore_focus();
-    /// A control has got another window: a focus that is kept for the next activation goes to that one.
+    /// Remembers `present` instead of `former`, because the window of a control has been replaced.
     void move_last_focus(HWND former, HWND present);
 
   private:

@@ -6,7 +6,7 @@
 
 namespace quillomat {
 
-/// Where an item stands in its container, or a size with left and top of 0, in twips.
+/// The position and size of an item in its container, in twips.
 struct Bounds {
     double left = 0;
     double top = 0;
@@ -16,12 +16,12 @@ struct Bounds {
     bool operator==(const Bounds&) const = default;
 };
 
-/// Twips to whole pixels at `dpi`, a half going to the even neighbour.
+/// Converts twips to whole pixels, rounding half to even.
 inline int to_pixels(double twips, int dpi) {
     return static_cast<int>(std::lrint(twips * dpi / twips_per_inch));
 }
 
-/// Pixels at `dpi` to twips.
+/// Converts pixels to twips.
 inline double to_twips(int pixels, int dpi) {
     return static_cast<double>(pixels) * twips_per_inch / dpi;
 }

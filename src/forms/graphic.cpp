@@ -16,7 +16,7 @@ Graphic::~Graphic() {
 }
 
 void Graphic::invalidate() const {
-    // Before the first painting there is nothing to paint again; dozens of labels are set up meanwhile.
+    // Before the form is first shown, all of it is invalid anyway.
     if (form().shown()) InvalidateRect(container().window(), &pixels_, FALSE);
 }
 

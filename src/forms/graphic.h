@@ -7,34 +7,34 @@
 
 namespace quillomat {
 
-/// An item without a window: its container paints it, in the order of the items, and gives it its mouse events.
+/// An item without a window of its own. Its container paints the item and raises its mouse events.
 class Graphic : public Item {
   public:
     Graphic(Container& container, Bounds bounds);
     ~Graphic() override;
 
     void bring_to_front() override;
-    /// Paints the item now instead of when the program is idle.
+    /// Paints the item at once.
     void refresh();
 
-    /// The one-line text shown while the pointer rests on the item; an empty one shows none.
+    /// The text of the tool tip; empty for no tool tip.
     const std::wstring& tool_tip() const { return tool_tip_; }
     void set_tool_tip(std::wstring text);
 
-    /// Draws the item; its place is `pixels()`. For the container.
+    /// Draws the item within `pixels()`. For the container.
     virtual void draw(HDC canvas) const = 0;
-    /// Whether the mouse meets the item or what lies behind it.
+    /// Returns false if mouse events go to whatever lies behind the item.
     virtual bool takes_mouse() const { return true; }
-    /// Where it stands in its container, in pixels.
+    /// The position in the container, in pixels.
     const RECT& pixels() const { return pixels_; }
-    /// Has it painted again when the program is idle.
+    /// Marks the item to be painted once the message queue is empty.
     void invalidate() const;
 
   protected:
     void apply_bounds() override;
     void apply_visible() override { invalidate(); }
     void apply_enabled() override { invalidate(); }
-    /// Sets a property that shows in the drawing.
+    /// Sets a property and, if the value is a new one, marks the item to be painted.
     template <class Value>
     void change(Value& property, Value value) {
         if (value == property) return;

@@ -9,10 +9,10 @@ namespace quillomat {
 class Container;
 class Form;
 
-/// Anything that stands on a form: a control with a window of its own, or a graphic that its container paints.
+/// Anything placed on a form: a control with a window of its own, or a graphic painted by its container.
 ///
-/// Sizes and positions are in twips from the container's inner left and top. They are kept as given; read back, they
-/// are what the whole pixels of the screen made of them.
+/// Positions are in twips from the left and top of the container's inside. An item keeps its exact bounds; the getters
+/// return them rounded to whole pixels.
 class Item : public MouseEvents {
   public:
     Item(Container& container, Bounds bounds);
@@ -23,7 +23,7 @@ class Item : public MouseEvents {
     Container& container() const { return container_; }
     Form& form() const;
 
-    /// Where it stands in its container, and its size, in twips.
+    /// Position and size in twips.
     double left() const { return rounded(bounds_.left); }
     double top() const { return rounded(bounds_.top); }
     double width() const { return rounded(bounds_.width); }
@@ -32,32 +32,32 @@ class Item : public MouseEvents {
     void set_top(double twips) { move({bounds_.left, twips, bounds_.width, bounds_.height}); }
     void set_width(double twips) { set_size(twips, bounds_.height); }
     void set_height(double twips) { set_size(bounds_.width, twips); }
-    /// Both at once, where it stands.
+    /// Sets width and height in one step.
     void set_size(double width, double height) { move({bounds_.left, bounds_.top, width, height}); }
-    /// Puts it in another place and size: one step instead of four.
+    /// Sets position and size in one step.
     void move(Bounds bounds);
-    /// Moves the item by a distance in twips; there and back again is exactly where it was.
+    /// Moves the item by a distance in twips. The opposite move restores the position exactly.
     void move_by(double right, double down) {
         move({bounds_.left + right, bounds_.top + down, bounds_.width, bounds_.height});
     }
 
-    /// Whether it is shown, as far as its container is.
+    /// Whether the item is visible while its container is.
     bool visible() const { return visible_; }
     void set_visible(bool visible);
-    /// Whether the user can use it.
+    /// Whether the item takes input.
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
 
-    /// Puts the item in front of all others of its container that it can stand in front of: controls are always in
-    /// front of graphics.
+    /// Puts a control in front of all other controls of its container, or a graphic in front of all other graphics.
+    /// Controls are always in front of graphics.
     virtual void bring_to_front() = 0;
 
-    /// Takes over a new resolution of the container; for the toolkit.
+    /// Adapts the item to a new resolution of its form. For the toolkit.
     virtual void resolution_changed() { apply_bounds(); }
 
   protected:
     int dpi() const;
-    /// Where the item stands in its container, in pixels.
+    /// The position in the container, in pixels.
     RECT pixel_bounds() const;
 
     virtual void apply_bounds() = 0;

@@ -9,10 +9,10 @@
 namespace quillomat {
 namespace {
 
-/// The picture as Windows blends it onto a menu entry.
+/// Returns the bitmap of a picture for a menu entry.
 GdiObject<HBITMAP> menu_bitmap(const Picture& picture, int pixels) {
     GdiObject<HBITMAP> bitmap = picture.bitmap(pixels);
-    // Wine: menus copy bitmaps without blending them, so the menu's colour must be behind the picture.
+    // Wine: menus copy bitmaps without blending them, so the picture needs the menu's colour behind it.
     const bool is_copied = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
     if (is_copied && bitmap) {
         const MemoryCanvas memory(nullptr);
@@ -73,7 +73,8 @@ Menu::~Menu() {
 }
 
 MENUITEMINFOW Menu::caption_info(std::wstring& text) const {
-    text = ampersands_ == Ampersands::AreShown ? without_access_keys(caption_) : caption_;
+    text = caption_;
+    if (ampersands_ == Ampersands::AreShown) text = without_access_keys(caption_);
     MENUITEMINFOW info{};
     info.cbSize = sizeof info;
     info.fMask = MIIM_FTYPE | MIIM_STRING;
@@ -134,7 +135,7 @@ void Menu::renew_pictures() {
     auto unchecked = menu_bitmap(unchecked_picture_, size);
     auto checked = menu_bitmap(checked_picture_, size);
     SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked.get(), checked.get());
-    // The former ones are in use until here.
+    // The menu has used the former bitmaps until now.
     unchecked_bitmap_ = std::move(unchecked);
     checked_bitmap_ = std::move(checked);
 }

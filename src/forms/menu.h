@@ -12,13 +12,13 @@ namespace quillomat {
 
 class Form;
 
-/// A text for a caption in which an ampersand is an ampersand and no access key.
+/// Returns `text` with every "&" doubled, so that a caption shows it instead of an access key.
 std::wstring without_access_keys(std::wstring_view text);
 
-/// What an ampersand in a caption is.
+/// Whether "&" in a caption marks the access key or is shown.
 enum class Ampersands { MarkAccessKeys, AreShown };
 
-/// The menu bar of a form; it shows the menus made with it, in that order.
+/// The menu bar of a form. It shows its menus in the order of their construction.
 class MenuBar {
   public:
     explicit MenuBar(Form& form);
@@ -34,58 +34,59 @@ class MenuBar {
     HMENU handle_;
 };
 
-/// A menu or an entry of one. An entry comes at the end of its parent and leaves it when it is destroyed; with entries
-/// of its own it is a submenu, and without a caption a line between the others.
+/// A menu or a menu entry. The constructor appends an entry to its parent, and the destructor removes the entry. An
+/// entry with entries of its own is a submenu; an entry without a caption is a separator.
 class Menu {
   public:
-    /// A menu of the bar.
+    /// A menu of a menu bar.
     Menu(MenuBar& bar, std::wstring caption);
-    /// A menu that only pops up.
+    /// A pop-up menu.
     Menu(Form& form, std::wstring caption);
-    /// An entry of another menu.
+    /// An entry of a menu.
     Menu(Menu& parent, std::wstring caption, Ampersands ampersands = Ampersands::MarkAccessKeys);
     ~Menu();
     Menu(const Menu&) = delete;
     Menu& operator=(const Menu&) = delete;
 
-    /// An entry was picked, or a menu is about to open.
+    /// The entry was picked, or the menu is about to open.
     std::function<void()> on_click;
 
-    /// The text of the entry, in which "&" stands before the access key unless ampersands are shown.
+    /// The text of the entry.
     const std::wstring& caption() const { return caption_; }
     void set_caption(std::wstring caption);
-    /// Whether a check mark stands beside it.
+    /// Whether the entry has a check mark.
     bool checked() const { return checked_; }
     void set_checked(bool checked);
-    /// Whether the user can pick it.
+    /// Whether the user can pick the entry.
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
-    /// The pictures shown beside the entry, without and with its check mark.
+    /// Sets the pictures beside the entry when it is unchecked and checked.
     void set_pictures(const Picture& unchecked, const Picture& checked);
 
-    /// Shows the menu at a position of the form in twips and runs the command the user picks; `default_item` is bold.
+    /// Shows the menu at a position in the form, in twips, and raises the event of the entry that the user picks.
+    /// `default_item` is shown bold.
     void pop_up(double left, double top, const Menu* default_item = nullptr);
-    /// The same at the pointer.
+    /// Shows the menu in the same way at the pointer.
     void pop_up(const Menu* default_item = nullptr);
 
     // For the toolkit.
     HMENU handle() const { return handle_; }
     int id() const { return id_; }
-    /// Raises the event, as if the user had picked the entry; not while it is disabled.
+    /// Raises the event unless the entry is disabled.
     void pick();
-    /// Makes the pictures again for the form's resolution.
+    /// Scales the pictures for the form's resolution.
     void renew_pictures();
 
   private:
     void attach(HMENU parent);
     void become_submenu();
     void pop_up_at(POINT screen, const Menu* default_item);
-    /// Describes what the entry shows; `text` holds its characters.
+    /// Returns the type and caption of the entry. The result points into `text`.
     MENUITEMINFOW caption_info(std::wstring& text) const;
 
     Form& form_;
-    HMENU container_ = nullptr;  // the menu this is an entry of
-    HMENU handle_ = nullptr;     // the menu of its own entries
+    HMENU container_ = nullptr;  // the menu that contains the entry
+    HMENU handle_ = nullptr;     // the menu of the entries in this menu
     int id_;
     std::wstring caption_;
     Ampersands ampersands_ = Ampersands::MarkAccessKeys;

@@ -9,8 +9,7 @@
 namespace quillomat {
 
 int MenuCommands::add(Menu& menu) {
-    // A command reaches the window as 16 bits, of which the system has the upper numbers for itself, and entries come
-    // and go: a number is used again when its entry has gone.
+    // WM_COMMAND carries 16 bits, and Windows reserves the upper numbers. Numbers of removed entries are reused.
     constexpr int first = 100;
     constexpr int last = 0xEFFF;
     if (menus_.size() > last - first) throw Error(ErrorCode::OutOfMemory);

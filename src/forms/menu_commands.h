@@ -8,17 +8,17 @@ namespace quillomat {
 
 class Menu;
 
-/// The commands of one form's menus, each under a number of its own.
+/// Gives every menu entry of a form a command number.
 class MenuCommands {
   public:
-    /// Returns the number for a new entry. Throws `Error` with OutOfMemory if no number is free.
+    /// Adds an entry and returns its number. Throws `Error` with OutOfMemory if no number is free.
     int add(Menu& menu);
     void remove(int id) { menus_.erase(id); }
-    /// Picks the entry with a number; false if there is none.
+    /// Picks the entry with number `id`. Returns false if there is none.
     bool pick(int id) const;
-    /// A menu opens: raises the event of the entry it belongs to.
+    /// Raises the event of a menu that is about to open.
     void opens(HMENU menu) const;
-    /// Makes the pictures of all entries again for the form's resolution.
+    /// Scales the pictures of all entries for the form's resolution.
     void renew_pictures() const;
 
   private:

@@ -11,9 +11,9 @@ MessageAnswer show_message(HWND form, const Message& message) {
 }
 
 MessageAnswer show_message(Application& application, HWND wanted, const Message& message) {
-    // Without an owner that the user can use, Windows would activate another program's window after the message.
+    // Without an enabled owner, Windows would activate another program's window when the message box closes.
     const HWND owner = application.modality().owner_for_message(wanted);
-    // Windows disables the owner alone; the other windows must wait too, as a handler is at work behind the question.
+    // MessageBox disables the owner only. The other windows are disabled here, because a handler is still running.
     const ModalScope modal(application, owner);
     return static_cast<MessageAnswer>(
         MessageBoxW(owner, message.text.c_str(), message.title.c_str(),

@@ -9,19 +9,19 @@ namespace quillomat {
 class Application;
 class Error;
 
-/// The answers a message box offers.
+/// The buttons of a message box.
 enum class MessageButtons : UINT { Ok = MB_OK, OkCancel = MB_OKCANCEL, YesNo = MB_YESNO };
-/// The sign beside its text.
+/// The icon of a message box.
 enum class MessageIcon : UINT {
     None = 0,
     Critical = MB_ICONERROR,
     Question = MB_ICONQUESTION,
     Information = MB_ICONINFORMATION,
 };
-/// The user's answer; closing the box is `Cancel`, or `Ok` where nothing else is offered.
+/// The user's answer. Closing the box answers Cancel, or Ok if that is the only button.
 enum class MessageAnswer { Ok = IDOK, Cancel = IDCANCEL, Yes = IDYES, No = IDNO };
 
-/// A message box: its text, its title and what it offers.
+/// The content of a message box.
 struct Message {
     std::wstring text;
     std::wstring title;
@@ -29,16 +29,16 @@ struct Message {
     MessageIcon icon = MessageIcon::None;
 };
 
-/// Shows a message above a form, given by its window, and waits for the answer; none of the program's windows can be
-/// used meanwhile. Above a form that itself waits for a dialog, the message stands over that dialog.
+/// Shows a message box above the window of a form and waits for the answer. All other windows are disabled meanwhile.
+/// If the form waits for a dialog, the message box appears above that dialog.
 MessageAnswer show_message(HWND form, const Message& message);
-/// The same for a window that may have gone since, or for none (null).
+/// Shows a message box in the same way above a window that may be null or destroyed.
 MessageAnswer show_message(Application& application, HWND owner, const Message& message);
 
-/// Shows a failure above a form, given by its window, in a critical message box with the title "Error!".
+/// Shows the description of `error` in a critical message box titled "Error!" above the window of a form.
 void show_error(HWND form, const Error& error);
 
-/// Sounds the system's beep, for a key that does nothing.
+/// Plays the default beep.
 void beep();
 
 }  // namespace quillomat

@@ -17,14 +17,15 @@ bool is_tool_tip(HWND window) {
     return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) != 0;
 }
 
-/// Returns the active window, or else the front-most one, if the user can use it.
+/// Returns the active window if it is usable, else the front-most usable window, else null.
 HWND usable_window() {
     const HWND active = GetActiveWindow();
     if (active && is_usable(active)) return active;
     const std::vector<HWND> windows = thread_windows();
     const auto found = std::find_if(windows.begin(), windows.end(),
                                     [](HWND window) { return is_usable(window) && !is_tool_tip(window); });
-    return found == windows.end() ? nullptr : *found;
+    if (found == windows.end()) return nullptr;
+    return *found;
 }
 
 }  // namespace
@@ -35,7 +36,7 @@ bool Modality::waits(HWND window) const {
 
 void Modality::opened(HWND window, HWND opener) {
     if (scopes_.empty() || !opener || IsWindowEnabled(opener)) return;
-    // An opener that Windows has disabled for its message box is in no scope; what it opens waits for the message.
+    // If no scope holds the opener, Windows has disabled it as the owner of a message box; the new window waits too.
     const bool in_a_scope = waits(opener);
     for (ModalScope* scope : scopes_) {
         if (scope->holds(opener) || (!in_a_scope && scope == scopes_.back())) scope->waiting_.push_back(window);
@@ -53,7 +54,8 @@ void Modality::forget(HWND window) {
 }
 
 HWND Modality::owner_for_message(HWND wanted) const {
-    return wanted && is_usable(wanted) ? wanted : usable_window();
+    if (wanted && is_usable(wanted)) return wanted;
+    return usable_window();
 }
 
 void Modality::bring_usable_to_front() const {
@@ -65,8 +67,8 @@ void Modality::bring_usable_to_front() const {
 
 ModalScope::ModalScope(Application& application, HWND usable) : modality_(application.modality()) {
     for (const HWND window : thread_windows()) {
-        // A window that something else has disabled is not enabled at the end, unless that was another scope: it may
-        // end before this one.
+        // A window disabled by anything but a scope must not be enabled at the end. One disabled by another scope is
+        // held here too, because that scope may end first.
         if (window != usable && (IsWindowEnabled(window) || modality_.waits(window))) waiting_.push_back(window);
     }
     modality_.scopes_.push_back(this);

@@ -9,20 +9,21 @@ namespace quillomat {
 class Application;
 class ModalScope;
 
-/// Decides which windows of the program take input: while something modal is up, all other windows wait for it.
+/// Decides which windows take input. While a dialog or message box is open, all other windows wait, i.e. are disabled.
 class Modality {
   public:
-    /// A window was opened by a handler of `opener`, which may be null: it waits for whatever its opener waits for.
+    /// Records a new window opened by a handler of `opener`, which may be null. The window waits for the same dialogs
+    /// as its opener.
     void opened(HWND window, HWND opener);
-    /// A window becomes a dialog: it waits for nothing any more, because what is below it can end only after it has.
+    /// Enables a window that becomes a dialog. The dialogs opened before can close only after this one.
     void let_through(HWND window);
-    /// A window is being destroyed.
+    /// Forgets a window that is being destroyed.
     void forget(HWND window);
 
-    /// Returns the window that a message asked for by `wanted` (which may be null) belongs to: `wanted` itself if the
-    /// user can use it, else the active or the front-most window that the user can use. Null if there is none.
+    /// Returns the owner for a message box: `wanted` if that window is visible and enabled, else the active window,
+    /// else the front-most such window. `wanted` may be null; the result is null if there is no such window.
     HWND owner_for_message(HWND wanted) const;
-    /// Brings the window that the user can use to the front: a waiting window was clicked or has just opened.
+    /// Activates the window that takes input, because a waiting window was clicked or has opened.
     void bring_usable_to_front() const;
 
   private:
@@ -32,20 +33,20 @@ class Modality {
     std::vector<ModalScope*> scopes_;  // the innermost last
 };
 
-/// While it lives, the user can use none of the program's windows but `usable` and what is opened from there.
+/// Disables all windows during its lifetime, except one window and those opened from there.
 class ModalScope {
   public:
-    /// `usable` is the dialog itself, or the owner of a system dialog, which Windows disables and enables by itself;
-    /// null for neither.
+    /// `usable` stays enabled: the dialog, or the owner of a dialog of Windows, which Windows disables itself. Null for
+    /// neither.
     explicit ModalScope(Application& application, HWND usable = nullptr);
     ~ModalScope() { end(); }
     ModalScope(const ModalScope&) = delete;
     ModalScope& operator=(const ModalScope&) = delete;
 
-    /// Makes the windows wait again that a library of another program has enabled.
+    /// Disables windows again that a library has enabled.
     void hold() const;
-    /// Enables the windows again that wait for nothing else. Must run before the dialog's window is destroyed, or
-    /// Windows activates another program's window instead of the owner.
+    /// Enables the windows again unless they wait for another dialog. Call this before the dialog's window is
+    /// destroyed, or Windows activates another program's window instead of the owner.
     void end();
 
   private:

@@ -40,7 +40,7 @@ void Timer::set_interval(int milliseconds) {
 }
 
 void Timer::tick() {
-    // A message that was under way when the timer was disabled is not an event any more.
+    // A WM_TIMER may still be in the queue when the timer is disabled.
     if (!enabled_ || running_) return;
     struct Running {
         bool& flag;

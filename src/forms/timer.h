@@ -6,27 +6,28 @@ namespace quillomat {
 
 class Form;
 
-/// Raises an event again and again while it is enabled. It ends with its form.
+/// Raises an event at a fixed interval while enabled. A closing form disables its timers.
 class Timer {
   public:
-    /// Whether a timer ticks.
+    /// The initial state of a timer.
     enum class State { Disabled, Enabled };
 
-    /// The form must outlive the timer.
+    /// `form` must outlive the timer.
     Timer(Form& form, int milliseconds, State state = State::Enabled);
     ~Timer();
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
 
-    /// The time has passed once more.
+    /// The interval has passed.
     std::function<void()> on_timer;
 
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
-    /// The time between two events; the present one begins anew.
+    /// Sets the interval and, if the value is a new one, starts it again.
     void set_interval(int milliseconds);
 
-    /// Raises the event, unless its handler is still running below a dialog; for the toolkit.
+    /// Raises the event unless the timer is disabled or its handler is still running, e.g. below a dialog. For the
+    /// toolkit.
     void tick();
 
   private:

@@ -5,7 +5,7 @@
 namespace quillomat {
 namespace {
 
-// Long texts, such as a long game name, break into lines instead of leaving the screen.
+// Long texts, such as a long game name, break into lines, or they would not fit the screen.
 constexpr double widest_line = 9000;  // twips
 
 }  // namespace
@@ -41,7 +41,7 @@ void ToolTips::set(HWND window, const void* owner, const RECT& area, const std::
 void ToolTips::put(TTTOOLINFOW& tool, const std::wstring& text) {
     tool.cbSize = sizeof tool;
     TTTOOLINFOW known = tool;
-    // Asked with a text, the system would write its own into it.
+    // `lpszText` is still null, because TTM_GETTOOLINFO would write to it.
     const bool is_known = SendMessageW(window_, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&known)) != 0;
     tool.lpszText = const_cast<wchar_t*>(text.c_str());
     if (text.empty()) {

@@ -6,16 +6,16 @@
 
 namespace quillomat {
 
-/// The tool tips of one form.
+/// The tool tips of a form.
 class ToolTips {
   public:
-    /// Makes the window that shows them; the form's window owns and destroys it.
+    /// Creates the tool tip window, which is owned by the form's window and destroyed with it.
     void create(HWND form, int dpi);
-    /// Sets the text shown while the pointer rests on `control`; an empty one shows none.
+    /// Sets the tool tip of a control; an empty text removes it.
     void set(HWND control, const std::wstring& text);
-    /// The same for an area of `window`, in pixels. `owner` tells the areas apart.
+    /// Sets the tool tip of an area of `window`, in pixels. `owner` identifies the area.
     void set(HWND window, const void* owner, const RECT& area, const std::wstring& text);
-    /// Breaks long texts into lines that are as wide on every screen; `dpi` is that of the form.
+    /// Sets the width at which long texts break into lines, for the form's resolution.
     void fit_resolution(int dpi);
 
   private:

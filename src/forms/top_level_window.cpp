@@ -15,7 +15,7 @@ RECT free_area(HWND window) {
 }  // namespace
 
 RECT TopLevelWindow::outer() const {
-    // A minimised window reports a place far outside of the screen; what counts is where it goes back to.
+    // GetWindowRect returns a place far off the screen for a minimised window.
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     if (IsIconic(window()) && GetWindowPlacement(window(), &placement)) return placement.rcNormalPosition;
@@ -44,7 +44,7 @@ void TopLevelWindow::set_size(double width, double height) {
     const RECT area = outer();
     const int pixel_width = to_pixels(std::max(width, 0.0), dpi_);
     const int pixel_height = to_pixels(std::max(height, 0.0), dpi_);
-    // The system lays a window out anew even when it keeps its size.
+    // Setting the present size must not lay the window out again.
     if (pixel_width == area.right - area.left && pixel_height == area.bottom - area.top) return;
     SetWindowPos(window(), nullptr, 0, 0, pixel_width, pixel_height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -67,7 +67,7 @@ double TopLevelWindow::inner_height() const {
 }
 
 void TopLevelWindow::set_inner_size(double width, double height) {
-    // A menu bar takes its room only now that it has its menus.
+    // Windows gives a new menu bar its height only when it draws the bar.
     if (GetMenu(window())) DrawMenuBar(window());
     inner_size_ = WindowSize{width, height};
     const RECT area = outer();
@@ -87,7 +87,6 @@ void TopLevelWindow::centre_on_screen() {
 }
 
 void TopLevelWindow::place_on_screen() {
-    // Whatever the settings said, the whole window is in reach of the user.
     const RECT screen = free_area(window());
     const RECT area = outer();
     const LONG width = std::min(area.right - area.left, screen.right - screen.left);
@@ -100,7 +99,7 @@ void TopLevelWindow::place_on_screen() {
 }
 
 void TopLevelWindow::limit_sizing(WPARAM edge, RECT& area) const {
-    // The resize rules of a form would push the border back after the user has pulled it; here it never goes so far.
+    // Without this limit, the form's own rule would push the border back only after the user has dragged it.
     const LONG width = std::max<LONG>(area.right - area.left, to_pixels(minimum_.width, dpi_));
     const LONG height = std::max<LONG>(area.bottom - area.top, to_pixels(minimum_.height, dpi_));
     const bool pulls_left = edge == WMSZ_LEFT || edge == WMSZ_TOPLEFT || edge == WMSZ_BOTTOMLEFT;

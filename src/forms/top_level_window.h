@@ -8,14 +8,13 @@
 
 namespace quillomat {
 
-/// A container that is a window of its own: where it stands on the screen, how large it is, and at which resolution.
-/// Sizes and positions are in twips.
+/// The place, size and resolution of a top-level window. Sizes and positions are in twips.
 class TopLevelWindow : public Container {
   public:
-    /// Dots per inch of the window.
+    /// The resolution of the window, in dots per inch.
     int dpi() const { return dpi_; }
 
-    /// Outer position and size. Of a minimised window, those it goes back to.
+    /// Outer position and size; those to restore if the window is minimised.
     double left() const;
     double top() const;
     double width() const;
@@ -25,22 +24,23 @@ class TopLevelWindow : public Container {
     /// Inner size.
     double inner_width() const;
     double inner_height() const;
-    /// Makes room for this much inside of the border, title bar and menu bar, now and at every other resolution.
+    /// Sizes the window so that its inside, without border, title bar and menu bar, has this size. The inner size is
+    /// kept when the resolution changes.
     void set_inner_size(double width, double height);
-    /// Puts the window in the middle of the screen's free area.
+    /// Centres the window in the work area of its monitor.
     void centre_on_screen();
-    /// Moves the window, and makes it smaller if need be, so that all of it is in reach of the user.
+    /// Moves and shrinks the window as needed to fit it into the work area of its monitor.
     void place_on_screen();
 
   protected:
-    /// `minimum` is what the user can make the window no smaller than by its border.
+    /// `minimum` is the smallest size to which the user can drag the border.
     explicit TopLevelWindow(const WindowSize& minimum) : minimum_(minimum) {}
 
     void set_dpi(int dpi) { dpi_ = dpi; }
-    /// Keeps what the user makes of the window, in pixels, from being smaller than its minimum. `edge` is that of
-    /// WM_SIZING.
+    /// Enlarges `area`, in pixels, to the minimum size, for WM_SIZING with `edge`.
     void limit_sizing(WPARAM edge, RECT& area) const;
-    /// Takes the place that the system suggests for a new resolution, in pixels, with the inner size that was set.
+    /// Moves the window to the rectangle that Windows suggests for a new resolution, in pixels. Keeps an inner size set
+    /// by `set_inner_size`.
     void place_for_resolution(const RECT& suggested);
 
   private:
