@@ -4,6 +4,7 @@
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
 #include "support.h"
+#include "win/system_information.h"
 
 namespace quillomat {
 namespace {
@@ -38,6 +39,11 @@ TEST_F(AboutTest, TheAddressesAndTheMailMenuLeadToTheAuthor) {
 TEST_F(AboutTest, StartsTheSystemInformationAndTellsWhatCannotBeStarted) {
     const RegistryOverride no_programs(HKEY_CLASSES_ROOT);
     const RegistryOverride machine(HKEY_LOCAL_MACHINE);
+    const TemporaryFolder shared_tools;
+    machine.set(L"SOFTWARE\\Microsoft\\Shared Tools Location", L"MSINFO", shared_tools.path().wstring());
+    EXPECT_EQ(system_information_tool(), std::nullopt) << "the folder does not hold the tool";
+    shared_tools.write("MSINFO32.EXE", "tool");
+    EXPECT_EQ(system_information_tool(), shared_tools.path().wstring() + L"\\MSINFO32.EXE");
     const auto start = [&](const std::wstring& path) {
         machine.set(L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", L"PATH", path);
         about->cmdButton[1].click();

@@ -214,15 +214,15 @@ std::vector<HWND> inputs_of(HWND window) {
 
 void expect_reading_order(const std::vector<HWND>& walk) {
     std::vector<std::string> steps_back;
-    for (std::size_t i = 0; i < walk.size(); ++i) {
-        const HWND control = walk[i];
-        const HWND following = walk[(i + 1) % walk.size()];
+    HWND control = walk.back();
+    for (const HWND following : walk) {
         RECT area{};
         RECT next{};
         GetWindowRect(control, &area);
         GetWindowRect(following, &next);
-        if (next.top >= area.bottom || next.left >= area.right) continue;
-        steps_back.push_back(described(control) + " to " + described(following));
+        const bool is_back = next.top < area.bottom && next.left < area.right;
+        if (is_back) steps_back.push_back(described(control) + " to " + described(following));
+        control = following;
     }
     // One step leads from the last control back to the first.
     EXPECT_LE(steps_back.size(), 1u) << "Tab walks against the order of reading: "

@@ -1,10 +1,8 @@
-// What goes on for hours in one window leaves nothing behind. The walk over all windows opens and closes them.
+// What is done for hours in the viewer leaves nothing behind. The walk over all windows opens and closes them.
 
 #include "metafile_printer.h"
 #include "object_counts.h"
 #include "session_support.h"
-#include "shell/Dialog1.h"
-#include "shell/frmAbout.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {
@@ -59,22 +57,6 @@ TEST_F(LeakTest, CommandsHoverHelpAndFontsThatWereTried) {
         viewer.menus.mnuFontName.back()->pick();
     }
     EXPECT_LT(count_objects().gdi, before.gdi + kept);
-}
-
-TEST_F(LeakTest, Animations) {
-    frmAbout about(application, session.pointer, 1);
-    Dialog1 author(application, session.pointer);
-    about.show();
-    author.show();
-    // The fonts of the title's twenty sizes are made once and kept.
-    repeat("animations", [&] {
-        for (Timer* timer :
-             {&about.Timer1, &about.Timer2, &author.Timer1, &author.Timer2, &author.Timer3, &author.Timer4}) {
-            timer->tick();
-        }
-        UpdateWindow(about.window());
-        UpdateWindow(author.picCopy.window());
-    });
 }
 
 }  // namespace

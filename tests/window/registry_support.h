@@ -18,8 +18,6 @@ class TemporarySettings {
 
     Settings settings() const { return Settings(application_); }
     const std::wstring& application() const { return application_; }
-    /// The settings' key below HKEY_CURRENT_USER.
-    std::wstring key() const { return L"Software\\" + application_ + L"\\Settings"; }
 
   private:
     void remove() const { RegDeleteTreeW(HKEY_CURRENT_USER, (L"Software\\" + application_).c_str()); }

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "registry_support.h"
-#include "win/system_information.h"
 
 namespace quillomat {
 namespace {
@@ -44,19 +43,11 @@ TEST_F(SettingsStore, WhatAnotherProgramStoredIsSafe) {
         {REG_SZ, L"Arial", 10, L"Arial"},  // without a zero at its end
         {REG_SZ, L"Arial", 9, L"Aria"},    // half a character
         {REG_SZ, L"Arial\0Black", 24, L"Arial"}};
+    const std::wstring key = L"Software\\" + registry_.application() + L"\\Settings";
     for (const auto& [type, text, size, read] : cases) {
-        RegSetKeyValueW(HKEY_CURRENT_USER, registry_.key().c_str(), L"Font", type, text, size);
+        RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), L"Font", type, text, size);
         EXPECT_EQ(settings_.read(settings::Font), read) << size;
     }
-}
-
-TEST(SystemInformation, TheToolIsAlsoLookedForInTheFolderOfSharedTools) {
-    const RegistryOverride machine(HKEY_LOCAL_MACHINE);
-    const TemporaryFolder folder;
-    machine.set(L"SOFTWARE\\Microsoft\\Shared Tools Location", L"MSINFO", folder.path().wstring());
-    EXPECT_EQ(system_information_tool(), std::nullopt) << "the folder does not hold the tool";
-    folder.write("MSINFO32.EXE", "tool");
-    EXPECT_EQ(system_information_tool(), folder.path().wstring() + L"\\MSINFO32.EXE");
 }
 
 }  // namespace

@@ -84,10 +84,10 @@ bool WindowTest::point_until(HWND window, int x, int y, const std::function<bool
     });
 }
 
-void WindowTest::click_on(HWND control) {
+void WindowTest::click_on(HWND control, int x, int y) {
     POINT pointer{};
     ASSERT_TRUE(
-        point_until(control, 8, 8, [&] { return GetCursorPos(&pointer) && WindowFromPoint(pointer) == control; }));
+        point_until(control, x, y, [&] { return GetCursorPos(&pointer) && WindowFromPoint(pointer) == control; }));
     click();
 }
 

@@ -70,8 +70,8 @@ struct WindowTest : ::testing::Test {
     /// Moves the pointer there until the condition holds; false when it does not within ten seconds. The movement is
     /// made again now and then, because a window that has just opened may miss one.
     bool point_until(HWND window, int x, int y, const std::function<bool()>& condition);
-    /// Clicks a control at its left edge, with the real pointer.
-    void click_on(HWND control);
+    /// Clicks a control with the real pointer, in pixels from its inner left and top.
+    void click_on(HWND control, int x = 8, int y = 8);
     /// Presses and releases a mouse button where the pointer is.
     static void click(DWORD down = MOUSEEVENTF_LEFTDOWN, DWORD up = MOUSEEVENTF_LEFTUP);
 

@@ -87,33 +87,18 @@ struct WindowWalk : SessionTest, ::testing::WithParamInterface<State> {
     std::function<void(HWND)> look_;
 };
 
-void open_main_screen(WindowWalk& walk) {
-    walk.main_screen();
-}
-
 void open_viewer(WindowWalk& walk) {
     walk.program.open_viewer();
 }
 
-void open_search(WindowWalk& walk) {
-    walk.viewer().Option2.set_value(true);
-}
-
-void open_range(WindowWalk& walk) {
-    walk.viewer().menus.mnuPrintGames.pick();
-}
-
-void ask_to_exit(WindowWalk& walk) {
-    walk.main_screen().Command3.click();
-}
-
 const State states[] = {
     {"Splash", L"frmSplash", [](WindowWalk& walk) { walk.program.open_splash(); }},
-    {"MainScreen", L"frmMain", open_main_screen, nullptr, L"", State::NotClosedByEscape},
-    {"ExitQuestion", L"frmMain", open_main_screen, ask_to_exit, L"&Yes", State::NotClosedByEscape},
-    {"ExitTakenBack", L"frmMain", open_main_screen,
+    {"MainScreen", L"frmMain", [](WindowWalk& walk) { walk.main_screen(); }, nullptr, L"", State::NotClosedByEscape},
+    {"ExitQuestion", L"frmMain", [](WindowWalk& walk) { walk.main_screen(); },
+     [](WindowWalk& walk) { walk.main_screen().Command3.click(); }, L"&Yes", State::NotClosedByEscape},
+    {"ExitTakenBack", L"frmMain", [](WindowWalk& walk) { walk.main_screen(); },
      [](WindowWalk& walk) {
-         ask_to_exit(walk);
+         walk.main_screen().Command3.click();
          walk.main_screen().Command2.click();
      },
      L"&Yes", State::NotClosedByEscape},
@@ -134,10 +119,10 @@ const State states[] = {
          walk.expect_message(L"Error!", L"Invalid procedure call or argument");
          open_viewer(walk);
      }},
-    {"Search", L"frmCtlView", open_viewer, open_search, L"&Go!"},
+    {"Search", L"frmCtlView", open_viewer, [](WindowWalk& walk) { walk.viewer().Option2.set_value(true); }, L"&Go!"},
     {"ListAfterSearch", L"frmCtlView", open_viewer,
      [](WindowWalk& walk) {
-         open_search(walk);
+         walk.viewer().Option2.set_value(true);
          walk.viewer().Option1.set_value(true);
      },
      L"&Go!"},
@@ -146,9 +131,9 @@ const State states[] = {
     {"Find", L"frmFind", [](WindowWalk& walk) { walk.viewer().menus.mnuTextBoxFind.pick(); }, nullptr, L"&Find"},
     {"Save", L"frmSave", [](WindowWalk& walk) { walk.viewer().menus.mnuSave.pick(); },
      [](WindowWalk&) { find_form<frmSave>()->Label6.set_visible(true); }, L"&OK", State::Dialog},
-    {"PrintAll", L"frmPrintGames", open_range,
+    {"PrintAll", L"frmPrintGames", [](WindowWalk& walk) { walk.viewer().menus.mnuPrintGames.pick(); },
      [](WindowWalk&) { EXPECT_FALSE(find_form<frmPrintGames>()->Text1.enabled()); }, L"&OK", State::Dialog},
-    {"PrintRange", L"frmPrintGames", open_range,
+    {"PrintRange", L"frmPrintGames", [](WindowWalk& walk) { walk.viewer().menus.mnuPrintGames.pick(); },
      [](WindowWalk&) { find_form<frmPrintGames>()->Option2.set_value(true); }, L"&OK", State::Dialog},
     {"MailCheats", L"frmMailCheats",
      [](WindowWalk& walk) {
