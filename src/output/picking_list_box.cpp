@@ -55,16 +55,16 @@ void PickingListBox::resolution_changed() {
 }
 
 void PickingListBox::notified(WORD code) {
-    if (code == LBN_SELCHANGE) told_of_change_ = true;
+    if (code == LBN_SELCHANGE) change_notified_ = true;
     ListBox::notified(code);
 }
 
 LRESULT PickingListBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     const bool picks_by_key = message == WM_KEYDOWN && wparam == VK_SPACE;
-    if (picks_by_key) told_of_change_ = false;
+    if (picks_by_key) change_notified_ = false;
     const LRESULT result = ListBox::handle_message(message, wparam, lparam);
     // Wine: the control picks, but sends no LBN_SELCHANGE.
-    if (picks_by_key && !told_of_change_) raise(on_click);
+    if (picks_by_key && !change_notified_) raise(on_click);
     return result;
 }
 

@@ -6,8 +6,8 @@
 
 namespace quillomat {
 
-/// A list of texts of which several can be picked: a click or Space picks the text at the cursor or takes it back. What
-/// it has selected, as a list, is the text at its cursor.
+/// A list in which several texts can be picked. A click or Space picks the text at the cursor, or takes the pick back.
+/// The selected text is the one at the cursor.
 class PickingListBox final : public ListBox {
   public:
     PickingListBox(Container& container, Bounds bounds);
@@ -15,10 +15,10 @@ class PickingListBox final : public ListBox {
     std::optional<int> selected_index() const override;
     void select_index(int index) override;
 
-    /// The positions of the picked texts, in the list's order.
+    /// Returns the positions of the picked texts, in the list's order.
     std::vector<int> picked_indexes() const;
-    /// Picks the text at a position or takes it back, and raises the click. Throws `Error` with SubscriptOutOfRange
-    /// when there is none.
+    /// Picks the text at a position, or takes the pick back, and raises `on_click`. Throws `Error` with
+    /// SubscriptOutOfRange if there is no such position.
     void set_picked(int index, bool picked);
     /// Lets the user scroll sideways as far as the longest text reaches.
     void fit_scroll_range();
@@ -30,7 +30,7 @@ class PickingListBox final : public ListBox {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:
-    bool told_of_change_ = false;
+    bool change_notified_ = false;
 };
 
 }  // namespace quillomat

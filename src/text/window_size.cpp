@@ -13,14 +13,4 @@ std::optional<WindowSize> corrected_size(const WindowSize& actual, const WindowS
     return std::nullopt;
 }
 
-ViewerLayout viewer_layout(const WindowSize& window) {
-    return {
-        .text_width = window.width - 2980,
-        .text_height = window.height - 1755,
-        .game_list_height = window.height - 2115,
-        .result_list_height = window.height - 3430,
-        .search_panel_height = window.height - 2115,
-    };
-}
-
 }  // namespace quillomat

@@ -17,19 +17,4 @@ struct WindowSize {
 /// back half a pixel smaller.
 std::optional<WindowSize> corrected_size(const WindowSize& actual, const WindowSize& minimum, double twips_per_pixel);
 
-/// The viewer's minimum size.
-inline constexpr WindowSize viewer_minimum_size{5970, 5340};
-
-/// The sizes of the viewer's controls that depend on the size of its window, in twips.
-struct ViewerLayout {
-    double text_width = 0;
-    double text_height = 0;
-    double game_list_height = 0;
-    double result_list_height = 0;
-    double search_panel_height = 0;
-};
-
-/// Returns the layout for the outer size of the window.
-ViewerLayout viewer_layout(const WindowSize& window);
-
 }  // namespace quillomat

@@ -7,7 +7,6 @@
 #include "forms/message_box.h"
 #include "resources/pictures.h"
 #include "text/game_list.h"
-#include "text/window_size.h"
 #include "viewer/frmStatus.h"
 
 namespace quillomat {
@@ -29,11 +28,8 @@ bool asks_for_menu(const KeyEvent& event) {
 }  // namespace
 
 frmCtlView::frmCtlView(Application& application, Session& session, const ViewerWindows& windows)
-    : Form(application, {.name = L"frmCtlView",
-                         .caption = L"Cheat Codes!",
-                         .width = 8925,
-                         .height = 6660,
-                         .minimum = viewer_minimum_size}),
+    : Form(application,
+           {.name = L"frmCtlView", .caption = L"Cheat Codes!", .width = 8925, .height = 6660, .minimum = minimum_size}),
       Image1(*this, Picture(PICTURE_COLOUR), {colour_image_left, 30, picture_button_size, picture_button_size}),
       session_(session),
       windows_(windows) {
@@ -135,13 +131,11 @@ void frmCtlView::Form_Resize() {
         return;
     }
     set_caption(session_.viewer.current_title);
-    if (restore_minimum_size(*this, viewer_minimum_size)) return;
-    const WindowSize size{width(), height()};
-    const ViewerLayout layout = viewer_layout(size);
-    Text1.set_size(layout.text_width, layout.text_height);
-    List2.set_height(layout.game_list_height);
-    List1.set_height(layout.result_list_height);
-    Frame2.set_height(layout.search_panel_height);
+    if (restore_minimum_size(*this, minimum_size)) return;
+    Text1.set_size(width() - 2980, height() - 1755);
+    List2.set_height(height() - 2115);
+    List1.set_height(height() - 3430);
+    Frame2.set_height(height() - 2115);
 }
 
 void frmCtlView::Form_KeyDown(KeyEvent& event) {

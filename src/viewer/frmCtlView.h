@@ -78,6 +78,8 @@ class frmCtlView final : public Form {
     void apply_colours();
 
   private:
+    static constexpr WindowSize minimum_size{5970, 5340};
+
     void bind();
     void bind_search();
     void bind_search_panel();

@@ -4,7 +4,6 @@
 #include "forms/message_box.h"
 #include "text/error.h"
 #include "text/numbers.h"
-#include "text/window_size.h"
 #include "viewer/frmCtlView.h"
 #include "win/database_file.h"
 
@@ -80,7 +79,7 @@ void frmCtlView::restore_settings() {
 
 void frmCtlView::restore_size() {
     if (window_state() != WindowState::Normal) return;
-    restore_window_size(*this, session_.settings, window_keys, viewer_minimum_size);
+    restore_window_size(*this, session_.settings, window_keys, minimum_size);
 }
 
 void frmCtlView::build_alphabet_bar() {
