@@ -210,11 +210,14 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             if (wparam) close();
             return 0;
         case WM_SIZE:
+            size_changed(wparam);
             if (shown_ && !closed_ && !resolution_changing_) resized();
             return 0;
-        case WM_SIZING:
-            limit_sizing(wparam, *reinterpret_cast<RECT*>(lparam));
-            return TRUE;
+        case WM_GETMINMAXINFO:
+            limit_size(*reinterpret_cast<MINMAXINFO*>(lparam));
+            return 0;
+        case WM_GETDPISCALEDSIZE:
+            return scale_size(static_cast<int>(wparam), *reinterpret_cast<SIZE*>(lparam));
         case WM_DPICHANGED:
             resolution_changed(HIWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
             return 0;

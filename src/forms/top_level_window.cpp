@@ -1,6 +1,7 @@
 #include "forms/top_level_window.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillomat {
 namespace {
@@ -78,6 +79,18 @@ void TopLevelWindow::set_inner_size(double width, double height) {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void TopLevelWindow::place_over(const TopLevelWindow& other, Over place) {
+    const RECT below = other.outer();
+    // Twice, because the window takes another size on a screen of another resolution.
+    for (int i = 0; i < 2; ++i) {
+        const RECT own = outer();
+        const LONG left = (below.left + below.right - (own.right - own.left)) / 2;
+        LONG top = below.top;
+        if (place == Over::Middle) top = (below.top + below.bottom - (own.bottom - own.top)) / 2;
+        SetWindowPos(window(), nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
 void TopLevelWindow::centre_on_screen() {
     const RECT screen = free_area(window());
     const RECT area = outer();
@@ -98,28 +111,52 @@ void TopLevelWindow::place_on_screen() {
     SetWindowPos(window(), nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void TopLevelWindow::limit_sizing(WPARAM edge, RECT& area) const {
-    // Without this limit, the form's own rule would push the border back only after the user has dragged it.
-    const LONG width = std::max<LONG>(area.right - area.left, to_pixels(minimum_.width, dpi_));
-    const LONG height = std::max<LONG>(area.bottom - area.top, to_pixels(minimum_.height, dpi_));
-    const bool pulls_left = edge == WMSZ_LEFT || edge == WMSZ_TOPLEFT || edge == WMSZ_BOTTOMLEFT;
-    const bool pulls_top = edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT;
-    if (pulls_left) {
-        area.left = area.right - width;
+void TopLevelWindow::limit_size(MINMAXINFO& limits) const {
+    const RECT screen = free_area(window());
+    POINT& least = limits.ptMinTrackSize;
+    least.x = std::max(least.x, std::min<LONG>(to_pixels(minimum_.width, dpi_), screen.right - screen.left));
+    least.y = std::max(least.y, std::min<LONG>(to_pixels(minimum_.height, dpi_), screen.bottom - screen.top));
+}
+
+void TopLevelWindow::size_changed(WPARAM state) {
+    if (state != SIZE_RESTORED) return;
+    const WindowSize size = outer_size_;
+    outer_size_ = {width(), height()};
+    if (std::exchange(fits_resolution_, true)) return;
+    // The resolution has changed while the window was minimised or maximised.
+    if (inner_size_) {
+        set_inner_size(inner_size_->width, inner_size_->height);
     } else {
-        area.right = area.left + width;
+        set_size(size.width, size.height);
     }
-    if (pulls_top) {
-        area.top = area.bottom - height;
+    outer_size_ = size;
+}
+
+bool TopLevelWindow::scale_size(int dpi, SIZE& size) const {
+    if (!is_normal()) return false;
+    if (inner_size_) {
+        RECT area{0, 0, to_pixels(inner_size_->width, dpi), to_pixels(inner_size_->height, dpi)};
+        const auto style = static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_STYLE));
+        const auto extended = static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_EXSTYLE));
+        AdjustWindowRectExForDpi(&area, style, GetMenu(window()) != nullptr, extended, static_cast<UINT>(dpi));
+        size = {area.right - area.left, area.bottom - area.top};
     } else {
-        area.bottom = area.top + height;
+        size = {to_pixels(outer_size_.width, dpi), to_pixels(outer_size_.height, dpi)};
     }
+    return true;
 }
 
 void TopLevelWindow::place_for_resolution(const RECT& suggested) {
-    SetWindowPos(window(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
-                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    if (inner_size_ && !IsIconic(window())) set_inner_size(inner_size_->width, inner_size_->height);
+    const WindowSize size = outer_size_;
+    fits_resolution_ = true;
+    if (!IsIconic(window())) {
+        SetWindowPos(window(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                     suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    fits_resolution_ = is_normal();
+    if (fits_resolution_ && inner_size_) set_inner_size(inner_size_->width, inner_size_->height);
+    // Not what whole pixels have made of it, which would drift from one resolution to the next.
+    outer_size_ = size;
 }
 
 }  // namespace quillomat

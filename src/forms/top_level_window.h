@@ -8,6 +8,9 @@
 
 namespace quillomat {
 
+/// Where a window is placed over another window.
+enum class Over { Middle, Top };
+
 /// The place, size and resolution of a top-level window. Sizes and positions are in twips.
 class TopLevelWindow : public Container {
   public:
@@ -27,27 +30,38 @@ class TopLevelWindow : public Container {
     /// Sizes the window so that its inside, without border, title bar and menu bar, has this size. The inner size is
     /// kept when the resolution changes.
     void set_inner_size(double width, double height);
+    /// Centres the window over another one, which may be on a monitor of another resolution: in both directions, or
+    /// horizontally with the upper edges in line.
+    void place_over(const TopLevelWindow& other, Over place = Over::Middle);
     /// Centres the window in the work area of its monitor.
     void centre_on_screen();
     /// Moves and shrinks the window as needed to fit it into the work area of its monitor.
     void place_on_screen();
 
   protected:
-    /// `minimum` is the smallest size to which the user can drag the border.
+    /// `minimum` is the smallest size that the window takes, except on a smaller screen.
     explicit TopLevelWindow(const WindowSize& minimum) : minimum_(minimum) {}
 
     void set_dpi(int dpi) { dpi_ = dpi; }
-    /// Enlarges `area`, in pixels, to the minimum size, for WM_SIZING with `edge`.
-    void limit_sizing(WPARAM edge, RECT& area) const;
-    /// Moves the window to the rectangle that Windows suggests for a new resolution, in pixels. Keeps an inner size set
-    /// by `set_inner_size`.
+    /// Handles WM_GETMINMAXINFO: raises the smallest size in `limits` to the minimum.
+    void limit_size(MINMAXINFO& limits) const;
+    /// Handles WM_SIZE, whose wParam is `state`.
+    void size_changed(WPARAM state);
+    /// Handles WM_GETDPISCALEDSIZE: sets `size` to the outer size at a new resolution, in pixels. Returns false, to
+    /// leave the size to Windows, if the window is minimised or maximised.
+    bool scale_size(int dpi, SIZE& size) const;
+    /// Handles WM_DPICHANGED: moves the window to the rectangle that Windows suggests, in pixels. Keeps an inner size
+    /// set by `set_inner_size`.
     void place_for_resolution(const RECT& suggested);
 
   private:
     RECT outer() const;
+    bool is_normal() const { return !IsIconic(window()) && !IsZoomed(window()); }
 
     WindowSize minimum_;
     std::optional<WindowSize> inner_size_;  // kept at every resolution
+    WindowSize outer_size_;                 // the same, unless there is an inner size
+    bool fits_resolution_ = true;           // false after a change while the window was minimised or maximised
     int dpi_ = 96;
 };
 

@@ -48,17 +48,47 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
     }
 }
 
-TEST_F(FormsTest, AFixedWindowKeepsItsInsideAndIsLaidOutOnceAtEachResolution) {
+/// Changes the resolution as Windows does; it suggests a size in proportion, which the window may correct.
+void change_resolution(Form& form, int dpi) {
+    SIZE size{MulDiv(to_pixels(form.width(), form.dpi()), dpi, form.dpi()),
+              MulDiv(to_pixels(form.height(), form.dpi()), dpi, form.dpi())};
+    SendMessageW(form.window(), WM_GETDPISCALEDSIZE, static_cast<WPARAM>(dpi), reinterpret_cast<LPARAM>(&size));
+    const RECT suggested{10, 10, 10 + size.cx, 10 + size.cy};
+    SendMessageW(form.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+}
+
+TEST_F(FormsTest, AWindowKeepsItsSizeAndIsLaidOutOnceAtEachResolution) {
     Form fixed(application, {.name = L"frmFixed", .caption = L"", .border = FormBorder::Fixed});
     fixed.set_inner_size(3000, 3000);
-    fixed.show();
+    Form sizable(application, {.name = L"frmSizable", .caption = L"", .width = 3600, .height = 3600});
     int layouts = 0;
-    fixed.on_resize = [&] { ++layouts; };
-    for (const int dpi : {144, 96, 192}) {
-        const RECT suggested{10, 10, 400, 400};
-        SendMessageW(fixed.window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
-        EXPECT_EQ(std::exchange(layouts, 0), 1);
+    for (Form* form : {&fixed, &sizable}) {
+        form->show();
+        form->on_resize = [&] { ++layouts; };
+    }
+    const auto expect_sizes = [&](int dpi) {
         EXPECT_TRUE(fixed.inner_width() == 3000 && fixed.inner_height() == 3000) << dpi;
+        EXPECT_NEAR(sizable.width(), 3610, 7.5) << dpi;
+        EXPECT_NEAR(sizable.height(), 3610, 7.5) << dpi;
+    };
+    change_resolution(sizable, 144);
+    sizable.set_size(3610, 3610);
+    layouts = 0;
+    for (const int dpi : {96, 144, 96, 144, 96, 192}) {
+        for (Form* form : {&fixed, &sizable}) change_resolution(*form, dpi);
+        EXPECT_EQ(std::exchange(layouts, 0), 2);
+        expect_sizes(dpi);
+        RECT outer{};
+        GetWindowRect(fixed.window(), &outer);
+        EXPECT_TRUE(outer.left == 10 && outer.top == 10);
+    }
+    for (const auto state : {WindowState::Minimised, WindowState::Maximised}) {
+        for (Form* form : {&fixed, &sizable}) {
+            form->set_window_state(state);
+            change_resolution(*form, state == WindowState::Minimised ? 96 : 144);
+            form->set_window_state(WindowState::Normal);
+        }
+        expect_sizes(0);
     }
 }
 

@@ -194,15 +194,11 @@ void WindowWalk::look_at_layout(HWND window) {
     expect_whole_layout(window);
     if (!(GetWindowLongPtrW(window, GWL_STYLE) & WS_THICKFRAME)) return;
     SCOPED_TRACE("as small as the user can make it");
-    const auto resize = [window](RECT to) {
-        SendMessageW(window, WM_SIZING, WMSZ_BOTTOMRIGHT, reinterpret_cast<LPARAM>(&to));
-        MoveWindow(window, to.left, to.top, to.right - to.left, to.bottom - to.top, TRUE);
-    };
     RECT former{};
     GetWindowRect(window, &former);
-    resize({former.left, former.top, former.left + 1, former.top + 1});
+    MoveWindow(window, former.left, former.top, 1, 1, TRUE);
     expect_whole_layout(window);
-    resize(former);
+    MoveWindow(window, former.left, former.top, former.right - former.left, former.bottom - former.top, TRUE);
 }
 
 void WindowWalk::look_at_everything(HWND window) {
