@@ -10,13 +10,12 @@ void UpdatePointer(PointerState& pointer) {
     pointer.PointerWindow = WindowFromPoint(pointer.PointerPos);
 }
 
-void GetScreenSize(int& width, int& height, ScreenUnit unit) {
+void GetScreenSize(int& width, int& height, int dpi) {
     width = GetSystemMetrics(SM_CXSCREEN);
     height = GetSystemMetrics(SM_CYSCREEN);
-    if (unit == ScreenUnit::Twips) {
-        const int dots_per_inch = static_cast<int>(GetDpiForSystem());
-        width = MulDiv(width, twips_per_inch, dots_per_inch);
-        height = MulDiv(height, twips_per_inch, dots_per_inch);
+    if (dpi) {
+        width = MulDiv(width, twips_per_inch, dpi);
+        height = MulDiv(height, twips_per_inch, dpi);
     }
 }
 

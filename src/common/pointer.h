@@ -14,11 +14,8 @@ struct PointerState {
 /// Reads the pointer's position and the window under it.
 void UpdatePointer(PointerState& pointer);
 
-/// The unit of lengths on the screen.
-enum class ScreenUnit { Pixels, Twips };
-
-/// Gets the width and height of the primary screen.
-void GetScreenSize(int& width, int& height, ScreenUnit unit = ScreenUnit::Pixels);
+/// Gets the width and height of the primary screen in pixels, or in twips of a window with `dpi` dots per inch.
+void GetScreenSize(int& width, int& height, int dpi = 0);
 
 /// Converts a horizontal position from pixels to the units of `mouse_event`, of which the screen's width has 65535.
 int ToAbsoluteX(int x);

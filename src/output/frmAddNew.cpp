@@ -90,8 +90,7 @@ void frmAddNew::Form_Load() {
 }
 
 void frmAddNew::centre_over_viewer() {
-    const Form& viewer = viewer_.window();
-    move_to(viewer.left() + (viewer.width() - width()) / 2, viewer.top() + (viewer.height() - height()) / 2);
+    place_over(viewer_.window());
 }
 
 void frmAddNew::Form_Unload() {

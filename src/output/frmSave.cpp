@@ -82,8 +82,7 @@ void frmSave::Form_Load() {
     if (answers_at_once(current_folder())) open_first_folder();
     Text1.set_text(proposed_file_name(game));
     SelectAllText(Text1);
-    const Form& viewer = viewer_.window();
-    move_to(viewer.left() + (viewer.width() - width()) / 2, viewer.top() + (viewer.height() - height()) / 2);
+    place_over(viewer_.window());
 }
 
 void frmSave::open_first_folder() {

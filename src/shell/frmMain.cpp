@@ -132,7 +132,7 @@ void frmMain::Form_Load() {
     centre_on_screen();
     int screen_width = 0;
     int screen_height = 0;
-    GetScreenSize(screen_width, screen_height, ScreenUnit::Twips);
+    GetScreenSize(screen_width, screen_height, dpi());
     Frame1.set_width(screen_width);
     Frame1.set_left(0);
     count_run();

@@ -117,10 +117,11 @@ void frmCtlView::open_status() {
     status_->begin();
     int screen_width = 0;
     int screen_height = 0;
-    GetScreenSize(screen_width, screen_height, ScreenUnit::Twips);
+    GetScreenSize(screen_width, screen_height, status_->dpi());
     const double left = (screen_width - status_->width()) / 2;
     if (window_state() == WindowState::Normal) {
-        status_->move_to(left, progress_window_top(top() + height(), status_->height(), screen_height));
+        const double bottom = (top() + height()) * dpi() / status_->dpi();
+        status_->move_to(left, progress_window_top(bottom, status_->height(), screen_height));
     } else if (window_state() == WindowState::Maximised) {
         status_->move_to(left, (screen_height - status_->height()) / 2);
     }

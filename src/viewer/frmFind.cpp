@@ -70,7 +70,7 @@ void frmFind::Form_Load() {
         state_.gFirstTime = changed;
     }
     txtFind.set_focus();
-    move_to(searched_.left() + (searched_.width() - width()) / 2, searched_.top());
+    place_over(searched_, Over::Top);
     stay_in_front();
 }
 
