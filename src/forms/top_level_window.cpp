@@ -81,7 +81,7 @@ void TopLevelWindow::set_inner_size(double width, double height) {
 
 void TopLevelWindow::place_over(const TopLevelWindow& other, Over place) {
     const RECT below = other.outer();
-    // Twice, because the window takes another size on a screen of another resolution.
+    // Twice, because the move to a monitor of another resolution changes the size.
     for (int i = 0; i < 2; ++i) {
         const RECT own = outer();
         const LONG left = (below.left + below.right - (own.right - own.left)) / 2;
@@ -155,7 +155,7 @@ void TopLevelWindow::place_for_resolution(const RECT& suggested) {
     }
     fits_resolution_ = is_normal();
     if (fits_resolution_ && inner_size_) set_inner_size(inner_size_->width, inner_size_->height);
-    // Not what whole pixels have made of it, which would drift from one resolution to the next.
+    // Keep the size before its rounding to whole pixels, which would add up over several changes.
     outer_size_ = size;
 }
 

@@ -60,7 +60,7 @@ class TopLevelWindow : public Container {
 
     WindowSize minimum_;
     std::optional<WindowSize> inner_size_;  // kept at every resolution
-    WindowSize outer_size_;                 // the same, unless there is an inner size
+    WindowSize outer_size_;                 // kept at every resolution unless `inner_size_` is set
     bool fits_resolution_ = true;           // false after a change while the window was minimised or maximised
     int dpi_ = 96;
 };
