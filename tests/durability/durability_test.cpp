@@ -123,20 +123,11 @@ int fill_disk(const std::wstring& path) {
     return 1;
 }
 
-int run(const std::vector<std::wstring>& arguments) {
-    const std::wstring& mode = arguments.at(0);
-    if (mode == L"full") return fill_disk(arguments.at(1));
-    if (mode == L"kill") return kill_often(std::stoi(arguments.at(1)));
-    return write_on_and_on(arguments.at(1), std::stoul(arguments.at(2)));
-}
-
 }  // namespace
 
-int wmain(int count, wchar_t** arguments) {
-    try {
-        return run({arguments + std::min(count, 1), arguments + count});
-    } catch (const quillomat::Error& error) {
-        std::printf("failed: error %d\n", static_cast<int>(error.code()));
-        return 1;
-    }
+int wmain(int, wchar_t** arguments) {
+    const std::wstring mode = arguments[1];
+    if (mode == L"full") return fill_disk(arguments[2]);
+    if (mode == L"kill") return kill_often(std::stoi(arguments[2]));
+    return write_on_and_on(arguments[2], std::stoul(arguments[3]));
 }

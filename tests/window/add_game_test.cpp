@@ -67,6 +67,11 @@ TEST_F(AddGameTest, ARefusalIsExplainedAndLeavesTheFileAsItWasAndWhatWasTyped) {
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(window->Text2.text(), L"text");
     expect_unchanged(3);  // what was done stays done
+    session.viewer.game_count = Catalogue::slot_count;
+    expect_message(L"Overload!", L"Sorry, you have reached the maximum limit of games!");
+    add(L"One more", L"text");
+    EXPECT_SOON(!window);
+    EXPECT_TRUE(bytes("Cheats.dat") == database && viewer->List2.count() == 3);
 }
 
 TEST_F(AddGameTest, TheHelpOfTheDisabledButtonStaysOnlyWhileThePointerIsOnIt) {
@@ -76,15 +81,6 @@ TEST_F(AddGameTest, TheHelpOfTheDisabledButtonStaysOnlyWhileThePointerIsOnIt) {
     window->Text3.set_focus();
     EXPECT_TRUE(window->cmdButton[1]->has_focus()) << "never on the box, which hides";
     EXPECT_TRUE(point_until(window->Text2.window(), 9, 9, [&] { return !shown(); }));
-}
-
-TEST_F(AddGameTest, TheLimitIsToldAndNothingIsStored) {
-    open();
-    session.viewer.game_count = Catalogue::slot_count;
-    expect_message(L"Overload!", L"Sorry, you have reached the maximum limit of games!");
-    add(L"One more", L"text");
-    EXPECT_SOON(!window);
-    EXPECT_TRUE(bytes("Cheats.dat") == database && viewer->List2.count() == 2);
 }
 
 TEST_F(AddGameTest, KeysLeadThroughTheWindow) {
