@@ -33,7 +33,7 @@ constexpr wchar_t no_printer[] =
     const DWORD code = GetLastError();
     if (code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED) throw_cancelled();
     const Error error = error_from_code(code);
-    if (error.code() == ErrorCode::DiskFull || error.code() == ErrorCode::OutOfMemory) throw error;
+    if (error.code() == ErrorCode::DiskFull || error.code() == ErrorCode::OutOfMemory) throw Error(error);
     throw Error(ErrorCode::PrinterError,
                 L"The document was not printed, or not all of it, because the printer \"" + printer +
                     L"\" could not be reached. Check that it is switched on and connected, and try again.");
