@@ -175,7 +175,10 @@ TEST_F(PaintingTest, ControlsHaveTheirColoursAndTextsThatCanBeRead) {
         EXPECT_GT(count(board.Button1, text), 20);
     }
     ShowTip(board.Button1, board.Help, L"Help");
-    EXPECT_GT(count(board.Help, colours::tip_background), 100) << "in front of the list";
+    RECT place{};
+    GetWindowRect(board.Help.window(), &place);
+    MapWindowPoints(nullptr, board.window(), reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_GT(shown().count(place, resolve(colours::tip_background)), 100) << "in front of the list";
 }
 
 TEST_F(PaintingTest, TheFolderListShowsStepsWithTheirIconsAndTheSelectedOneLit) {
