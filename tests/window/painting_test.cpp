@@ -174,6 +174,7 @@ TEST_F(PaintingTest, ControlsHaveTheirColoursAndTextsThatCanBeRead) {
         EXPECT_GT(count(board.Button1, back), 500);
         EXPECT_GT(count(board.Button1, text), 20);
     }
+    board.List1.set_back_colour(green);
     ShowTip(board.Button1, board.Help, L"Help");
     RECT place{};
     GetWindowRect(board.Help.window(), &place);
