@@ -115,6 +115,7 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
     press_key(VK_UP);
     EXPECT_SOON(viewer->Frame2.visible() && !viewer->List2.visible()) << "the arrow keys stay among the options";
     ASSERT_TRUE(viewer->Option3.value());
+    viewer->Command1.set_focus();
     click_on(viewer->Option3.window());
     EXPECT_SOON(is_typed_over(L"before")) << "also after a click on the scope that is set already";
     const auto search = [&](const wchar_t* keyword, const wchar_t* expected) {
