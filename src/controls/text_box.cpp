@@ -11,7 +11,8 @@ namespace {
 // The default limit for typed text is 32 K or 64 K characters.
 constexpr WPARAM no_limit = 0x7FFFFFFE;
 
-// Wine: the time to break a line grows with the square of its length. A line of this length takes no noticeable time.
+// Wine: the time to break a line grows with the square of its length. It was 0.5 s for 20,000 characters and 75 s for
+// 200,000.
 constexpr std::size_t longest_broken_line = 20'000;
 
 // The largest size in which the help texts fit the boxes with a given width, such as those of the viewer's image bar.
