@@ -363,7 +363,6 @@ void Form::resolution_changed(int system_dpi, const RECT& suggested) {
     set_dpi(application_.forced_dpi() ? application_.forced_dpi() : system_dpi);
     internals_.tool_tips.fit_resolution(dpi());
     items_resolution_changed();
-    internals_.commands.renew_pictures();
     resolution_changing_ = true;
     place_for_resolution(suggested);
     resolution_changing_ = false;

@@ -4,27 +4,8 @@
 
 #include "forms/form.h"
 #include "win/errors.h"
-#include "win/gdi.h"
 
 namespace quillomat {
-namespace {
-
-/// Returns the bitmap of a picture for a menu entry.
-GdiObject<HBITMAP> menu_bitmap(const Picture& picture, int pixels) {
-    GdiObject<HBITMAP> bitmap = picture.bitmap(pixels);
-    // Wine: menus copy bitmaps without blending them, so the picture needs the menu's colour behind it.
-    const bool is_copied = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    if (is_copied && bitmap) {
-        const MemoryCanvas memory(nullptr);
-        const Selection selected(memory.get(), bitmap.get());
-        const RECT area{0, 0, pixels, pixels};
-        fill(memory.get(), area, colours::menu);
-        picture.draw(memory.get(), area);
-    }
-    return bitmap;
-}
-
-}  // namespace
 
 std::wstring without_access_keys(std::wstring_view text) {
     std::wstring caption;
@@ -123,21 +104,8 @@ void Menu::set_enabled(bool enabled) {
     EnableMenuItem(container_, static_cast<UINT>(id_), enabled ? MF_ENABLED : MF_GRAYED);
 }
 
-void Menu::set_pictures(const Picture& unchecked, const Picture& checked) {
-    unchecked_picture_ = unchecked;
-    checked_picture_ = checked;
-    renew_pictures();
-}
-
-void Menu::renew_pictures() {
-    if (!unchecked_picture_ && !checked_picture_) return;
-    const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(form_.dpi()));
-    auto unchecked = menu_bitmap(unchecked_picture_, size);
-    auto checked = menu_bitmap(checked_picture_, size);
-    SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked.get(), checked.get());
-    // The menu has used the former bitmaps until now.
-    unchecked_bitmap_ = std::move(unchecked);
-    checked_bitmap_ = std::move(checked);
+void Menu::set_bitmaps(HBITMAP unchecked, HBITMAP checked) {
+    SetMenuItemBitmaps(container_, static_cast<UINT>(id_), MF_BYCOMMAND, unchecked, checked);
 }
 
 void Menu::pop_up(double left, double top, const Menu* default_item) {

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "win/api.h"
-#include "win/picture.h"
 
 namespace quillomat {
 
@@ -60,8 +59,8 @@ class Menu {
     /// Whether the user can pick the entry.
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
-    /// Sets the pictures beside the entry when it is unchecked and checked.
-    void set_pictures(const Picture& unchecked, const Picture& checked);
+    /// Sets the bitmaps beside the entry when it is unchecked and checked. The caller owns them and keeps them alive.
+    void set_bitmaps(HBITMAP unchecked, HBITMAP checked);
 
     /// Shows the menu at a position in the form, in twips, and raises the event of the entry that the user picks.
     /// `default_item` is shown bold.
@@ -74,8 +73,6 @@ class Menu {
     int id() const { return id_; }
     /// Raises the event unless the entry is disabled.
     void pick();
-    /// Scales the pictures for the form's resolution.
-    void renew_pictures();
 
   private:
     void attach(HMENU parent);
@@ -92,10 +89,6 @@ class Menu {
     Ampersands ampersands_ = Ampersands::MarkAccessKeys;
     bool checked_ = false;
     bool enabled_ = true;
-    Picture unchecked_picture_;
-    Picture checked_picture_;
-    GdiObject<HBITMAP> unchecked_bitmap_;
-    GdiObject<HBITMAP> checked_bitmap_;
 };
 
 }  // namespace quillomat

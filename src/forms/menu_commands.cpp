@@ -33,8 +33,4 @@ void MenuCommands::opens(HMENU menu) const {
     if (opened != menus_.end()) raise(opened->second->on_click);
 }
 
-void MenuCommands::renew_pictures() const {
-    for (const auto& [id, menu] : menus_) menu->renew_pictures();
-}
-
 }  // namespace quillomat

@@ -18,8 +18,6 @@ class MenuCommands {
     bool pick(int id) const;
     /// Raises the event of a menu that is about to open.
     void opens(HMENU menu) const;
-    /// Scales the pictures of all entries for the form's resolution.
-    void renew_pictures() const;
 
   private:
     std::unordered_map<int, Menu*> menus_;

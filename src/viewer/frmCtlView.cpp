@@ -131,6 +131,7 @@ void frmCtlView::Form_Resize() {
         return;
     }
     set_caption(session_.viewer.current_title);
+    menus.fit_pictures(dpi());
     if (restore_minimum_size(*this, minimum_size)) return;
     Text1.set_size(width() - 2980, height() - 1755);
     List2.set_height(height() - 2115);

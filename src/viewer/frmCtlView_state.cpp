@@ -38,7 +38,7 @@ void frmCtlView::start_up() {
     session_.viewer.next_letter = L'A';
     list_cached_fonts();
     build_alphabet_bar();
-    menus.attach_pictures();
+    menus.fit_pictures(dpi());
 }
 
 void frmCtlView::fill_full_list() {

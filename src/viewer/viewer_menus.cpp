@@ -1,23 +1,58 @@
 #include "viewer/viewer_menus.h"
 
+#include <utility>
+
 #include "forms/events.h"
 #include "resources/pictures.h"
+#include "win/picture.h"
 
 namespace quillomat {
+namespace {
+
+/// Returns the bitmap of a picture for a menu entry.
+GdiObject<HBITMAP> menu_bitmap(const Picture& picture, int pixels) {
+    GdiObject<HBITMAP> bitmap = picture.bitmap(pixels);
+    // Wine: menus copy bitmaps without blending them, so the picture needs the menu's colour behind it.
+    const bool is_copied = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    if (is_copied && bitmap) {
+        const MemoryCanvas memory(nullptr);
+        const Selection selected(memory.get(), bitmap.get());
+        const RECT area{0, 0, pixels, pixels};
+        fill(memory.get(), area, colours::menu);
+        picture.draw(memory.get(), area);
+    }
+    return bitmap;
+}
+
+}  // namespace
 
 ViewerMenus::ViewerMenus(Form& form) : bar(form), mnuSelected(form, L"Selected"), mnuTextBox(form, L"TextBox") {
     add_font_entry(L"Click &here to get font list...", Ampersands::MarkAccessKeys);
 }
 
-void ViewerMenus::attach_pictures() {
-    const auto Image3 = [](int index) { return Picture(PICTURE_MENU_FIRST + index); };
-    Menu* const first_menu[] = {&mnuSave, &mnuAddNew, &mnuMailCheats, &mnuExit};
-    for (int k = 0; k < 4; ++k) first_menu[k]->set_pictures(Image3(k), Image3(k));
-    mnuCopy.set_pictures(Image3(5), Image3(5));
-    mnuColour.set_pictures(Image3(7), Image3(6));
-    mnuAutoSelect.set_pictures(Image3(10), Image3(9));
-    mnuPrint.set_pictures(Image3(8), Image3(8));
-    mnuPrintGames.set_pictures(Image3(8), Image3(8));
+void ViewerMenus::fit_pictures(int dpi) {
+    if (dpi == pictures_dpi_) return;
+    pictures_dpi_ = dpi;
+    const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(dpi));
+    // The elements of the picture array Image3 for an entry without and with a check mark.
+    struct Pictured {
+        Menu& entry;
+        int unchecked;
+        int checked;
+    };
+    const Pictured entries[] = {{mnuSave, 0, 0},  {mnuAddNew, 1, 1},     {mnuMailCheats, 2, 2},
+                                {mnuExit, 3, 3},  {mnuCopy, 5, 5},       {mnuColour, 7, 6},
+                                {mnuPrint, 8, 8}, {mnuPrintGames, 8, 8}, {mnuAutoSelect, 10, 9}};
+    std::vector<GdiObject<HBITMAP>> bitmaps;
+    const auto add_bitmap = [&](int index) {
+        bitmaps.push_back(menu_bitmap(Picture(PICTURE_MENU_FIRST + index), size));
+        return bitmaps.back().get();
+    };
+    for (const auto& [entry, unchecked, checked] : entries) {
+        entry.set_bitmaps(add_bitmap(unchecked), add_bitmap(checked));
+    }
+    // The menus have used the former bitmaps until now.
+    bitmaps_ = std::move(bitmaps);
 }
 
 void ViewerMenus::add_font(const std::wstring& name) {

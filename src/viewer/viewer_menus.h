@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/menu.h"
+#include "win/gdi.h"
 
 namespace quillomat {
 
@@ -50,8 +51,8 @@ struct ViewerMenus {
     Menu mnuTextBoxInCheats{mnuTextBoxSearch, L"In &Cheats"};
     Menu mnuTextBoxFind{mnuTextBox, L"&Find..."};
 
-    /// Adds the pictures to the entries of the first two menus.
-    void attach_pictures();
+    /// Gives the entries of the first two menus their pictures, in the size for the form's resolution.
+    void fit_pictures(int dpi);
     /// Adds an entry for a font at the end of the font menu.
     void add_font(const std::wstring& name);
     /// Removes all entries but the first from the font menu.
@@ -59,6 +60,9 @@ struct ViewerMenus {
 
   private:
     void add_font_entry(const std::wstring& caption, Ampersands ampersands);
+
+    int pictures_dpi_ = 0;  // the resolution that the pictures fit
+    std::vector<GdiObject<HBITMAP>> bitmaps_;
 };
 
 }  // namespace quillomat
