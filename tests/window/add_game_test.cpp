@@ -19,9 +19,6 @@ struct AddGameTest : ShownViewerTest {
         window->Text2.set_text(cheats);
         window->cmdButton[0]->click();
     }
-    void expect_added(const std::wstring& name) {
-        expect_message(L"Quillomat", L"The cheat codes for " + name + L" have been successfully added!");
-    }
     void expect_unchanged(int games) {
         EXPECT_EQ(bytes("Cheats.dat"), database);
         EXPECT_TRUE(session.viewer.game_count == games && viewer->List2.count() == games);
@@ -35,7 +32,7 @@ TEST_F(AddGameTest, AppendsExactlyTheRecordAndShowsTheGameHoweverLong) {
     open();
     const std::wstring name = L"ALPHA " + std::wstring(10'000, L'N');
     const std::wstring cheats = L" first\r\n\r\n" + std::wstring(200'000, L'x') + L" \r\n";
-    expect_added(name);
+    expect_message(L"Quillomat", L"The cheat codes for " + name + L" have been successfully added!");
     add(name, cheats);
     EXPECT_SOON(!window);
     EXPECT_TRUE(viewer->caption() == name && viewer->Text1.text() == cheats) << "the viewer shows it";
@@ -61,7 +58,7 @@ TEST_F(AddGameTest, ARefusalIsExplainedAndLeavesTheFileAsItWasAndWhatWasTyped) {
     expect_unchanged(2);
     const std::filesystem::path file = folder.path() / "Cheats.dat";
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-    expect_added(L"First");
+    expect_message(L"Quillomat", L"The cheat codes for First have been successfully added!");
     expect_message(L"Error!", L"Permission denied");
     add(L"First", L"text");
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);

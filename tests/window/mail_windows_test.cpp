@@ -253,11 +253,6 @@ TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowAndThrowsAwayAProposal) {
     EXPECT_SOON(!form) << "nothing but the proposal is thrown away";
 }
 
-/// A text of the wide functions' structures, which only newer headers have: they differ in their characters alone.
-std::wstring wide(const char* text) {
-    return reinterpret_cast<const wchar_t*>(text);
-}
-
 }  // namespace
 
 extern "C" {
@@ -279,14 +274,15 @@ __declspec(dllexport) ULONG WINAPI
     EXPECT_TRUE(session == only_session && mail->nRecipCount == 1 && recipient.ulRecipClass == MAPI_TO &&
                 !(flags & MAPI_DIALOG) && IsWindow(reinterpret_cast<HWND>(owner)));
     if (mail_program.while_sending) mail_program.while_sending(reinterpret_cast<HWND>(owner));
+    // The structures of the wide function, which only newer headers have, differ in their characters alone.
     mail_program.mail.clear();
     for (const char* part : {recipient.lpszAddress, recipient.lpszName, mail->lpszSubject, mail->lpszNoteText}) {
-        mail_program.mail += wide(part) + L"\n";
+        mail_program.mail.append(reinterpret_cast<const wchar_t*>(part)) += L"\n";
     }
     if (mail->nFileCount == 1) {
         const MapiFileDesc& file = mail->lpFiles[0];
         EXPECT_TRUE(file.nPosition == 0xFFFFFFFF && !file.lpszFileName);
-        const std::filesystem::path path = wide(file.lpszPathName);
+        const std::filesystem::path path = reinterpret_cast<const wchar_t*>(file.lpszPathName);
         mail_program.mail += path.filename().wstring() + L"\n" + decode(bytes_of(path)) + L"\n";
     }
     return mail_program.call("send");
