@@ -19,7 +19,6 @@ namespace {
 
 constexpr Colour red = rgb(255, 0, 0);
 constexpr Colour green = rgb(0, 128, 0);
-constexpr Colour green_of_user = rgb(0, 255, 0);
 int count(const Control& control, Colour colour) {
     const ShownPixels shown(control.window());
     return shown.count(shown.area(), resolve(colour));
@@ -63,13 +62,11 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
         {"italic label", [&](bool on) { board.Label1.set_font({.points = 20, .italic = on}); }},
         {"disabled image", enable(board.Image1)},
         {"bordered image", [&](bool on) { board.Image1.set_border(static_cast<ImageBorder>(on)); }},
-        {"hidden image", [&](bool on) { board.Image1.set_visible(!on); }},
         {"disabled button", enable(board.Button1)},
         {"pressed button", send(board.Button2, BM_SETSTATE)},
         {"hovered button", hover(board.Button1)},
         {"default button", [&](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
         {"focused button", focus(board.Button2)},
-        {"underlined button", [&](bool on) { board.Button1.set_underlined(on); }},
         {"disabled option", enable(board.Option1)},
         {"set option", [&](bool on) { board.Option1.set_value(on); }},
         {"disabled check box", enable(board.Check1)},
@@ -217,7 +214,7 @@ TEST_F(PaintingTest, TheUsersColoursReachEverything) {
     EXPECT_EQ(shown().at(5, 5), colours::black.value) << "between the items";
     EXPECT_GT(count_on(board.Label1, colours::white), 20);
     board.Label1.set_enabled(false);
-    EXPECT_GT(count_on(board.Label1, green_of_user), 20);
+    EXPECT_GT(count_on(board.Label1, rgb(0, 255, 0)), 20);
     for (const Control* control : std::initializer_list<const Control*>{&board.Option1, &board.Check1, &board.List1,
                                                                         &board.Frame1, &board.Link1}) {
         EXPECT_GT(count(*control, colours::white), 10) << text_of(control->window()).c_str();
