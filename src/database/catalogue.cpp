@@ -73,8 +73,9 @@ std::wstring_view joined_lines(std::wstring_view lines) {
     return lines;
 }
 
-void check_number(int number) {
+std::size_t slot_of(int number) {
     if (number < 0 || number >= Catalogue::slot_count) throw Error(ErrorCode::SubscriptOutOfRange);
+    return static_cast<std::size_t>(number);
 }
 
 }  // namespace
@@ -88,41 +89,39 @@ void Catalogue::load(std::wstring text, const ListName& list_name) {
 
     std::wstring_view rest = text_;
     for (int number = 0; !rest.empty(); ++number) {
-        check_number(number);
+        const std::size_t slot = slot_of(number);
         const Record record = take_record(rest);
-        cheats_[number] = joined_lines(record.lines);
+        cheats_[slot] = joined_lines(record.lines);
         if (record.has_lone_returns) {
-            cheats_[number] = own_games_[number].cheats = joined_lines(with_whole_line_ends(record.lines));
+            cheats_[slot] = own_games_[number].cheats = joined_lines(with_whole_line_ends(record.lines));
         }
         if (record.name_line.empty()) return;
         // The line ends with the marker: there is neither a separator nor a name.
         if (record.name_line.size() == record_marker_length) throw Error(ErrorCode::InvalidArgument);
-        names_[number] = record.name_line.substr(record_marker_length + 1);
-        list_name(names_[number]);
+        names_[slot] = record.name_line.substr(record_marker_length + 1);
+        list_name(names_[slot]);
     }
 }
 
 void Catalogue::relist(const ListName& list_name) const {
-    for (int number = 0; !name(number).empty(); ++number) list_name(names_[number]);
+    for (int number = 0; !name(number).empty(); ++number) list_name(name(number));
 }
 
 std::wstring_view Catalogue::name(int number) const {
-    check_number(number);
-    return names_[number];
+    return names_[slot_of(number)];
 }
 
 std::wstring_view Catalogue::cheats(int number) const {
-    check_number(number);
-    return cheats_[number];
+    return cheats_[slot_of(number)];
 }
 
 void Catalogue::store(int number, std::wstring name, std::wstring cheats) {
-    check_number(number);
+    const std::size_t slot = slot_of(number);
     const Game& game = own_games_[number] = Game{std::move(name), std::move(cheats)};
-    names_[number] = game.name;
-    cheats_[number] = game.cheats;
+    names_[slot] = game.name;
+    cheats_[slot] = game.cheats;
     for (auto& texts : upper_cased_) {
-        if (!texts.empty()) texts[number].clear();
+        if (!texts.empty()) texts[slot].clear();
     }
 }
 
@@ -134,16 +133,16 @@ void Catalogue::search(SearchScope scope, std::wstring_view keyword, int game_co
 }
 
 std::wstring_view Catalogue::upper_cased(SearchScope scope, int number) {
-    check_number(number);
+    const std::size_t slot = slot_of(number);
     std::vector<std::wstring>& texts = upper_cased_[static_cast<std::size_t>(scope)];
     texts.resize(slot_count);
-    if (texts[number].empty()) {
+    if (texts[slot].empty()) {
         std::wstring text(line_end);
-        text += scope == SearchScope::Names ? names_[number] : cheats_[number];
+        text += scope == SearchScope::Names ? names_[slot] : cheats_[slot];
         upper_case_(text.data(), text.size());
-        texts[number] = std::move(text);
+        texts[slot] = std::move(text);
     }
-    return texts[number];
+    return texts[slot];
 }
 
 }  // namespace quillomat
