@@ -31,7 +31,7 @@ struct FormDesign {
     double width = 0;
     double height = 0;
     FormBorder border = FormBorder::Sizable;
-    /// The smallest size to which the user can drag the border.
+    /// The smallest size that the window takes, in twips, except on a smaller screen.
     WindowSize minimum{};
 };
 
