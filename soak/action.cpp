@@ -39,6 +39,17 @@ void press(WORD key, unsigned modifiers) {
     press_key(key, held);
 }
 
+/// Types a UTF-16 code unit, whether the keyboard has a key for it or not. Real input.
+void type_character(wchar_t code_unit) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = code_unit;
+    for (const DWORD flags : {0, KEYEVENTF_KEYUP}) {
+        input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+        SendInput(1, &input, sizeof input);
+    }
+}
+
 }  // namespace
 
 std::string to_line(const Action& action) {

@@ -34,15 +34,4 @@ inline void press_key(WORD key, const std::vector<WORD>& held = {}) {
     for (const WORD modifier : held) send_key(modifier, KEYEVENTF_KEYUP);
 }
 
-/// Types a UTF-16 code unit, whether the keyboard has a key for it or not. Real input.
-inline void type_character(wchar_t code_unit) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = code_unit;
-    for (const DWORD flags : {0, KEYEVENTF_KEYUP}) {
-        input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
-        SendInput(1, &input, sizeof input);
-    }
-}
-
 }  // namespace quillomat

@@ -27,7 +27,8 @@ struct AnimationTest : SessionTest {
     /// Shows the main screen, which puts the pointer on its largest button, and waits until that has noticed it.
     void hover_over_button() {
         show(main_screen, session, windows);
-        ASSERT_SOON(main_screen->Command4.back_colour() != colours::button_face);
+        const Button& button = main_screen->Command4;
+        ASSERT_TRUE(point_until(button.window(), 8, 8, [&] { return button.back_colour() != colours::button_face; }));
     }
     /// What the window shows of a label, in pixels.
     static RECT shown(Label& label, const RECT& area) {
