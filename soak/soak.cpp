@@ -119,6 +119,15 @@ void Soak::note(const Action& action, const Scene& scene) {
     log_ << std::endl;
 }
 
+void Soak::end_hidden_messages() {
+    // Wine: a message box that is closed by its menu while it is moved by keys is hidden, but stays at work until the
+    // next key.
+    for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, message_box_class, nullptr)) != nullptr;) {
+        const bool is_own = process_of(box) == program_.process().dwProcessId;
+        if (is_own && !IsWindowVisible(box)) PostMessageW(box, WM_KEYDOWN, VK_ESCAPE, 0);
+    }
+}
+
 std::string Soak::input_fault() {
     // While a window opens or closes, the states of the others follow a moment later.
     constexpr std::chrono::seconds patience{5};
@@ -126,7 +135,9 @@ std::string Soak::input_fault() {
     wait_until(
         [&] {
             wrong.clear();
-            if (program_.running()) wrong = Scene(program_.process().dwProcessId).input_fault();
+            if (!program_.running()) return true;
+            wrong = Scene(program_.process().dwProcessId).input_fault();
+            if (!wrong.empty()) end_hidden_messages();
             return wrong.empty();
         },
         patience);

@@ -35,6 +35,7 @@ class Soak {
     void note(const Action& action, const Scene& scene);
     /// Returns how long the program took to answer a message, in seconds.
     double seconds_without_answer();
+    void end_hidden_messages();
     /// Returns `Scene::input_fault` after a short wait for it to become empty.
     std::string input_fault();
     void look_after_program();
