@@ -8,14 +8,15 @@
 #include "text/question.h"
 #include "win/program_folder.h"
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t* arguments, int) {
+// NOLINTNEXTLINE(readability-non-const-parameter): Windows gives the signature.
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t* lpCmdLine, int) {
     using namespace quillomat;
     Application application(product::title);
     try {
         Session session;
         session.program_folder = program_folder();
         Windows windows(application, session);
-        const std::wstring question = question_of(arguments);
+        const std::wstring question = question_of(lpCmdLine);
         if (question.empty()) {
             windows.open_splash();
         } else {

@@ -246,20 +246,23 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             internals_.keyboard.restore_focus();
             return 0;
         case WM_SETCURSOR:
-            // A press on a disabled window: the dialog it waits for may be hidden behind it.
-            if (LOWORD(lparam) == static_cast<WORD>(HTERROR) && is_button_press(HIWORD(lparam))) {
-                beep();
-                bring_to_foreground();
-                return TRUE;
-            }
-            if (pointer_ == PointerShape::Hourglass) {
-                SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)));
-                return TRUE;
-            }
+            if (pointer_over(LOWORD(lparam), HIWORD(lparam))) return TRUE;
             break;
     }
     if (const auto result = handle_container_message(message, wparam, lparam)) return *result;
     return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+bool Form::pointer_over(WORD place, WORD mouse_message) {
+    // A press on a disabled window: the dialog it waits for may be hidden behind it.
+    if (place == static_cast<WORD>(HTERROR) && is_button_press(mouse_message)) {
+        beep();
+        bring_to_foreground();
+        return true;
+    }
+    if (pointer_ != PointerShape::Hourglass) return false;
+    SetCursor(LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)));
+    return true;
 }
 
 void Form::timer_has_run(UINT_PTR id) {

@@ -113,6 +113,8 @@ class Form : public TopLevelWindow, public MouseEvents {
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
     static LRESULT window_destroyed(Form& form, HWND window, WPARAM wparam, LPARAM lparam);
+    /// Handles WM_SETCURSOR. Returns false to leave the shape of the pointer to Windows.
+    bool pointer_over(WORD place, WORD mouse_message);
     void timer_has_run(UINT_PTR id);
     void load();
     void resized();

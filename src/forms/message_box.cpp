@@ -10,9 +10,9 @@ MessageAnswer show_message(HWND form, const Message& message) {
     return show_message(Form::from(form)->application(), form, message);
 }
 
-MessageAnswer show_message(Application& application, HWND wanted, const Message& message) {
+MessageAnswer show_message(Application& application, HWND owner, const Message& message) {
     // Without an enabled owner, Windows would activate another program's window when the message box closes.
-    const HWND owner = application.modality().owner_for_message(wanted);
+    owner = application.modality().owner_for_message(owner);
     // MessageBox disables the owner only. The other windows are disabled here, because a handler is still running.
     const ModalScope modal(application, owner);
     return static_cast<MessageAnswer>(

@@ -11,7 +11,7 @@ namespace quillomat {
 bool occurs_in(std::wstring_view text, std::wstring_view keyword) {
     if (keyword.empty()) return true;
     constexpr std::size_t block_size = 128;
-    std::array<std::uint8_t, block_size> candidates;
+    std::array<std::uint8_t, block_size> candidates{};
     const wchar_t first = keyword.front();
     const wchar_t last = keyword.back();
     while (text.size() >= keyword.size()) {

@@ -51,7 +51,7 @@ Error error_from_code(DWORD code) {
         default:
             const std::wstring description = system_description(code);
             if (description.empty()) return Error(ErrorCode::DeviceError);
-            return Error(ErrorCode::DeviceError, description);
+            return {ErrorCode::DeviceError, description};
     }
 }
 

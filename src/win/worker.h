@@ -27,7 +27,7 @@ class Worker {
 
   private:
     struct Task;
-    static unsigned __stdcall run(void* task);
+    static unsigned __stdcall run(void* passed);
 
     std::shared_ptr<Task> task_;
     HANDLE thread_;
