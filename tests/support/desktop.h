@@ -11,11 +11,16 @@ namespace quillomat {
 
 constexpr wchar_t message_box_class[] = L"#32770";
 
-/// Returns the text of a window or a control of any process.
+/// Returns the text of a window or a control of any process; empty if there is no answer within five seconds.
 inline std::wstring text_of(HWND window) {
-    std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
-    text.resize(
-        static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+    // Wine: a message to a window of another process that is being destroyed may never be answered.
+    const auto ask = [window](UINT message, WPARAM wparam, LPARAM lparam) {
+        DWORD_PTR answer = 0;
+        SendMessageTimeoutW(window, message, wparam, lparam, SMTO_NORMAL, 5000, &answer);
+        return static_cast<std::size_t>(answer);
+    };
+    std::wstring text(ask(WM_GETTEXTLENGTH, 0, 0) + 1, L'\0');
+    text.resize(ask(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
     return text;
 }
 
