@@ -52,11 +52,9 @@ int run(int count, wchar_t** arguments) {
     }
     Program::executable = arguments[1];
     Soak soak(bytes_of(arguments[2]), std::filesystem::path(arguments[3]).string());
-    const bool replay = std::wstring_view(arguments[4]) == L"replay";
-    const Actions actions =
-        replay ? recorded_actions(arguments[5])
-               : random_actions(std::stod(arguments[4]), static_cast<unsigned>(std::stoul(arguments[5])));
-    return std::min(soak.play(actions), 1);
+    if (std::wstring_view(arguments[4]) == L"replay") return std::min(soak.play(recorded_actions(arguments[5])), 1);
+    const auto seed = static_cast<unsigned>(std::stoul(arguments[5]));
+    return std::min(soak.play(random_actions(std::stod(arguments[4]), seed)), 1);
 }
 
 }  // namespace

@@ -40,7 +40,11 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
         for (const bool by_user : {false, true}) {
             events = 0;
             control->set_focus();
-            by_user ? press_key(key) : change();
+            if (by_user) {
+                press_key(key);
+            } else {
+                change();
+            }
             EXPECT_SOON(events > 0);
             pump();
             EXPECT_EQ(events, 1) << key;

@@ -223,7 +223,7 @@ void WindowWalk::walk_by_tab(HWND window) {
         walked.clear();
         for (std::size_t i = 0; i < inputs.size(); ++i) {
             const HWND former = GetFocus();
-            backwards ? press_key(VK_TAB, {VK_SHIFT}) : press_key(VK_TAB);
+            press_key(VK_TAB, backwards ? std::vector<WORD>{VK_SHIFT} : std::vector<WORD>());
             if (!pump_until([former] { return GetFocus() != former; })) break;
             // In a box whose list drops down, the part that is typed into has the focus.
             const Control* control = Control::from(GetFocus());
