@@ -48,8 +48,8 @@ void Control::create_window(std::wstring_view text, DWORD style) {
     if (!window_) throw_last_error();
     SetPropW(window_, control_property, this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    // Wine: SetWindowSubclass looks its chain up for every message, so that listing 2,368 games took 190 ms; replacing
-    // the window procedure takes 13 ms.
+    // Wine: SetWindowSubclass looks its chain up for every message, so that listing 2,368 games takes 80 ms; with the
+    // window procedure replaced, it takes 8 ms.
     system_procedure_ =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     apply_font();
