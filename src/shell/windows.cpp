@@ -24,18 +24,18 @@ Windows::Windows(Application& application, Session& session) : application_(appl
     main_windows_.cheats = [this] { open_loading_window(); };
     main_windows_.mail_author = [this] { open_author_mail(); };
     main_windows_.about = [this] { open_about(); };
-    main_windows_.about_author = [this] { open_author(); };
+    main_windows_.about_author = [this] { open_author_dialog(); };
     main_windows_.link = [this](const std::wstring& address) { OpenLink(*main_screen_, address); };
     main_windows_.close_all = [this] { application_.close_all_forms(); };
     viewer_windows_.restore_main_screen = [this] { restore_main_screen(); };
-    viewer_windows_.mail_cheats = [this] { mail_cheats(); };
+    viewer_windows_.mail_cheats = [this] { open_mail_cheats(); };
     viewer_windows_.mail_author = [this](const std::wstring& text) {
         open_author_mail();
         if (author_mail_) author_mail_->propose_message(text);
     };
     viewer_windows_.add_game = [this] { open_add_game(); };
     viewer_windows_.save = [this] { open_save(); };
-    viewer_windows_.print_list = [this] { show_print_list(); };
+    viewer_windows_.print_list = [this] { open_print_list(); };
     viewer_windows_.find = [this] { open_find(); };
 }
 
@@ -72,11 +72,11 @@ void Windows::open_viewer() {
     open(viewer_, session_, viewer_windows_);
 }
 
-void Windows::open_viewer_for(const std::wstring& question) {
+void Windows::open_viewer_for(const std::wstring& query) {
     open_viewer();
     if (viewer_->window_state() == WindowState::Minimised) viewer_->set_window_state(WindowState::Normal);
     viewer_->guarded([&] {
-        viewer_->look_up(question);
+        viewer_->look_up(query);
         return LRESULT{};
     });
 }
@@ -92,7 +92,7 @@ void Windows::open_author_mail() {
     open(author_mail_, session_);
 }
 
-void Windows::mail_cheats() {
+void Windows::open_mail_cheats() {
     OpenViewer link(*viewer_);
     frmMailCheats(application_, session_, link).show_modal(viewer_.get());
 }
@@ -110,14 +110,14 @@ void Windows::open_save() {
 void Windows::open_about() {
     frmAbout about(application_, session_.pointer, session_.StartUpTimes);
     about.show_modal(main_screen_.get());
-    if (about.next() == frmAbout::Next::MessageToAuthor) raise(main_windows_.mail_author);
+    if (about.next() == frmAbout::Next::MessageToAuthor) open_author_mail();
 }
 
-void Windows::open_author() {
+void Windows::open_author_dialog() {
     Dialog1(application_, session_.pointer).show_modal(main_screen_.get());
 }
 
-void Windows::show_print_list() {
+void Windows::open_print_list() {
     OpenViewer link(*viewer_);
     frmPrintGames(application_, session_, link).show_modal(viewer_.get());
 }

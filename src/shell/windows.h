@@ -32,25 +32,25 @@ class Windows {
     /// Opens the loading window, which opens the viewer.
     void open_loading_window();
     void open_viewer();
-    /// Opens the viewer and lets it answer a question, see `frmCtlView::look_up`.
-    void open_viewer_for(const std::wstring& question);
+    /// Opens the viewer at a game or a search, see `frmCtlView::look_up`.
+    void open_viewer_for(const std::wstring& query);
     /// Opens the message to the author.
     void open_author_mail();
 
   private:
     template <class Window, class... Arguments>
     void open(std::unique_ptr<Window>& place, Arguments&&... arguments);
-    // Modal dialogs of the main screen: each call returns when its dialog has closed.
+    // Dialogs: each function returns when its dialog has closed. Those of the viewer need the viewer to be open.
     void open_about();
-    void open_author();
-    void restore_main_screen();
+    void open_author_dialog();
     void open_add_game();
     void open_save();
-    /// Opens the find dialog for the viewer's text.
+    void open_mail_cheats();
+    void open_print_list();
+    /// Opens the modeless find dialog for the viewer's text.
     void open_find();
+    void restore_main_screen();
     void quit_after_last();
-    void mail_cheats();
-    void show_print_list();
 
     Application& application_;
     Session& session_;
