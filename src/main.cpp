@@ -4,8 +4,8 @@
 #include "common/session.h"
 #include "forms/application.h"
 #include "shell/windows.h"
+#include "text/command_line.h"
 #include "text/product.h"
-#include "text/question.h"
 #include "win/program_folder.h"
 
 // NOLINTNEXTLINE(readability-non-const-parameter): Windows gives the signature.
@@ -16,11 +16,11 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t* lpCmdLine, int) {
         Session session;
         session.program_folder = program_folder();
         Windows windows(application, session);
-        const std::wstring question = question_of(lpCmdLine);
-        if (question.empty()) {
+        const std::wstring query = command_line_query(lpCmdLine);
+        if (query.empty()) {
             windows.open_splash();
         } else {
-            windows.open_viewer_for(question);
+            windows.open_viewer_for(query);
         }
         return application.run();
     } catch (...) {

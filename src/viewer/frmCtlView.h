@@ -65,9 +65,9 @@ class frmCtlView final : public Form {
     void ShowFrame();
     /// Prepares a search for the text selected in `Text1`.
     void SearchFor(SearchScope scope);
-    /// Shows the game whose name is `question` in any letter case. If there is none, searches the names for the
-    /// question, or the cheats if no name contains it, and shows the game if only one is found.
-    void look_up(const std::wstring& question);
+    /// Shows the game whose name is `query` in any letter case. If there is none, searches the names for `query`, or
+    /// the cheats if no name contains it, and shows the game if only one is found.
+    void look_up(const std::wstring& query);
     /// Sorts the captions of the font menu's entries `lower` to `upper`, both included.
     void QuickSort(int lower, int upper);
     /// Collects the installed fonts into the font menu, sorted, and stores their names in a file beside the program. A

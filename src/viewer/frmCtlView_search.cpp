@@ -106,8 +106,8 @@ void frmCtlView::SearchFor(SearchScope scope) {
     CenterMouseOn(Command1.window());
 }
 
-void frmCtlView::look_up(const std::wstring& question) {
-    const std::wstring keyword = upper_cased(question);
+void frmCtlView::look_up(const std::wstring& query) {
+    const std::wstring keyword = upper_cased(query);
     const int game_count = session_.viewer.game_count;
     // The user has been told already that the database could not be read.
     if (game_count == 0) return;
@@ -123,7 +123,7 @@ void frmCtlView::look_up(const std::wstring& question) {
     }
     scope_option(named ? SearchScope::Names : SearchScope::Cheats).set_value(true);
     Option2.set_value(true);
-    Text3.set_text(question);
+    Text3.set_text(query);
     Command1_Click();
     if (List1.count() == 1) List1.select_index(0);
 }

@@ -1,9 +1,9 @@
-#include "text/question.h"
+#include "text/command_line.h"
 
 namespace quillomat {
 
-std::wstring question_of(std::wstring_view arguments) {
-    std::wstring question;
+std::wstring command_line_query(std::wstring_view arguments) {
+    std::wstring query;
     bool between_words = false;
     for (const wchar_t character : arguments) {
         if (character == L'"') continue;
@@ -11,11 +11,11 @@ std::wstring question_of(std::wstring_view arguments) {
             between_words = true;
             continue;
         }
-        if (between_words && !question.empty()) question += L' ';
+        if (between_words && !query.empty()) query += L' ';
         between_words = false;
-        question += character;
+        query += character;
     }
-    return question;
+    return query;
 }
 
 }  // namespace quillomat
