@@ -51,7 +51,7 @@ void measure_loading(const std::filesystem::path& file) {
     print("load " + file.stem().string(), times[0], "ms", "read, decode", times[1], 2);
 }
 
-/// A viewer with a database of its own.
+// A viewer with a database of its own.
 struct OpenedViewer {
     OpenedViewer(Application& running, const std::string& database) : application(running) {
         folder.write("Cheats.dat", database);
@@ -76,7 +76,7 @@ struct OpenedViewer {
     OpenViewer link{viewer};
 };
 
-/// Prints the duration of an action that may take up to a frame, a sixtieth of a second.
+// Prints the duration of an action that may take up to a frame, a sixtieth of a second.
 void print_frame(const std::string& figure, const std::function<void()>& action, const std::function<void()>& before) {
     print(figure, medians({before, action})[1], "ms", "a frame", 17, 1);
 }
@@ -113,7 +113,7 @@ void measure_frames(OpenedViewer& open) {
     print_frame("click with 2500 picked", click, [] {});
 }
 
-/// Presses the button of every message box that appears.
+// Presses the button of every message box that appears.
 LRESULT CALLBACK on_window_event(int code, WPARAM wparam, LPARAM lparam) {
     const auto window = reinterpret_cast<HWND>(wparam);
     constexpr DWORD dialog_class = 32770;

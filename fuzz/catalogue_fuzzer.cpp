@@ -25,7 +25,7 @@ std::vector<std::wstring> load(Catalogue& catalogue, const std::wstring& text) {
 
 }  // namespace
 
-/// For any file: games that are read and written to a new file are read back as the same games.
+// For any file: games that are read and written to a new file are read back as the same games.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     // Created only once, because loading clears them.
     static Catalogue first{quillomat::upper_case};

@@ -14,7 +14,7 @@ void require(bool condition) {
 
 }  // namespace
 
-/// For any file: the names that are read can be listed in a menu, and are read back the same after writing.
+// For any file: the names that are read can be listed in a menu, and are read back the same after writing.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quillomat;
     const std::wstring text(data, data + size);

@@ -16,7 +16,7 @@ void require(bool condition) {
 
 }  // namespace
 
-/// The conversions of a text must agree with each other and with the C library's.
+// The conversions of a text must agree with each other and with the C library's.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quillomat;
     const std::wstring text(data, data + size);

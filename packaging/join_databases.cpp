@@ -24,13 +24,13 @@ namespace {
 
 using quillomat::record_marker_length;
 
-/// A game in the bytes of a file. Bytes are compared and copied without decoding them.
+// A game in the bytes of a file. Bytes are compared and copied without decoding them.
 struct Record {
     std::string_view bytes;
     std::string_view name;
 };
 
-/// Returns the games of a database, or nothing if it contains anything that the program would not have written.
+// Returns the games of a database, or nothing if it contains anything that the program would not have written.
 std::optional<std::vector<Record>> records_of(std::string_view database) {
     std::vector<Record> records;
     std::size_t record_start = 0;
@@ -50,7 +50,7 @@ std::optional<std::vector<Record>> records_of(std::string_view database) {
     return records;
 }
 
-/// Returns the part of a new database that goes before the player's games; empty if joining them is not safe.
+// Returns the part of a new database that goes before the player's games; empty if joining them is not safe.
 std::string part_before(std::string_view new_database, std::string_view installed, std::string_view own) {
     const auto new_records = records_of(new_database);
     const auto own_records = records_of(own);
@@ -81,7 +81,7 @@ std::string read(const wchar_t* path) {
     return bytes;
 }
 
-/// Returns true once all bytes are on the disk, or false if writing fails.
+// Returns true once all bytes are on the disk, or false if writing fails.
 bool write(const wchar_t* path, std::string_view bytes) {
     const File file(_wfopen(path, L"wb"));
     return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&

@@ -39,7 +39,7 @@ void press(WORD key, unsigned modifiers) {
     press_key(key, held);
 }
 
-/// Types a UTF-16 code unit, whether the keyboard has a key for it or not. Real input.
+// Types a UTF-16 code unit, whether the keyboard has a key for it or not. Real input.
 void type_character(wchar_t code_unit) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;

@@ -7,8 +7,8 @@
 namespace quillomat::soak {
 namespace {
 
-/// Wine: gives out all free handles before it makes its table longer. With more menus than there can be free handles,
-/// every handle up to the highest is in use, and all that are not these menus' belong to some process.
+// Wine: gives out all free handles before it makes its table longer. With more menus than there can be free handles,
+// every handle up to the highest is in use, and all that are not these menus' belong to some process.
 int count_all_user_objects() {
     constexpr std::size_t more_than_free = 0x1000;
     constexpr std::uintptr_t first_handle = 0x20;

@@ -8,7 +8,7 @@
 namespace quillomat::soak {
 namespace {
 
-/// The number of actions from one rest to the next.
+// The number of actions from one rest to the next.
 constexpr unsigned period = 150;
 
 constexpr std::wstring_view characters =
@@ -21,8 +21,8 @@ bool confirms_exit(HWND control) {
     return std::wstring_view(caption) == L"&Yes" && class_of(GetParent(control)) == L"frmMain";
 }
 
-/// Returns true if a click at the place may end the program. The player seldom does that, because leaks show only in a
-/// program that runs for long.
+// Returns true if a click at the place may end the program. The player seldom does that, because leaks show only in a
+// program that runs for long.
 bool is_way_out(POINT place) {
     const HWND window = WindowFromPoint(place);
     if (class_of(window) == L"frmMain") {
@@ -33,7 +33,7 @@ bool is_way_out(POINT place) {
     return confirms_exit(window);
 }
 
-/// Returns true if the key may end the program.
+// Returns true if the key may end the program.
 bool is_way_out(const Action& action, const Scene& scene) {
     if (action.kind == Action::Kind::Key && action.value == VK_F4) return class_of(scene.topmost()) == L"frmMain";
     constexpr std::wstring_view pressing{L"\r yY"};

@@ -7,11 +7,11 @@
 namespace quillomat::soak {
 namespace {
 
-/// Windows that all others wait for.
+// Windows that all others wait for.
 constexpr std::wstring_view modal_classes[] = {message_box_class, L"frmAddNew",     L"frmSave",
                                                L"frmMailCheats",  L"frmPrintGames", L"frmAbout",
                                                L"Dialog1",        L"frmWait",       L"frmStatus"};
-/// Menus and drop-down lists, which belong to the window they were opened from.
+// Menus and drop-down lists, which belong to the window they were opened from.
 constexpr std::wstring_view popup_classes[] = {L"#32768", L"ComboLBox"};
 
 bool is_one_of(HWND window, std::span<const std::wstring_view> classes) {

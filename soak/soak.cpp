@@ -15,10 +15,10 @@ constexpr wchar_t main_screen_class[] = L"frmMain";
 
 using Clock = std::chrono::steady_clock;
 
-/// A program that does not answer for this long has hung for good.
+// A program that does not answer for this long has hung for good.
 constexpr std::chrono::duration<double> for_good{60};
 
-/// Returns the number of records in the text, or nothing if the text holds anything but whole records.
+// Returns the number of records in the text, or nothing if the text holds anything but whole records.
 std::optional<std::size_t> whole_records(std::string_view text) {
     constexpr std::string_view marker = "$$$$$$$$$$$$$$$$$$$$ ";
     std::size_t records = 0;

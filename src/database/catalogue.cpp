@@ -11,13 +11,13 @@
 namespace quillomat {
 namespace {
 
-/// A line without its line break.
+// A line without its line break.
 struct TextLine {
     std::wstring_view text{};
-    bool has_lone_return = false;  ///< The line break is a CR without LF.
+    bool has_lone_return = false;  // The line break is a CR without LF.
 };
 
-/// Removes the first line from a text.
+// Removes the first line from a text.
 TextLine take_line(std::wstring_view& text) {
     TextLine line{.text = text.substr(0, text.find(L'\r'))};
     text.remove_prefix(line.text.size());
@@ -31,14 +31,14 @@ bool is_name_line(std::wstring_view line) {
            std::min(line.find_first_not_of(record_marker_character), line.size()) >= record_marker_length;
 }
 
-/// The lines of a game and the name line that closes the record. The name line is empty if the text ends before it.
+// The lines of a game and the name line that closes the record. The name line is empty if the text ends before it.
 struct Record {
     std::wstring_view lines{};
     bool has_lone_returns = false;
     std::wstring_view name_line{};
 };
 
-/// Removes the first record from a text.
+// Removes the first record from a text.
 Record take_record(std::wstring_view& text) {
     Record record{.lines = text};
     while (!text.empty()) {
@@ -54,7 +54,7 @@ Record take_record(std::wstring_view& text) {
     return record;
 }
 
-/// Returns the lines with every line break made a CR LF.
+// Returns the lines with every line break made a CR LF.
 std::wstring with_whole_line_ends(std::wstring_view lines) {
     std::wstring whole;
     while (!lines.empty()) {
@@ -66,7 +66,7 @@ std::wstring with_whole_line_ends(std::wstring_view lines) {
     return whole;
 }
 
-/// Returns the lines of a record without empty lines at the beginning and without the last line break.
+// Returns the lines of a record without empty lines at the beginning and without the last line break.
 std::wstring_view joined_lines(std::wstring_view lines) {
     while (lines.starts_with(line_end)) lines.remove_prefix(line_end.size());
     if (lines.ends_with(line_end)) lines.remove_suffix(line_end.size());

@@ -29,7 +29,7 @@ constexpr WindowKeys window_keys{settings::frmAddNewWindowState, settings::frmAd
 constexpr const wchar_t* help_texts[] = {L"Click here to add the game!",
                                          L"Click here to leave without adding the game!"};
 
-/// Returns the number of the first game below `count` with exactly this name, or nothing.
+// Returns the number of the first game below `count` with exactly this name, or nothing.
 std::optional<int> find_game(const Catalogue& catalogue, int count, std::wstring_view name) {
     for (int number = 0; number < count; ++number) {
         if (catalogue.name(number) == name) return number;

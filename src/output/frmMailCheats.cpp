@@ -27,7 +27,7 @@ constexpr double input_height = 315;
 constexpr double button_width = 1215;
 constexpr double button_height = 345;
 
-/// Writes the attachment. Throws `Error` with a sentence for the user.
+// Writes the attachment. Throws `Error` with a sentence for the user.
 void attach(std::optional<TemporaryTextFile>& file, TextFileSlot& slot, const std::wstring& path,
             const std::wstring& cheats) try {
     file.emplace(slot, path, cheats + std::wstring(line_end));

@@ -16,7 +16,7 @@ void append_lines(std::wstring& text, std::initializer_list<std::wstring_view> l
     for (const std::wstring_view line : lines) text.append(line).append(line_end);
 }
 
-/// Returns the message and, between empty lines, the separator below it.
+// Returns the message and, between empty lines, the separator below it.
 std::wstring body_beginning(std::wstring_view message) {
     std::wstring body;
     append_lines(body, {message, {}, separator, {}});

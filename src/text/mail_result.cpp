@@ -3,7 +3,7 @@
 namespace quillomat {
 namespace {
 
-/// Returns the second half of a sentence that tells what happened, or null for a result that means nothing to a user.
+// Returns the second half of a sentence that tells what happened, or null for a result that means nothing to a user.
 const wchar_t* reason(MailResult result) {
     switch (result) {
         case MailResult::UserAbort:

@@ -14,7 +14,7 @@ bool is_digit(wchar_t character) {
     return character >= L'0' && character <= L'9';
 }
 
-/// Removes the digits at the beginning of a text and returns them.
+// Removes the digits at the beginning of a text and returns them.
 std::wstring_view take_digits(std::wstring_view& text) {
     const auto* const end = std::find_if_not(text.begin(), text.end(), is_digit);
     const std::wstring_view digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
@@ -22,14 +22,14 @@ std::wstring_view take_digits(std::wstring_view& text) {
     return digits;
 }
 
-/// Removes a sign at the beginning of a text. Returns true if it was a minus.
+// Removes a sign at the beginning of a text. Returns true if it was a minus.
 bool take_minus(std::wstring_view& text) {
     const bool minus = text.starts_with(L'-');
     if (minus || text.starts_with(L'+')) text.remove_prefix(1);
     return minus;
 }
 
-/// Returns the value of the digits, or `limit` if the value is larger.
+// Returns the value of the digits, or `limit` if the value is larger.
 std::int64_t saturated_value(std::wstring_view digits, std::int64_t limit) {
     std::int64_t value = 0;
     for (const wchar_t digit : digits) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr wchar_t separator = L'\\';
 
-/// Returns the length of the root of a path, including the separator after it.
+// Returns the length of the root of a path, including the separator after it.
 std::size_t root_length(std::wstring_view path) {
     std::size_t end = path.find(separator);
     if (path.starts_with(L"\\\\")) {

@@ -8,7 +8,7 @@ namespace quillomat {
 namespace {
 
 constexpr std::size_t tab_width = 8;
-/// More characters than fit on a line of any paper. No more are measured at once, because lines can be very long.
+// More characters than fit on a line of any paper. No more are measured at once, because lines can be very long.
 constexpr std::size_t longest_printed_line = 1000;
 
 std::wstring with_tabs_expanded(std::wstring_view line) {
@@ -28,14 +28,14 @@ bool is_second_of_pair(wchar_t character) {
     return character >= 0xDC00 && character <= 0xDFFF;
 }
 
-/// Returns the length nearest to `length` that is not 0 and does not split a surrogate pair.
+// Returns the length nearest to `length` that is not 0 and does not split a surrogate pair.
 std::size_t whole_characters(std::wstring_view line, std::size_t length) {
     length = std::max<std::size_t>(length, 1);
     if (length >= line.size() || !is_second_of_pair(line[length])) return length;
     return length > 1 ? length - 1 : length + 1;
 }
 
-/// Returns how many characters of a line that is too wide are printed on its first line.
+// Returns how many characters of a line that is too wide are printed on its first line.
 std::size_t first_part_length(std::wstring_view line, std::size_t fitting) {
     const std::size_t first_word = line.find_first_not_of(L' ');
     const std::size_t blank = line.find_last_of(L' ', fitting);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::wstring_view text_extension = L".txt";
 constexpr std::wstring_view forbidden_characters = L"\\/:*?\"<>|";
-/// The longest name that the file systems of Windows take.
+// The longest name that the file systems of Windows take.
 constexpr std::size_t longest_name = 255;
 
 std::wstring without_colons(std::wstring_view text) {
@@ -31,8 +31,8 @@ std::wstring ascii_upper_cased(std::wstring_view text) {
     return result;
 }
 
-/// Returns true if Windows takes the name for a device: only the part before the first full stop counts, without
-/// trailing blanks.
+// Returns true if Windows takes the name for a device: only the part before the first full stop counts, without
+// trailing blanks.
 bool names_device(std::wstring_view name) {
     std::wstring stem = ascii_upper_cased(name.substr(0, name.find(L'.')));
     stem.erase(stem.find_last_not_of(L' ') + 1);

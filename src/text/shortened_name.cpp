@@ -5,8 +5,8 @@
 namespace quillomat {
 namespace {
 
-/// Returns `kept` characters of a name around an ellipsis. The games of a series share a long beginning and often their
-/// last words, so four fifths are kept of the beginning, to show where the names differ.
+// Returns `kept` characters of a name around an ellipsis. The games of a series share a long beginning and often their
+// last words, so four fifths are kept of the beginning, to show where the names differ.
 std::wstring keeping(const std::wstring& name, std::size_t kept) {
     const std::size_t end_length = kept / 5;
     return name.substr(0, kept - end_length) + L"\u2026" + name.substr(name.size() - end_length);

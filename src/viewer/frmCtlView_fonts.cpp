@@ -16,8 +16,8 @@
 namespace quillomat {
 namespace {
 
-/// Returns the names that the system's code page can encode. Until the user collects the fonts again, the others are
-/// missing from the menu after the next start.
+// Returns the names that the system's code page can encode. Until the user collects the fonts again, the others are
+// missing from the menu after the next start.
 std::vector<std::wstring> storable(std::vector<std::wstring> names) {
     std::erase_if(names, [](const std::wstring& name) {
         try {

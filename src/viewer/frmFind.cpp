@@ -10,8 +10,8 @@
 namespace quillomat {
 namespace {
 
-/// Keeps a window above all others. Throws `Error` with Overflow for a handle that does not fit into 16 bits, as the
-/// handles of old systems did.
+// Keeps a window above all others. Throws `Error` with Overflow for a handle that does not fit into 16 bits, as the
+// handles of old systems did.
 void StayOnTop(HWND window) {
     const auto handle = reinterpret_cast<std::intptr_t>(window);
     if (handle < std::numeric_limits<std::int16_t>::min() || handle > std::numeric_limits<std::int16_t>::max()) {

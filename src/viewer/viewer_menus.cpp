@@ -9,7 +9,7 @@
 namespace quillomat {
 namespace {
 
-/// Returns the bitmap of a picture for a menu entry.
+// Returns the bitmap of a picture for a menu entry.
 GdiObject<HBITMAP> menu_bitmap(const Picture& picture, int pixels) {
     GdiObject<HBITMAP> bitmap = picture.bitmap(pixels);
     // Wine: menus copy bitmaps without blending them, so the picture needs the menu's colour behind it.
