@@ -34,7 +34,7 @@ void FolderListBox::resolution_changed() {
 
 void FolderListBox::set_path(const std::wstring& path) {
     const std::vector<FolderStep> steps = folder_steps(path);
-    content_ = look_into(steps.back().path);
+    content_ = content_of(steps.back().path);
     path_ = steps.back().path;
     steps_ = static_cast<int>(steps.size());
     entries_.clear();
@@ -56,13 +56,13 @@ void FolderListBox::set_path(const std::wstring& path) {
     raise(on_change);
 }
 
-FolderContent FolderListBox::look_into(const std::wstring& path) {
-    if (!run_slow_look || answers_at_once(path)) return list_folder(path);
-    constexpr DWORD patience = 5000;  // milliseconds
-    // Shared with the thread, which runs on alone if the drive takes longer.
+FolderContent FolderListBox::content_of(const std::wstring& path) const {
+    if (!run_without_blocking || answers_at_once(path)) return list_folder(path);
+    constexpr DWORD timeout = 5000;  // milliseconds
+    // Shared with the thread, which continues in the background if the drive takes longer.
     const auto content = std::make_shared<FolderContent>();
-    const auto look = [content, path] { *content = list_folder(path); };
-    if (!run_slow_look(look, patience)) throw Error(ErrorCode::DiskNotReady);
+    const auto list = [content, path] { *content = list_folder(path); };
+    if (!run_without_blocking(list, timeout)) throw Error(ErrorCode::DiskNotReady);
     return *content;
 }
 

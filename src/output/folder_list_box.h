@@ -17,23 +17,23 @@ class FolderListBox : public ListBox {
 
     /// Another folder has become the current one.
     std::function<void()> on_change;
-
     /// The list has got the focus or lost it.
     std::function<void()> on_focus_changed;
+
     /// Returns true if Enter opens a folder, because the list has the focus and another folder than the current one is
     /// selected. Otherwise Enter presses the form's default button.
     bool enter_opens() const;
 
-    /// Runs a function that lists a folder on a slow drive, as `Application::run_without_blocking` does. Returns false
-    /// if that takes more than the given number of milliseconds.
-    std::function<bool(std::function<void()> look, DWORD milliseconds)> run_slow_look;
+    /// Lists a folder on a drive that may be slow by running `work` as `Application::run_without_blocking` does. If
+    /// this hook is unbound, the list itself waits for the drive.
+    std::function<bool(std::function<void()> work, DWORD milliseconds)> run_without_blocking;
 
     /// The path of the current folder; empty until one is set.
     const std::wstring& path() const { return path_; }
     /// The names of the files in the current folder.
     const std::vector<std::wstring>& files() const { return content_.files; }
     /// Makes a folder the current one and raises `on_change`. Throws `Error` if the folder cannot be listed,
-    /// DiskNotReady if that takes more than some seconds; the current folder then stays the same.
+    /// DiskNotReady if that takes more than five seconds; the current folder then stays the same.
     void set_path(const std::wstring& path);
 
     void notified(WORD code) override;
@@ -49,7 +49,7 @@ class FolderListBox : public ListBox {
         int depth;
     };
 
-    FolderContent look_into(const std::wstring& path);
+    FolderContent content_of(const std::wstring& path) const;
     void fit_items();
     std::wstring selected_path() const;
     void open_selected();

@@ -51,9 +51,11 @@ void frmSave::bind() {
     on_resize = [this] { Form_Resize(); };
     drag_by(*this);
     Drive1.on_change = [this] { Drive1_Change(); };
-    Dir1.run_slow_look = [this](auto look, DWORD milliseconds) { return wait_for(std::move(look), milliseconds); };
+    Dir1.run_without_blocking = [this](auto work, DWORD milliseconds) {
+        return wait_for(std::move(work), milliseconds);
+    };
     Dir1.on_change = [this] { Dir1_Change(); };
-    // The default button shows what Enter does.
+    // OK is the default button only while Enter does not open a folder.
     Dir1.on_click = [this] { set_default_button(Dir1.enter_opens() ? nullptr : &Command1); };
     Dir1.on_focus_changed = Dir1.on_click;
     File1.set_spoken_name(L"Files");
