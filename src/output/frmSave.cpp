@@ -40,6 +40,8 @@ frmSave::frmSave(Application& application, Session& session, ViewerLink& viewer)
     bind();
     bind_hover_help();
     Label6.set_visible(false);
+    // Enter typed ahead must not save before a folder is open, which Dir1_Change reports.
+    Command1.set_enabled(false);
     set_default_button(&Command1);
     set_cancel_button(&Command2);
     // Lay out before filling the lists: the scroll position of the folders depends on the height of their list.
@@ -141,6 +143,7 @@ void frmSave::Drive1_Change() {
 
 void frmSave::Dir1_Change() {
     Label3.set_caption(Dir1.path());
+    Command1.set_enabled(true);
     Drive1.select_drive_of(Dir1.path());
     list_files();
 }
@@ -161,6 +164,7 @@ void frmSave::Command1_Click() {
     if (Text1.empty()) {
         show_message(window(),
                      {.text = L"Please give a file name!", .title = L"Error", .icon = MessageIcon::Information});
+        Text1.set_focus();
         return;
     }
     const std::wstring name = file_name_of(Text1.text());

@@ -74,8 +74,10 @@ TEST_F(SaveTest, AsksBeforeOverwritingAndTellsThatItWaitsForAnotherProgramThatHo
 
 TEST_F(SaveTest, WhatCannotBeWrittenIsReportedAndTheDialogStays) {
     open();
+    EXPECT_FALSE(frmSave(application, session, *link).Command1.enabled()) << "no folder is open yet";
     expect_message(L"Error", L"Please give a file name!");
     save(L"");
+    EXPECT_TRUE(window->Text1.has_focus());
     expect_message(L"Error",
                    L"A file name can't contain the character \\\r\nNone of these characters can stand in a "
                    L"file name: \\ / : * ? \" < > |");
