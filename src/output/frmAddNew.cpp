@@ -85,12 +85,8 @@ void frmAddNew::bind_hover_help() {
 void frmAddNew::Form_Load() {
     restore_window_state(*this, session_.settings, window_keys);
     restore_window_size(*this, session_.settings, window_keys, add_game_minimum_size);
-    centre_over_viewer();
-    Text1.set_focus();
-}
-
-void frmAddNew::centre_over_viewer() {
     place_over(viewer_.window());
+    Text1.set_focus();
 }
 
 void frmAddNew::Form_Unload() {
@@ -130,7 +126,7 @@ void frmAddNew::Timer1_Timer() {
     // The window reaches its final position only after on_load.
     if (!std::exchange(pointer_placed_, true)) CenterMouseOn(cmdButton[add_button]->window());
     hover_help_.tick();
-    // HoverHelp does not hide a box that was shown for a disabled button.
+    // HoverHelp does not hide a help box that was shown for a disabled button.
     const auto under_pointer = [this](const Button* button) { return is_under_pointer(session_.pointer, *button); };
     if (std::none_of(cmdButton.begin(), cmdButton.end(), under_pointer)) Text3.set_visible(false);
 }
@@ -144,15 +140,16 @@ void frmAddNew::Form_MouseMove(const MouseEvent& event) {
 }
 
 void frmAddNew::show_help_box(std::size_t index, double x, double y) {
-    // Set the text first: the place of the box depends on its width.
+    // Set the text first: the position of the help box depends on its width.
     Text3.set_text(help_texts[index]);
     Text3.fit_width_to_text();
     Text3.bring_to_front();
-    constexpr double most_centred = 330;
+    constexpr double flush_right_from = 330;
+    constexpr double height_above_pointer = 500;
     const Button& button = *cmdButton[index];
-    const bool flush_right = index == add_button && x >= most_centred;
-    const double left = flush_right ? width() - Text3.width() : button.left() + x - Text3.width() / 2;
-    place_help_box(Text3, left, button.top() + y - 500);
+    double left = button.left() + x - Text3.width() / 2;
+    if (index == add_button && x >= flush_right_from) left = width() - Text3.width();
+    place_help_box(Text3, left, button.top() + y - height_above_pointer);
     Text3.set_visible(true);
 }
 
@@ -202,8 +199,9 @@ void frmAddNew::store(const std::wstring& name, const std::wstring& cheats) {
                             .title = application().title()});
     viewer_.select_game(name);
     const Hourglass hourglass(*this);
-    application().run_without_blocking(
+    const bool appended = application().run_without_blocking(
         [&] { session_.text_file.append(session_.program_folder + L"\\Cheats.dat", record); });
+    if (!appended) throw Error(ErrorCode::FileAlreadyOpen);
 }
 
 void frmAddNew::report(const Error& error) {

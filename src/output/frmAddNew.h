@@ -37,7 +37,7 @@ class frmAddNew final : public Form {
     TextBox Text3{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Timer Timer1{*this, 1};
 
-    /// Adds the typed game and closes the window; tells the user why if that fails.
+    /// Adds the typed game and closes the window. If that fails, tells the user why.
     void AddGame();
 
   private:
@@ -55,7 +55,6 @@ class frmAddNew final : public Form {
     void show_help_box(std::size_t index, double x, double y);
     void UpdateAddButton();
     void leave_by_escape(KeyEvent& event);
-    void centre_over_viewer();
 
     void propose_other_name(int existing, const std::wstring& name);
     void store(const std::wstring& name, const std::wstring& cheats);
