@@ -27,11 +27,10 @@ TextLine take_line(std::wstring_view& text) {
 }
 
 bool is_name_line(std::wstring_view line) {
-    return line.starts_with(record_marker_character) &&
-           std::min(line.find_first_not_of(record_marker_character), line.size()) >= record_marker_length;
+    return std::min(line.find_first_not_of(record_marker_character), line.size()) >= record_marker_length;
 }
 
-// The lines of a game and the name line that closes the record. The name line is empty if the text ends before it.
+// The lines of a game, and the name line that closes the record; empty if the text ends without one.
 struct Record {
     std::wstring_view lines{};
     bool has_lone_returns = false;
@@ -54,16 +53,16 @@ Record take_record(std::wstring_view& text) {
     return record;
 }
 
-// Returns the lines with every line break made a CR LF.
-std::wstring with_whole_line_ends(std::wstring_view lines) {
-    std::wstring whole;
+// Returns the lines with CR LF in place of every line break.
+std::wstring with_crlf(std::wstring_view lines) {
+    std::wstring result;
     while (!lines.empty()) {
         const std::size_t old_length = lines.size();
         const std::wstring_view line = take_line(lines).text;
-        whole += line;
-        if (line.size() < old_length) whole += line_end;
+        result += line;
+        if (line.size() < old_length) result += line_end;
     }
-    return whole;
+    return result;
 }
 
 // Returns the lines of a record without empty lines at the beginning and without the last line break.
@@ -93,7 +92,7 @@ void Catalogue::load(std::wstring text, const ListName& list_name) {
         const Record record = take_record(rest);
         cheats_[slot] = joined_lines(record.lines);
         if (record.has_lone_returns) {
-            cheats_[slot] = own_games_[number].cheats = joined_lines(with_whole_line_ends(record.lines));
+            cheats_[slot] = own_games_[number].cheats = joined_lines(with_crlf(record.lines));
         }
         if (record.name_line.empty()) return;
         // The line ends with the marker: there is neither a separator nor a name.

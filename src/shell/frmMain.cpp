@@ -14,10 +14,10 @@ constexpr Colour band_colour = rgb(36, 21, 90);
 constexpr Colour subtitle_colour = rgb(189, 180, 247);
 constexpr Colour stripe_colour = rgb(47, 167, 160);
 
-// In twips. If the pointer is this far right on a button, the help box is placed to the left of it, otherwise centred;
-// it is always this much higher.
-constexpr double help_box_turn = 1290;
-constexpr double help_box_rise = 500;
+// In twips, within a button. From this position of the pointer on, the help box ends at the pointer; before it, the
+// help box is centred on the pointer.
+constexpr double help_left_of_pointer_from = 1290;
+constexpr double help_above_pointer = 500;
 
 }  // namespace
 
@@ -121,9 +121,9 @@ void frmMain::bind_hover_help() {
 }
 
 void frmMain::move_help_box(const Control& control, const MouseEvent& event) {
-    const double to_the_left = event.x >= help_box_turn ? Text1.width() : Text1.width() / 2;
-    const double left = control.left() + event.x - to_the_left;
-    const double top = control.top() + event.y - help_box_rise;
+    const double left_of_pointer = event.x >= help_left_of_pointer_from ? Text1.width() : Text1.width() / 2;
+    const double left = control.left() + event.x - left_of_pointer;
+    const double top = control.top() + event.y - help_above_pointer;
     place_help_box(Text1, left, top);
 }
 
