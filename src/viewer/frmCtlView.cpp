@@ -18,8 +18,7 @@ constexpr double picture_button_size = 420;
 constexpr double image_lefts[] = {90, 735, 1165, 1810, 2240, 2670, 3100};
 constexpr double colour_image_left = 3530;
 constexpr std::size_t save_image = 1;
-constexpr double help_above_mode = 30;
-constexpr double help_below_pointer = 500;
+constexpr double help_above_option = 30;
 
 bool asks_for_menu(const KeyEvent& event) {
     return event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift);
@@ -67,7 +66,7 @@ void frmCtlView::bind() {
     on_unload = [this] { Form_Unload(); };
     on_mouse_move = [this](const MouseEvent&) { tidy_image_bar(); };
     drag_by(*this);
-    Form::on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
+    on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
     for (Control* control :
          std::initializer_list<Control*>{&Option1, &Option2, &Text3, &Command1, &Option3, &Option4}) {
         control->on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
@@ -104,7 +103,7 @@ void frmCtlView::move_help_box(const Control& control, const MouseEvent& event) 
     const bool in_panel = &control.container() == &Frame2;
     const double left = control.left() + event.x + (in_panel ? Frame2.left() : 0) - Text4.width() / 2;
     // The help box of List and Search opens above them; below, it would hide the keyword field.
-    double top = control.top() - Text4.height() - help_above_mode;
+    double top = control.top() - Text4.height() - help_above_option;
     if (in_panel) {
         top = Frame2.top() + control.top() + event.y + help_below_pointer;
     }
@@ -122,6 +121,7 @@ void frmCtlView::show_game(int number) {
 
 void frmCtlView::allow_saving(bool allowed) {
     menus.mnuSave.set_enabled(allowed);
+    menus.mnuSelectedSave.set_enabled(allowed);
     Image2[save_image].set_enabled(allowed);
 }
 
@@ -176,9 +176,9 @@ void frmCtlView::change_text_size(KeyEvent& event) {
 }
 
 void frmCtlView::set_text_size(int steps) {
-    constexpr int fewest = -2;
-    constexpr int most = 24;
-    session_.viewer.text_steps = std::clamp(steps, fewest, most);
+    constexpr int smallest = -2;
+    constexpr int largest = 24;
+    session_.viewer.text_steps = std::clamp(steps, smallest, largest);
     FontSpec font = Text1.font();
     font.points = FontSpec{}.points + session_.viewer.text_steps;
     Text1.set_font(font);
@@ -212,7 +212,6 @@ void frmCtlView::List_KeyDown(ListBox& list, KeyEvent& event) {
     Form_KeyDown(event);
     if (asks_for_menu(event)) {
         event.handled = true;
-        menus.mnuSelectedSave.set_enabled(menus.mnuSave.enabled());
         pop_up_at_corner(menus.mnuSelected, list, &menus.mnuSelectedSave);
         return;
     }
@@ -248,7 +247,6 @@ void frmCtlView::List_MouseMove(ListBox& list, const MouseEvent& event) {
 void frmCtlView::List_MouseDown(ListBox& list, const MouseEvent& event) {
     if (event.button != MouseButton::Right) return;
     list.select_text(list.item(list.item_from_point(to_pixels(event.x, dpi()), to_pixels(event.y, dpi()))));
-    menus.mnuSelectedSave.set_enabled(menus.mnuSave.enabled());
     menus.mnuSelected.pop_up(&menus.mnuSelectedSave);
 }
 

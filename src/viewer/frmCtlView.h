@@ -74,11 +74,12 @@ class frmCtlView final : public Form {
     /// window shows the progress and lets the user cancel; the fonts collected until then are kept. Throws `Error` if
     /// the file cannot be written; the progress window then stays open.
     void collect_fonts();
-    /// Colours the text and the lists if the menu entry for colours is checked.
+    /// Gives the text and the lists the colours that the check mark of the Colour menu entry stands for.
     void apply_colours();
 
   private:
     static constexpr WindowSize minimum_size{5970, 5340};
+    static constexpr double help_below_pointer = 500;  // in twips
 
     void bind();
     void bind_search();
@@ -119,7 +120,7 @@ class frmCtlView final : public Form {
     void Label1_reset();
     void Timer1_Timer();
     void mnuFontName_Click(std::size_t Index);
-    /// The option that makes the search panel look through these texts.
+    /// Returns the option button that selects `scope`.
     OptionButton& scope_option(SearchScope scope);
     void offer_installed_fonts();
     std::wstring fonts_file() const;
@@ -128,6 +129,7 @@ class frmCtlView final : public Form {
     void slide(Control& panel, double left, std::optional<double> (*next_left)(double));
     void show_slide_step();
     void change_text_size(KeyEvent& event);
+    /// Makes the cheat text `steps` points larger than other texts, within limits.
     void set_text_size(int steps);
 
     // The steps of opening the window, in their order.

@@ -21,7 +21,6 @@ constexpr Colour frame_pressed = rgb(0, 255, 0);
 
 // All in twips.
 constexpr double press_depth = 30;
-constexpr double help_below_pointer = 500;
 constexpr double colour_help_width = 3495;
 constexpr double print_margin = 100;
 
@@ -39,7 +38,7 @@ constexpr ImageHelp image_help[] = {
     {L"Click here to copy the cheat codes for the selected game", 4215},
     {L"Click here to change the font", 2175},
 };
-// The help of the first images starts at the window's left edge; that of the others is centred on the pointer.
+// The help boxes of the images before this one start at the window's left edge; the others are centred on the pointer.
 constexpr std::size_t first_centred_help = 2;
 
 }  // namespace
