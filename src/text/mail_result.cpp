@@ -3,7 +3,7 @@
 namespace quillomat {
 namespace {
 
-// Returns the second half of a sentence that tells what happened, or null for a result that means nothing to a user.
+// Returns the second half of a sentence that says what happened, or null for a result that means nothing to a user.
 const wchar_t* reason(MailResult result) {
     switch (result) {
         case MailResult::UserAbort:
@@ -41,8 +41,7 @@ const wchar_t* reason(MailResult result) {
         case MailResult::NotSupported:
         case MailResult::TypeNotSupported:
             return L"your mail program cannot send messages for 64-bit programs such as this one. Make another one, "
-                   L"such "
-                   L"as a 64-bit Thunderbird or Outlook, your default mail program";
+                   L"such as a 64-bit Thunderbird or Outlook, your default mail program";
         case MailResult::UnicodeNotSupported:
             return L"your mail program cannot send some of the characters in it";
         default:
@@ -68,8 +67,7 @@ std::wstring sign_off_failure_description(MailResult result) {
 
 std::wstring mail_crash_description() {
     return L"Your mail program has stopped working, so that it is not known whether the message was sent. Look into "
-           L"its "
-           L"outbox before you send the message again.";
+           L"its outbox before you send the message again.";
 }
 
 std::wstring no_mail_program_description() {
