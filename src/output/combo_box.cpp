@@ -41,7 +41,7 @@ void ComboBox::notified(WORD code) {
 }
 
 void ComboBox::apply_bounds() {
-    // Windows counts the open list into the height of the control.
+    // The height of a combo box includes its open list.
     const RECT area = pixel_bounds();
     const int list_height = most_lines_in_list * static_cast<int>(send(CB_GETITEMHEIGHT));
     SetWindowPos(window(), nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top + list_height,

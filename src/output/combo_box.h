@@ -13,7 +13,7 @@ class ComboBox : public Control {
   public:
     ComboBox(Container& container, Bounds bounds);
 
-    /// The text has changed because the user typed or selected one or the program set one.
+    /// The user has typed or selected a text, or the program has set one.
     std::function<void()> on_change;
 
     /// Adds a text at the end of the list. Throws `Error` with OutOfMemory if Windows refuses.
@@ -21,6 +21,7 @@ class ComboBox : public Control {
 
     /// The text in the box.
     std::wstring text() const { return window_text(); }
+    /// Puts a text into the box and raises `on_change`.
     void set_text(std::wstring_view text);
 
     void notified(WORD code) override;

@@ -38,7 +38,7 @@ void DropDownList::select_index(int index) {
 }
 
 void DropDownList::notified(WORD code) {
-    // The user has chosen only when the open list closes.
+    // While the list is open, a selection is not final.
     if (code == CBN_CLOSEUP || (code == CBN_SELCHANGE && !send(CB_GETDROPPEDSTATE))) report_change();
 }
 
@@ -53,7 +53,7 @@ void DropDownList::apply_bounds() {
     const RECT area = pixel_bounds();
     constexpr auto field = static_cast<WPARAM>(-1);
     send(CB_SETITEMHEIGHT, field, area.bottom - area.top - frame_pixels);
-    // Windows counts the open list into the height of the control, and shortens the list to its texts.
+    // The height of a combo box includes its open list, which Windows makes shorter if there are fewer texts.
     const int list_height = most_texts_shown * static_cast<int>(send(CB_GETITEMHEIGHT, 0));
     SetWindowPos(window(), nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top + list_height,
                  SWP_NOZORDER | SWP_NOACTIVATE);

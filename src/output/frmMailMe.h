@@ -30,7 +30,8 @@ class frmMailMe final : public Form {
     StaticLabel Label6{*this, L"Please wait...", {60, 5130, 1800, 225}};
     Timer Timer1{*this, 1};
 
-    /// Puts a text into the message, selected to be typed over, unless the user has written one already.
+    /// Puts a text into the message and selects it, so that typing replaces it. Does nothing if there is a message
+    /// already.
     void propose_message(const std::wstring& text);
 
   private:

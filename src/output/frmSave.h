@@ -59,7 +59,8 @@ class frmSave final : public Form {
     /// Runs `work` without blocking, and meanwhile shows what the dialog waits for. Parameters and result are those of
     /// `Application::run_without_blocking`.
     bool wait_for(std::function<void()> work, DWORD milliseconds = INFINITE);
-    /// Asks the user before a file is overwritten. Returns false if it must not be written.
+    /// Returns false if the chosen file exists and the user does not want to overwrite it, or if an earlier call is
+    /// still at work.
     bool may_be_written();
     /// Returns false if nothing was written because an earlier call is still at work.
     bool write();
@@ -67,7 +68,7 @@ class frmSave final : public Form {
     Session& session_;
     ViewerLink& viewer_;
     HoverHelp hover_help_{session_.pointer, Text2, Timer1};
-    std::wstring chosen_path_;  // path of the file chosen last
+    std::wstring chosen_path_;  // the path of the file to save
     bool shown_before_ = false;
 };
 

@@ -8,6 +8,7 @@
 #include "text/mail_result.h"
 
 namespace quillomat {
+
 void tell_mail_requirements(Form& form) {
     show_message(form.window(), {.text = mail_requirements, .title = L"Message", .icon = MessageIcon::Information});
 }

@@ -11,7 +11,7 @@ PickingListBox::PickingListBox(Container& container, Bounds bounds)
     : ListBox(container, bounds, LBS_MULTIPLESEL | WS_HSCROLL) {}
 
 std::optional<int> PickingListBox::selected_index() const {
-    // An empty list still has its cursor at 0.
+    // The caret of an empty list is at 0.
     if (count() == 0) return std::nullopt;
     return static_cast<int>(send(LB_GETCARETINDEX));
 }
@@ -63,7 +63,7 @@ LRESULT PickingListBox::handle_message(UINT message, WPARAM wparam, LPARAM lpara
     const bool picks_by_key = message == WM_KEYDOWN && wparam == VK_SPACE;
     if (picks_by_key) change_notified_ = false;
     const LRESULT result = ListBox::handle_message(message, wparam, lparam);
-    // Wine: the control picks, but sends no LBN_SELCHANGE.
+    // Wine: a list box sends no LBN_SELCHANGE when Space picks.
     if (picks_by_key && !change_notified_) raise(on_click);
     return result;
 }

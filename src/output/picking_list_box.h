@@ -6,8 +6,8 @@
 
 namespace quillomat {
 
-/// A list in which several texts can be picked. A click or Space picks the text at the cursor, or takes the pick back.
-/// The selected text is the one at the cursor.
+/// A list in which several texts can be picked. A click or Space picks the text at the caret, or takes the pick back.
+/// The text at the caret is the selected one.
 class PickingListBox final : public ListBox {
   public:
     PickingListBox(Container& container, Bounds bounds);

@@ -8,8 +8,8 @@ namespace quillomat {
 
 class Form;
 
-/// The access of the output windows to the viewer: its window, the game it shows, and its full list. A game's number is
-/// its position in the list.
+/// What the output windows need of the viewer: its window, the game it shows, and its full list. A game's number is its
+/// position in the list, from 0.
 class ViewerLink {
   public:
     virtual ~ViewerLink() = default;
@@ -23,14 +23,13 @@ class ViewerLink {
 
     /// The number of games in the list.
     virtual int game_count() const = 0;
-    /// The name of a game in the list. Throws `Error` with SubscriptOutOfRange if the list has no such game, as
-    /// `select_game` does.
+    /// The name of a game in the list; empty if the list has no such game.
     virtual std::wstring game_name(int number) const = 0;
     /// The number of the selected game, or nothing.
     virtual std::optional<int> selected_game() const = 0;
-    /// Selects and shows a game.
+    /// Selects and shows a game. Throws `Error` with SubscriptOutOfRange if the list has no such game.
     virtual void select_game(int number) = 0;
-    /// Selects and shows the first game that has exactly this name.
+    /// Selects and shows the first game with exactly this name. Does nothing if there is none.
     virtual void select_game(std::wstring_view name) = 0;
     /// Adds a name at the end of the list.
     virtual void list_game(std::wstring_view name) = 0;

@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// Shows the hourglass over a form, and a hidden label on it, until the end of the scope.
+/// Shows the hourglass over a form, and one of its hidden labels, until the end of the scope.
 class WaitNotice {
   public:
     WaitNotice(Form& form, Item& text) : hourglass_(form), text_(text) { text_.set_visible(true); }

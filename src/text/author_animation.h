@@ -10,12 +10,12 @@ namespace quillomat {
 /// Returns the position of the character of the author dialog's caption that is shown in upper case next, counted from
 /// 1. Pass 0 at the start.
 int next_capital(int position, std::size_t caption_length);
-/// Returns `caption` with the character at `position`, counted from 1, in upper case. At most `address_length` less
-/// `position` characters follow it, where `address_length` is the length of the dialog's address text.
+/// Returns `caption` with the character at `position`, counted from 1, in upper case. At most `address_length` minus
+/// `position` characters follow that one; `address_length` is the length of the dialog's address text.
 std::wstring with_capital(std::wstring_view caption, int position, std::size_t address_length);
 
-/// Returns the fraction of a turn about its vertical axis that the dialog's picture has made on the next tick. Pass
-/// nothing on the first tick.
+/// Returns the fraction of a turn about its vertical axis that the dialog's picture has made after the next tick, given
+/// the fraction before it. Pass nothing on the first tick.
 double next_turn(std::optional<double> turn);
 /// Returns the apparent width of the picture at a fraction of a turn: 1 from the front, 0 from the edge, -1 from
 /// behind.

@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// The errors of the program, with the numbers that users know.
+/// The errors of the program. The numbers are the customary ones of run-time errors.
 enum class ErrorCode {
     InvalidArgument = 5,
     Overflow = 6,
@@ -37,7 +37,7 @@ class Error : public std::exception {
 
     ErrorCode code() const noexcept { return code_; }
     const std::wstring& description() const noexcept { return description_; }
-    /// For debuggers only; users are shown `description`.
+    /// For debuggers only: the user is shown `description`.
     const char* what() const noexcept override { return "quillomat::Error"; }
 
   private:

@@ -9,7 +9,7 @@ namespace quillomat {
 
 /// The length of the longest font name that Windows allows, in characters.
 inline constexpr std::size_t longest_font_name = 31;
-/// The largest number of entries with which a menu still opens; no system has that many fonts.
+/// The most names that are read. A menu with more entries may not open, and no system has that many fonts.
 inline constexpr std::size_t most_listed_fonts = 10'000;
 
 /// Returns the font names of a font list file, one per line, in the file's order, at most `most_listed_fonts`. Skips

@@ -30,7 +30,7 @@ enum class MailResult : unsigned {
 };
 
 /// Returns the message for a mail that was not sent: what happened and, if possible, what the user can do about it.
-/// `result` may be any number.
+/// `result` may be any number that a mail program returns.
 std::wstring mail_failure_description(MailResult result);
 
 /// Returns the message for a mail program that took a mail, but then failed to sign off.

@@ -35,7 +35,7 @@ std::size_t whole_characters(std::wstring_view line, std::size_t length) {
     return length > 1 ? length - 1 : length + 1;
 }
 
-// Returns how many characters of a line that is too wide are printed on its first line.
+// Returns how many characters of a line that is too wide are printed before the first break.
 std::size_t first_part_length(std::wstring_view line, std::size_t fitting) {
     const std::size_t first_word = line.find_first_not_of(L' ');
     const std::size_t blank = line.find_last_of(L' ', fitting);

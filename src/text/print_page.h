@@ -29,7 +29,7 @@ class LineFlow {
         bool operator==(const Place&) const = default;
     };
 
-    /// All pages and all lines have the same height.
+    /// All pages have the same height, and so have all lines.
     LineFlow(int page_height, int line_height) : page_height_(page_height), line_height_(line_height) {}
 
     /// Sets the top of the next line on this page, and of the first line on all further pages.

@@ -14,7 +14,8 @@ void quick_sort(int lower, int upper, const IsLess& is_less, const Swap& swap, c
             if (is_less(upper, lower)) swap(lower, upper);
             return;
         }
-        swap(lower + static_cast<int>((upper - lower + 1) * random()), upper);  // The pivot is the last entry now.
+        // Make a random entry the pivot and put it last.
+        swap(lower + static_cast<int>((upper - lower + 1) * random()), upper);
         int i = lower;
         int j = upper;
         while (i < j) {
@@ -24,7 +25,8 @@ void quick_sort(int lower, int upper, const IsLess& is_less, const Swap& swap, c
         }
         swap(i, upper);
 
-        // Entries below the pivot that are equal to it are in place; sorting them again would take quadratic time.
+        // The entries just before the pivot that are equal to it are in place. Sorting them, too, would take quadratic
+        // time if all entries are equal.
         int left_end = i - 1;
         while (left_end > lower && !is_less(left_end, i)) --left_end;
         if (i - lower < upper - i) {

@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// The size of a window, in twips; the outer size unless another one is named.
+/// The size of a window in twips: the outer size, unless a name or a comment says inner.
 struct WindowSize {
     double width = 0;
     double height = 0;

@@ -9,7 +9,7 @@ class CheatTextBox final : public TextBox {
   public:
     CheatTextBox(Container& container, Bounds bounds) : TextBox(container, bounds, TextBoxKind::Reading) {}
 
-    /// The user right-clicks the box. The handler shows a menu in the place of the system's own.
+    /// The user right-clicks the box. The handler shows a context menu; the system's own does not appear.
     std::function<void()> on_context_menu;
     /// The user turns the wheel with Ctrl held, by a number of notches; positive is away from the user.
     std::function<void(int notches)> on_control_wheel;
@@ -18,7 +18,7 @@ class CheatTextBox final : public TextBox {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:
-    int wheel_delta_ = 0;  // of turns that have not made a whole notch yet
+    int wheel_delta_ = 0;  // what is left of the turns below a whole notch
 };
 
 }  // namespace quillomat

@@ -10,8 +10,8 @@
 namespace quillomat {
 namespace {
 
-// Keeps a window above all others. Throws `Error` with Overflow for a handle that does not fit into 16 bits, as the
-// handles of old systems did.
+// Keeps a window above all others. Throws `Error` with Overflow if the handle does not fit into 16 bits, which is how
+// wide handles were in 16-bit Windows.
 void StayOnTop(HWND window) {
     const auto handle = reinterpret_cast<std::intptr_t>(window);
     if (handle < std::numeric_limits<std::int16_t>::min() || handle > std::numeric_limits<std::int16_t>::max()) {
@@ -29,7 +29,7 @@ frmFind::frmFind(Application& application, FindState& state, Form& searched, Tex
       searched_(searched),
       box_(box) {
     set_owner(searched);
-    // So low that the dialog ends above the viewer's cheat text.
+    // The dialog is not high enough to cover the viewer's cheat text.
     set_inner_size(6435, 780);
     txtFind.set_tool_tip(L"Text to Find");
     chkCase.set_tool_tip(L"Case Sensitivity");

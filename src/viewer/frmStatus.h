@@ -8,7 +8,7 @@
 
 namespace quillomat {
 
-/// Shows the progress of collecting fonts, which F10 cancels.
+/// Shows the progress while the viewer collects fonts, and lets the user cancel with F10.
 class frmStatus final : public Form {
   public:
     /// The window stays in front of the viewer and closes with it.

@@ -24,7 +24,7 @@ void GameListBox::resolution_changed() {
 LRESULT GameListBox::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     const LRESULT top_index = default_message(LB_GETTOPINDEX, 0, 0);
     const LRESULT result = ListBox::handle_message(message, wparam, lparam);
-    // Windows scrolls the pixels, including the blank of a row that did not fit before and fits now.
+    // Scrolling and resizing keep the pixels, also of a row that was left blank because it did not fit, but fits now.
     if (message == WM_SIZE || default_message(LB_GETTOPINDEX, 0, 0) != top_index) {
         InvalidateRect(window(), nullptr, FALSE);
     }

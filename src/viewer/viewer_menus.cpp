@@ -34,7 +34,7 @@ void ViewerMenus::fit_pictures(int dpi) {
     if (dpi == pictures_dpi_) return;
     pictures_dpi_ = dpi;
     const int size = GetSystemMetricsForDpi(SM_CXMENUCHECK, static_cast<UINT>(dpi));
-    // The elements of the picture array Image3 for an entry without and with a check mark.
+    // The numbers of an entry's pictures without and with its check mark.
     struct Pictured {
         Menu& entry;
         int unchecked;
@@ -51,7 +51,7 @@ void ViewerMenus::fit_pictures(int dpi) {
     for (const auto& [entry, unchecked, checked] : entries) {
         entry.set_bitmaps(add_bitmap(unchecked), add_bitmap(checked));
     }
-    // The menus have used the former bitmaps until now.
+    // Delete the former bitmaps only now that no menu uses them.
     bitmaps_ = std::move(bitmaps);
 }
 

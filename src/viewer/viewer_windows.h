@@ -14,7 +14,7 @@ struct ViewerWindows {
     std::function<void()> find;
     /// Opens the message to the author with this text already in it.
     std::function<void(const std::wstring& text)> mail_author;
-    /// Restores a minimised main screen after the viewer has closed.
+    /// Restores the main screen if it is minimised; called while the viewer closes.
     std::function<void()> restore_main_screen;
 };
 
