@@ -49,7 +49,7 @@ class frmCtlView final : public Form {
     OptionButton Option3{
         Frame1, L"G&ame", {120, 255, 1050, 255}, OptionButton::Group::Starts, OptionButton::Choice::Set};
     OptionButton Option4{Frame1, L"&Cheats", {1230, 255, 1050, 255}, OptionButton::Group::Continues};
-    GameListBox List1{Frame2, {0, 1315, 2490, 3230}};
+    GameListBox List1{Frame2, {0, 1310, 2490, 3235}};
     CheatTextBox Text1{*this, {2680, 780, 5945, 4905}};
     TextBox Text4{*this, {0, 0, 1500, 270}, TextBoxKind::Help};
     Shape Shape1{*this, {0, 0, 420, 420}};

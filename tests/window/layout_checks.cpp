@@ -137,13 +137,11 @@ std::vector<Piece> pieces_of(HWND window) {
 void expect_inside(const Piece& piece) {
     // A frame without a caption is a band of colour, which goes on beyond the edge.
     if (piece.window && piece.text.empty() && button_type(piece.window) == BS_GROUPBOX) return;
-    // Places and sizes are rounded to whole pixels each by itself.
-    constexpr int rounding = 1;
     RECT room{};
     GetClientRect(piece.parent, &room);
     const auto& [left, top, right, bottom] = piece.area;
     EXPECT_FALSE(IsRectEmpty(&piece.area)) << "\"" << narrow(piece.text) << "\" has no size";
-    EXPECT_TRUE(std::min(left, top) >= -rounding && right <= room.right + rounding && bottom <= room.bottom + rounding)
+    EXPECT_TRUE(std::min(left, top) >= 0 && right <= room.right && bottom <= room.bottom)
         << "\"" << narrow(piece.text) << "\" reaches out of its place: " << left << ", " << top << " to " << right
         << ", " << bottom << " in " << room.right << " x " << room.bottom;
 }
