@@ -20,7 +20,7 @@ WindowState window_state_of(std::int32_t stored) {
     }
 }
 
-/// Settings hold sizes of 16 bits; a window on a very large screen can be larger.
+// Settings hold sizes of 16 bits; a window on a very large screen can be larger.
 std::int16_t stored_size(double twips) {
     return static_cast<std::int16_t>(
         round_half_even(std::min<double>(twips, std::numeric_limits<std::int16_t>::max())));

@@ -18,7 +18,7 @@ Application::Application(std::wstring title) : title_(std::move(title)) {
 
 namespace {
 
-/// Waits for the next message. Returns false for a request to quit. Throws `Error` if GetMessage fails.
+// Waits for the next message. Returns false for a request to quit. Throws `Error` if GetMessage fails.
 bool next_message(MSG& message) {
     const BOOL result = GetMessageW(&message, nullptr, 0, 0);
     if (result < 0) throw_last_error();
@@ -29,8 +29,8 @@ bool is_keyboard_input(UINT message) {
     return message >= WM_KEYFIRST && message <= WM_KEYLAST;
 }
 
-/// Returns true for keyboard and mouse input of a disabled window. Such input arrives if a library has enabled the
-/// window for a moment.
+// Returns true for keyboard and mouse input of a disabled window. Such input arrives if a library has enabled the
+// window for a moment.
 bool is_stray_input(const MSG& message) {
     const bool is_input = is_keyboard_input(message.message) ||
                           (message.message > WM_MOUSEMOVE && message.message <= WM_MOUSELAST) ||

@@ -17,7 +17,7 @@ Modifiers current_modifiers() {
 
 namespace {
 
-/// Returns the button of a press or release, or the button that is held during a move.
+// Returns the button of a press or release, or the button that is held during a move.
 MouseButton button_of(UINT message, WPARAM held) {
     struct Messages {
         MouseButton button;

@@ -9,7 +9,7 @@
 namespace quillomat {
 namespace {
 
-/// Returns the description of the exception being handled, or an empty string if it need not be reported.
+// Returns the description of the exception being handled, or an empty string if it need not be reported.
 std::wstring current_description() {
     try {
         throw;

@@ -76,8 +76,8 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     if (!RegisterClassExW(&description)) throw_last_error();
 }
 
-/// Closes an open menu and stops moving a window by keyboard. Keys that end these modal loops of Windows would not
-/// reach a window hidden by closing.
+// Closes an open menu and stops moving a window by keyboard. Keys that end these modal loops of Windows would not
+// reach a window hidden by closing.
 void leave_system_loops() {
     EndMenu();
     GUITHREADINFO state{};

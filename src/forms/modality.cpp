@@ -17,7 +17,7 @@ bool is_tool_tip(HWND window) {
     return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) != 0;
 }
 
-/// Returns the active window if it is usable, else the front-most usable window, else null.
+// Returns the active window if it is usable, else the front-most usable window, else null.
 HWND usable_window() {
     const HWND active = GetActiveWindow();
     if (active && is_usable(active)) return active;

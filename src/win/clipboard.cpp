@@ -9,7 +9,7 @@
 namespace quillomat {
 namespace {
 
-/// Opens the clipboard, and closes it at the end of the scope.
+// Opens the clipboard, and closes it at the end of the scope.
 class OpenClipboardScope {
   public:
     explicit OpenClipboardScope(HWND owner) {
@@ -23,7 +23,7 @@ class OpenClipboardScope {
     OpenClipboardScope& operator=(const OpenClipboardScope&) = delete;
 };
 
-/// Memory of the kind that the clipboard takes over.
+// Memory of the kind that the clipboard takes over.
 using GlobalMemory = std::unique_ptr<std::remove_pointer_t<HGLOBAL>, decltype(&GlobalFree)>;
 
 GlobalMemory global_copy(std::wstring_view text) {

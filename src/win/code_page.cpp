@@ -11,7 +11,7 @@ namespace {
 
 static_assert(system_code_page == CP_ACP);
 
-/// The longest text whose bytes can be counted in an int in every code page.
+// The longest text whose bytes can be counted in an int in every code page.
 constexpr std::size_t most_encoded = std::numeric_limits<int>::max() / 4;
 
 bool holds_every_character(unsigned code_page) {
@@ -20,7 +20,7 @@ bool holds_every_character(unsigned code_page) {
     return actual == CP_UTF8 || actual == gb_18030;
 }
 
-/// Returns the number of bytes written (or needed, if room is 0); 0 if the code page cannot encode the text.
+// Returns the number of bytes written (or needed, if room is 0); 0 if the code page cannot encode the text.
 int encode_into(char* bytes, int room, std::wstring_view text, unsigned code_page) {
     const auto length = static_cast<int>(text.size());
     // These code pages lack only unpaired surrogates. Windows reports those by failing, and refuses the `lacking` flag.
@@ -34,7 +34,7 @@ int encode_into(char* bytes, int room, std::wstring_view text, unsigned code_pag
     return lacking ? 0 : size;
 }
 
-/// The first character of a text: two code units if it is a surrogate pair.
+// The first character of a text: two code units if it is a surrogate pair.
 std::wstring_view first_character(std::wstring_view text) {
     return text.substr(0, text.size() > 1 && IS_SURROGATE_PAIR(text[0], text[1]) ? 2 : 1);
 }

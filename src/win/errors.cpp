@@ -5,7 +5,7 @@
 namespace quillomat {
 namespace {
 
-/// Windows' description of a code in the user's language; empty if there is none.
+// Windows' description of a code in the user's language; empty if there is none.
 std::wstring system_description(DWORD code) {
     wchar_t text[512];
     DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text,

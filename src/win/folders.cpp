@@ -26,8 +26,8 @@ DriveKind kind_of(UINT type) {
     }
 }
 
-/// Lets calls of this thread on an empty drive fail until the end of the scope. By default Windows would ask the user
-/// to insert a disk.
+// Lets calls of this thread on an empty drive fail until the end of the scope. By default Windows would ask the user
+// to insert a disk.
 class QuietDrives {
   public:
     QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &former_); }
@@ -39,7 +39,7 @@ class QuietDrives {
     DWORD former_ = 0;
 };
 
-/// Owns the handle of a search through a folder and closes it.
+// Owns the handle of a search through a folder and closes it.
 class Search {
   public:
     Search(const std::wstring& pattern, WIN32_FIND_DATAW& found)

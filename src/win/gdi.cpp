@@ -5,10 +5,10 @@
 namespace quillomat {
 namespace {
 
-/// The least difference in brightness at which a text can be read.
+// The least difference in brightness at which a text can be read.
 constexpr int least_contrast = 128;
 
-/// Returns the perceived brightness of a colour, from 0 to 255.
+// Returns the perceived brightness of a colour, from 0 to 255.
 int brightness(COLORREF colour) {
     return (299 * GetRValue(colour) + 587 * GetGValue(colour) + 114 * GetBValue(colour)) / 1000;
 }

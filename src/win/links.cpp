@@ -8,7 +8,7 @@
 namespace quillomat {
 namespace {
 
-/// Initialises COM for this thread: Windows starts some browsers through COM.
+// Initialises COM for this thread: Windows starts some browsers through COM.
 class ComApartment {
   public:
     ComApartment() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {}

@@ -71,7 +71,7 @@ Function* find(HMODULE library, const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
-/// Returns true if a mail program with a MAPI library is registered below `root`.
+// Returns true if a mail program with a MAPI library is registered below `root`.
 bool is_registered_below(HKEY root) {
     RegistryKey programs;
     if (RegOpenKeyExW(root, L"Software\\Clients\\Mail", 0, KEY_READ, programs.receive()) != ERROR_SUCCESS) return false;
@@ -89,7 +89,7 @@ bool is_registered_below(HKEY root) {
     return false;
 }
 
-/// Loads the library of Windows that calls the user's default mail program.
+// Loads the library of Windows that calls the user's default mail program.
 HMODULE load_library() {
     // If no mail program is registered, mapi32.dll would first show a message box of its own.
     if (!is_registered_below(HKEY_CURRENT_USER) && !is_registered_below(HKEY_LOCAL_MACHINE)) {
@@ -100,7 +100,7 @@ HMODULE load_library() {
     return library;
 }
 
-/// The texts of a mail in the encoding of one of the two send functions.
+// The texts of a mail in the encoding of one of the two send functions.
 template <class Text>
 struct Texts {
     Text address, name, subject, text, attachment;

@@ -13,11 +13,11 @@
 namespace quillomat {
 namespace {
 
-/// The font of all printed text.
+// The font of all printed text.
 constexpr wchar_t font_name[] = L"Arial";
 constexpr double font_points = 10;
 
-/// Print queues show a few dozen characters, and some drivers take no more than a path's length.
+// Print queues show a few dozen characters, and some drivers take no more than a path's length.
 constexpr std::size_t longest_document_name = 100;
 
 constexpr wchar_t no_printer[] =
@@ -27,8 +27,8 @@ constexpr wchar_t no_printer[] =
     throw Error(ErrorCode::PrinterError, L"Printing was cancelled.");
 }
 
-/// Throws the error that the printing system set last. The system's descriptions for failures of a port or a driver,
-/// such as "Invalid handle.", mean nothing to a user; the error names the printer instead.
+// Throws the error that the printing system set last. The system's descriptions for failures of a port or a driver,
+// such as "Invalid handle.", mean nothing to a user; the error names the printer instead.
 [[noreturn]] void throw_print_error(const std::wstring& printer) {
     const DWORD code = GetLastError();
     if (code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED) throw_cancelled();
@@ -39,7 +39,7 @@ constexpr wchar_t no_printer[] =
                     L"\" could not be reached. Check that it is switched on and connected, and try again.");
 }
 
-/// Makes a call of the printing system. Throws `Error` if the call reports a failure.
+// Makes a call of the printing system. Throws `Error` if the call reports a failure.
 template <class Call>
 void printed(const std::wstring& printer, const Call& call) {
     SetLastError(ERROR_SUCCESS);
@@ -58,7 +58,7 @@ void printed(const std::wstring& printer, const Call& call) {
     }
 }
 
-/// Returns the name of the default printer; empty if there is none.
+// Returns the name of the default printer; empty if there is none.
 std::wstring default_printer_name() {
     // Loaded with the program, the library would make every start about 4 % longer, and few runs print.
     const auto get_default = system_function<decltype(GetDefaultPrinterW)>(L"winspool.drv", "GetDefaultPrinterW");

@@ -17,7 +17,7 @@ std::wstring hexadecimal(std::uint32_t number) {
     return digits;
 }
 
-/// Returns a text with its environment variables replaced by their values.
+// Returns a text with its environment variables replaced by their values.
 std::wstring expanded(const std::wstring& text) {
     std::wstring result(ExpandEnvironmentStringsW(text.c_str(), nullptr, 0), L'\0');
     const DWORD length = ExpandEnvironmentStringsW(text.c_str(), result.data(), static_cast<DWORD>(result.size()));

@@ -10,7 +10,7 @@
 namespace quillomat {
 namespace {
 
-/// The largest file that is read, in bytes. Windows decodes at most as many bytes as an int counts.
+// The largest file that is read, in bytes. Windows decodes at most as many bytes as an int counts.
 constexpr LONGLONG largest_file = (LONGLONG{1} << 31) - 1;
 
 LONGLONG size_of(HANDLE file) {
@@ -19,8 +19,8 @@ LONGLONG size_of(HANDLE file) {
     return size.QuadPart;
 }
 
-/// Writes the bytes with one call and waits until they are on the disk: behind a cache, writing can fail as late as
-/// that.
+// Writes the bytes with one call and waits until they are on the disk: behind a cache, writing can fail as late as
+// that.
 void write_flushed(HANDLE file, std::string_view bytes) {
     DWORD written = 0;
     if (!WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) throw_last_error();
@@ -34,14 +34,14 @@ bool seek(HANDLE file, LONGLONG position) {
     return SetFilePointerEx(file, distance, nullptr, FILE_BEGIN) != FALSE;
 }
 
-/// Throws PermissionDenied for a read-only file or a folder, even if the rights to the folder above allow replacing it.
+// Throws PermissionDenied for a read-only file or a folder, even if the rights to the folder above allow replacing it.
 void check_changeable(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) return;
     if (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) throw Error(ErrorCode::PermissionDenied);
 }
 
-/// RAII guard that closes the slot after a write, even a failed one: only reading leaves the slot open.
+// RAII guard that closes the slot after a write, even a failed one: only reading leaves the slot open.
 class SlotCloser {
   public:
     explicit SlotCloser(FileHandle& file) : file_(file) {}
@@ -55,14 +55,14 @@ class SlotCloser {
 
 enum class AtClosing { Keep, Delete };
 
-/// Sets what Windows does with a file when its handle is closed, even if the process is killed.
+// Sets what Windows does with a file when its handle is closed, even if the process is killed.
 void set_fate(HANDLE file, AtClosing fate) {
     FILE_DISPOSITION_INFO info{fate == AtClosing::Delete};
     if (!SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info)) throw_last_error();
 }
 
-/// Repeats a system call for half a second while another program has the file open: a second run of this program that
-/// adds a game, a virus scanner, an indexer. Returns the code of the last failure, or ERROR_SUCCESS.
+// Repeats a system call for half a second while another program has the file open: a second run of this program that
+// adds a game, a virus scanner, an indexer. Returns the code of the last failure, or ERROR_SUCCESS.
 DWORD wait_for_file(const std::function<bool()>& call) {
     constexpr int attempts = 50;
     constexpr DWORD milliseconds_between = 10;
@@ -76,7 +76,7 @@ DWORD wait_for_file(const std::function<bool()>& call) {
     return code;
 }
 
-/// Returns the path of the file that `path` links to, or `path` if it is no link.
+// Returns the path of the file that `path` links to, or `path` if it is no link.
 std::wstring link_target(const std::wstring& path) {
     const FileHandle file(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0,
@@ -91,7 +91,7 @@ std::wstring link_target(const std::wstring& path) {
     return target;
 }
 
-/// Replaces a file with a new one, which takes over the rights, attributes and times of the old one.
+// Replaces a file with a new one, which takes over the rights, attributes and times of the old one.
 void put_in_place(const std::wstring& new_file, const std::wstring& path) {
     DWORD code = wait_for_file([&] {
         return ReplaceFileW(path.c_str(), new_file.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,

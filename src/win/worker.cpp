@@ -11,11 +11,11 @@
 namespace quillomat {
 namespace {
 
-/// True in the thread of a worker. Windows calls the exception filter in the thread that crashed, with no argument that
-/// tells whose thread it is.
+// True in the thread of a worker. Windows calls the exception filter in the thread that crashed, with no argument that
+// tells whose thread it is.
 thread_local bool is_worker_thread = false;
 
-/// Ends only the thread if a worker has crashed.
+// Ends only the thread if a worker has crashed.
 LONG WINAPI end_crashed_worker(EXCEPTION_POINTERS*) {
     if (is_worker_thread) ExitThread(EXIT_FAILURE);
     return EXCEPTION_CONTINUE_SEARCH;
