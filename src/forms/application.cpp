@@ -77,7 +77,7 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
     } const reset{working_};
 
     const HWND focused = GetFocus();
-    ModalScope others(*this);
+    ModalScope modal(*this);
     Worker worker(std::move(work));
     const HANDLE thread = worker.thread();
     const ULONGLONG end = GetTickCount64() + milliseconds;
@@ -86,10 +86,10 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
     while (result == WAIT_OBJECT_0 + 1) {
         result = MsgWaitForMultipleObjectsEx(1, &thread, static_cast<DWORD>(end - std::min(GetTickCount64(), end)),
                                              QS_ALLINPUT, MWMO_INPUTAVAILABLE);
-        others.hold();
+        modal.hold();
         MSG message{};
         if (result != WAIT_OBJECT_0 + 1 || !PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) continue;
-        others.hold();
+        modal.hold();
         if (message.message == WM_QUIT) {
             quit = static_cast<int>(message.wParam);
         } else if (!is_stray_input(message)) {
@@ -97,7 +97,7 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
         }
     }
     if (quit) PostQuitMessage(*quit);
-    others.end();
+    modal.end();
     // Windows takes the focus away from a window that is disabled.
     if (IsWindow(focused)) SetFocus(focused);
     if (result == WAIT_TIMEOUT) {

@@ -28,8 +28,8 @@ class Application {
     Modality& modality() { return modality_; }
     /// Reports exceptions that leave handlers.
     Faults& faults() { return faults_; }
-    /// The window whose handler is running, the innermost if they are nested; null between events.
-    HWND handling() const { return handling_; }
+    /// The window whose handler is running, or the innermost one if handlers are nested; null between events.
+    HWND handling_window() const { return handling_window_; }
 
     /// Makes every window use `dpi` instead of asking Windows for its resolution; 0 asks again. For tests.
     void force_dpi(int dpi) { forced_dpi_ = dpi; }
@@ -48,7 +48,7 @@ class Application {
     void drop_second_press();
     /// Runs `work` on a thread of its own and returns true once the work has ended. Meanwhile windows repaint but take
     /// no input, even if a library called by the work enables one of them. The work must not touch any window.
-    /// Returns false after `milliseconds`; the work then continues in the background. Returns false at once if another
+    /// Returns false after `milliseconds`; the work then continues in the background. Returns false at once if other
     /// work is running. Rethrows exceptions that leave the work; throws `Error` with Crashed if the work crashes.
     bool run_without_blocking(std::function<void()> work, DWORD milliseconds = INFINITE);
     /// Closes every open form, dialogs before the windows below them.
@@ -60,16 +60,16 @@ class Application {
     void report_current_exception();
 
     /// Marks a window's handler as running during the lifetime of this object. For the toolkit.
-    class Handling {
+    class HandlerScope {
       public:
-        Handling(Application& application, HWND window)
-            : handling_(application.handling_), former_(std::exchange(handling_, window)) {}
-        ~Handling() { handling_ = former_; }
-        Handling(const Handling&) = delete;
-        Handling& operator=(const Handling&) = delete;
+        HandlerScope(Application& application, HWND window)
+            : current_(application.handling_window_), former_(std::exchange(current_, window)) {}
+        ~HandlerScope() { current_ = former_; }
+        HandlerScope(const HandlerScope&) = delete;
+        HandlerScope& operator=(const HandlerScope&) = delete;
 
       private:
-        HWND& handling_;
+        HWND& current_;
         HWND former_;
     };
 
@@ -81,7 +81,7 @@ class Application {
     FontCache fonts_;
     Modality modality_;
     Faults faults_{*this};
-    HWND handling_ = nullptr;
+    HWND handling_window_ = nullptr;
     int forced_dpi_ = 0;
     bool working_ = false;              // during `run_without_blocking`
     std::optional<DWORD> first_click_;  // the time of the click whose second press is dropped

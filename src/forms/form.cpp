@@ -97,7 +97,7 @@ Form::Form(Application& application, const FormDesign& design)
     CreateWindowExW(extended, design.name, design.caption, style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
                     nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (!window_) throw_last_error();
-    application.modality().opened(window_, application.handling());
+    application.modality().opened(window_, application.handling_window());
     const UINT system_dpi = GetDpiForWindow(window_);
     set_dpi(application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi));
     internals_.tool_tips.create(window_, dpi());
@@ -159,7 +159,7 @@ void Form::forget_window() {
 }
 
 LRESULT Form::guarded(const std::function<LRESULT()>& work, UINT message) {
-    const Application::Handling handling(application_, window_);
+    const Application::HandlerScope scope(application_, window_);
     ++handlers_running_;
     LRESULT result = 0;
     try {
@@ -308,7 +308,7 @@ void Form::set_owner(const Form& owner) {
 void Form::show_modal(Form* owner) {
     modal_ = true;
     if (owner) set_owner(*owner);
-    HWND opener = application_.handling();
+    HWND opener = application_.handling_window();
     if (owner) opener = owner->window_;
     application_.modality().let_through(window_);
     {
