@@ -6,8 +6,8 @@
 
 namespace quillomat {
 
-/// A push button. The button is owner-drawn, because a standard one cannot change its background colour or underline
-/// its caption.
+/// A push button. The button is owner-drawn, because Windows gives no way to change the background colour of a
+/// standard one.
 class Button : public Control {
   public:
     Button(Container& container, std::wstring_view caption, Bounds bounds);
@@ -17,11 +17,9 @@ class Button : public Control {
     void set_caption(const std::wstring& caption);
     /// Sets the colour of the caption while the button is disabled; the default is the grey of Windows.
     void set_disabled_fore_colour(Colour colour) { disabled_fore_colour_ = colour; }
-    /// Presses the button.
-    void click() { raise(on_click); }
 
     bool is_button() const override { return true; }
-    void press() override { click(); }
+    void click() override { raise(on_click); }
     void notified(WORD code) override;
     void draw(const DRAWITEMSTRUCT& request) override;
 

@@ -110,7 +110,7 @@ bool Application::run_without_blocking(std::function<void()> work, DWORD millise
 
 void Application::close_all_forms() {
     for (const HWND window : thread_windows()) {
-        // A form that closes destroys others with it; `Form::from` returns null for those.
+        // Closing a form may destroy others; `Form::from` returns null for those.
         if (Form* form = Form::from(window)) form->close();
     }
 }

@@ -59,7 +59,7 @@ class Control : public Item {
     /// Returns the control of a window or of a child window that Windows has created in it; null if there is none.
     static Control* from(HWND window);
 
-    // The container forwards these from the control's window.
+    // The control's window sends these messages to its container, which forwards them to the control.
     /// Handles a notification, given by its code.
     virtual void notified(WORD /*code*/) {}
     /// Sets the text colours of `canvas` and returns the brush for the background.
@@ -67,13 +67,13 @@ class Control : public Item {
     /// Draws an owner-drawn control.
     virtual void draw(const DRAWITEMSTRUCT& /*request*/) {}
 
-    /// Raises the key events before dialog keys are handled. Returns true if a handler has handled the key.
+    /// Raises the key events. Called before dialog keys are handled. Returns true if a handler has handled the key.
     bool raise_key_down(int key);
 
-    /// Returns true for a push button, which Enter presses while the button has the focus.
+    /// Returns true for a push button, which Enter clicks while the button has the focus.
     virtual bool is_button() const { return false; }
-    /// Presses the control, if it is a push button.
-    virtual void press() {}
+    /// Clicks the control, if it is a push button.
+    virtual void click() {}
 
   protected:
     /// Creates the window. Throws `Error` if Windows cannot create it.

@@ -75,7 +75,7 @@ bool FormKeyboard::handle_dialog_key(const MSG& message) {
             if (!button) return false;
             // Key repeat must not press the buttons of windows that open while Enter is held.
             if (message.lParam & was_down_before) return true;
-            if (button->enabled() && IsWindowVisible(button->window())) button->press();
+            if (button->enabled() && IsWindowVisible(button->window())) button->click();
             return true;
         }
         case VK_ESCAPE:
@@ -85,7 +85,7 @@ bool FormKeyboard::handle_dialog_key(const MSG& message) {
                 return false;
             }
             if (!cancel_button_ || !cancel_button_->enabled()) return false;
-            cancel_button_->press();
+            cancel_button_->click();
             return true;
         default:
             return false;
