@@ -191,9 +191,10 @@ std::optional<LRESULT> Container::handle_container_message(UINT message, WPARAM 
             release_all();
             return 0;
         case WM_SYSCOLORCHANGE:
-        case WM_THEMECHANGED:
-            // Windows sends these messages to top-level windows only. Frames forward them to their own controls.
+            // Windows sends this message to top-level windows only. Frames forward it to their own controls.
             for (const Control* control : controls_) SendMessageW(control->window(), message, wparam, lparam);
+            [[fallthrough]];
+        case WM_THEMECHANGED:
             InvalidateRect(window(), nullptr, TRUE);
             break;
         case WM_COMMAND:
