@@ -38,18 +38,14 @@ bool FormKeyboard::translate(MSG& message) {
     bool handled = false;
     form_.guarded([&] {
         if (message.message == WM_MOUSEMOVE) raise(form_.on_pointer_moved);
-        if (is_key_down(message.message)) raise(form_.on_key_pressed);
-        Control* control = is_key_down(message.message) ? Control::from(message.hwnd) : nullptr;
-        if (control) handled = control->raise_key_down(static_cast<int>(message.wParam));
-        if (message.hwnd == form_.window() && is_key_down(message.message)) {
-            handled = raise_key_down(static_cast<int>(message.wParam));
-        }
+        if (is_key_down(message.message)) handled = raise_key_events(message);
         if (!handled && !form_.closed()) {
             handled = (message.message == WM_KEYDOWN && handle_dialog_key(message)) ||
                       IsDialogMessageW(form_.window(), &message);
         }
-        // Tell Windows of a handled key pressed with Alt, or releasing Alt would open the menu bar. Windows already
-        // knows of Alt itself; a second message would look like such a key, and Alt alone would not open the menu bar.
+        // Tell Windows of a handled key pressed with Alt, or releasing Alt would open the menu bar. Leave out Alt
+        // itself: Windows would take the second message for a key pressed with Alt, and Alt alone would not open the
+        // menu bar.
         const bool with_alt = message.message == WM_SYSKEYDOWN && (message.lParam & alt_held);
         if (handled && with_alt && message.wParam != VK_F4 && message.wParam != VK_MENU && form_.window()) {
             DefWindowProcW(form_.window(), message.message, message.wParam, message.lParam);
@@ -60,7 +56,6 @@ bool FormKeyboard::translate(MSG& message) {
 }
 
 bool FormKeyboard::handle_dialog_key(const MSG& message) {
-    const auto wanted = SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
     const Modifiers modifiers = current_modifiers();
     switch (message.wParam) {
         case VK_TAB:
@@ -69,6 +64,8 @@ bool FormKeyboard::handle_dialog_key(const MSG& message) {
             move_focus(modifiers.shift);
             return true;
         case VK_RETURN: {
+            const LRESULT wanted =
+                SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
             if (wanted & DLGC_WANTALLKEYS) return false;
             Control* button = Control::from(message.hwnd);
             if (!button || !button->is_button()) button = default_button_;
@@ -103,7 +100,7 @@ void FormKeyboard::move_focus(bool backwards) {
     const auto next = std::find_if(windows.begin(), windows.end(), takes_tab);
     if (next == windows.end()) return;
     SetFocus(*next);
-    // As in every dialog, Tab selects the text of an input, unless it has several lines.
+    // As in a dialog, Tab selects the text of a single-line input.
     const bool is_input = SendMessageW(*next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
     if (is_input && !(GetWindowLongPtrW(*next, GWL_STYLE) & ES_MULTILINE)) SendMessageW(*next, EM_SETSEL, 0, -1);
 }
@@ -137,7 +134,11 @@ void FormKeyboard::restore_focus() {
     }
 }
 
-bool FormKeyboard::raise_key_down(int key) {
+bool FormKeyboard::raise_key_events(const MSG& message) {
+    raise(form_.on_key_pressed);
+    const int key = static_cast<int>(message.wParam);
+    if (Control* control = Control::from(message.hwnd)) return control->raise_key_down(key);
+    if (message.hwnd != form_.window()) return false;
     KeyEvent event{.key = key, .modifiers = current_modifiers()};
     raise(form_.on_key_down, event);
     return event.handled;

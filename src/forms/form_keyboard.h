@@ -34,7 +34,7 @@ class FormKeyboard {
     void move_last_focus(HWND former, HWND present);
 
   private:
-    bool raise_key_down(int key);
+    bool raise_key_events(const MSG& message);
     bool handle_dialog_key(const MSG& message);
     void show_cues();
 
