@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 namespace quillomat {
 
@@ -53,7 +54,7 @@ struct CharacterEvent {
 /// Calls a handler if one is bound.
 template <class... Arguments, class... Values>
 void raise(const std::function<void(Arguments...)>& handler, Values&&... values) {
-    if (handler) handler(values...);
+    if (handler) handler(std::forward<Values>(values)...);
 }
 
 /// The mouse events of items and forms.
