@@ -67,10 +67,6 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     description.lpfnWndProc = procedure;
     description.hInstance = program;
     description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(application_icon));
-    // Without an icon drawn for this size, Windows would scale the large one, which looks worse and is slow.
-    description.hIconSm =
-        static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(application_icon), IMAGE_ICON,
-                                      GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
     description.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
     description.lpszClassName = name;
     if (!RegisterClassExW(&description)) throw_last_error();
