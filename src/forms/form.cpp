@@ -7,6 +7,7 @@
 #include "forms/control.h"
 #include "forms/message_box.h"
 #include "forms/timer.h"
+#include "resources/pictures.h"
 #include "win/errors.h"
 #include "win/thread_windows.h"
 
@@ -14,7 +15,6 @@ namespace quillomat {
 namespace {
 
 constexpr UINT destroy_message = WM_APP;
-constexpr WORD application_icon = 1;
 
 Occasion occasion_of(UINT message) {
     switch (message) {
@@ -66,7 +66,7 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     description.style = CS_DBLCLKS;
     description.lpfnWndProc = procedure;
     description.hInstance = program;
-    description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(application_icon));
+    description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(PICTURE_APPLICATION));
     description.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
     description.lpszClassName = name;
     if (!RegisterClassExW(&description)) throw_last_error();
