@@ -94,8 +94,8 @@ Form::Form(Application& application, const FormDesign& design)
                     nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (!window_) throw_last_error();
     application.modality().opened(window_, application.handling_window());
-    const UINT system_dpi = GetDpiForWindow(window_);
-    set_dpi(application.forced_dpi() ? application.forced_dpi() : static_cast<int>(system_dpi));
+    const auto window_dpi = static_cast<int>(GetDpiForWindow(window_));
+    set_dpi(application.forced_dpi() ? application.forced_dpi() : window_dpi);
     internals_.tool_tips.create(window_, dpi());
     set_size(design.width, design.height);
 }
@@ -218,7 +218,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             resolution_changed(HIWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
             return 0;
         case WM_TIMER:
-            timer_has_run(wparam);
+            handle_timer(wparam);
             return 0;
         case WM_COMMAND:
             if (!lparam && internals_.commands.pick(LOWORD(wparam))) return 0;
@@ -242,16 +242,16 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             internals_.keyboard.restore_focus();
             return 0;
         case WM_SETCURSOR:
-            if (pointer_over(LOWORD(lparam), HIWORD(lparam))) return TRUE;
+            if (handle_set_cursor(LOWORD(lparam), HIWORD(lparam))) return TRUE;
             break;
     }
     if (const auto result = handle_container_message(message, wparam, lparam)) return *result;
     return DefWindowProcW(window_, message, wparam, lparam);
 }
 
-bool Form::pointer_over(WORD place, WORD mouse_message) {
-    // A press on a disabled window: the dialog it waits for may be hidden behind it.
-    if (place == static_cast<WORD>(HTERROR) && is_button_press(mouse_message)) {
+bool Form::handle_set_cursor(WORD hit_test, WORD mouse_message) {
+    // The user has clicked a disabled window; the dialog for which the window waits may be hidden behind it.
+    if (hit_test == static_cast<WORD>(HTERROR) && is_button_press(mouse_message)) {
         beep();
         bring_to_foreground();
         return true;
@@ -261,7 +261,7 @@ bool Form::pointer_over(WORD place, WORD mouse_message) {
     return true;
 }
 
-void Form::timer_has_run(UINT_PTR id) {
+void Form::handle_timer(UINT_PTR id) {
     const auto& timers = internals_.timers;
     const auto timer = std::find(timers.begin(), timers.end(), reinterpret_cast<Timer*>(id));
     if (timer != timers.end() && !closed_) (*timer)->tick();
@@ -328,7 +328,7 @@ void Form::close() {
         });
     }
     for (Timer* timer : internals_.timers) timer->set_enabled(false);
-    // The modal loop hides a dialog once the owner is enabled again and can be activated.
+    // A dialog stays visible until `show_modal` has enabled its owner, or Windows would activate another program.
     if (!modal_) ShowWindow(window_, SW_HIDE);
     PostMessageW(window_, destroy_message, 0, 0);
 }
@@ -358,14 +358,14 @@ void Form::resized() {
     raise(on_resize);
 }
 
-void Form::resolution_changed(int system_dpi, const RECT& suggested) {
-    set_dpi(application_.forced_dpi() ? application_.forced_dpi() : system_dpi);
+void Form::resolution_changed(int window_dpi, const RECT& suggested) {
+    set_dpi(application_.forced_dpi() ? application_.forced_dpi() : window_dpi);
     internals_.tool_tips.fit_resolution(dpi());
     items_resolution_changed();
     resolution_changing_ = true;
     place_for_resolution(suggested);
     resolution_changing_ = false;
-    // A minimised window has nothing to lay out, and its on_resize would take this for being minimised just now.
+    // A minimised window has nothing to lay out, and its on_resize would act as if it had just been minimised.
     if (shown_ && !IsIconic(window_)) resized();
 }
 

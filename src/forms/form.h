@@ -114,12 +114,12 @@ class Form : public TopLevelWindow, public MouseEvents {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
     static LRESULT window_destroyed(Form& form, HWND window, WPARAM wparam, LPARAM lparam);
     /// Handles WM_SETCURSOR. Returns false to leave the shape of the pointer to Windows.
-    bool pointer_over(WORD place, WORD mouse_message);
-    void timer_has_run(UINT_PTR id);
+    bool handle_set_cursor(WORD hit_test, WORD mouse_message);
+    void handle_timer(UINT_PTR id);
     void load();
     void resized();
     void drag();
-    void resolution_changed(int system_dpi, const RECT& suggested);
+    void resolution_changed(int window_dpi, const RECT& suggested);
     void destroy_when_idle();
     void forget_window();
     std::vector<Form*> owned_forms() const;
