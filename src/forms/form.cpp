@@ -382,7 +382,7 @@ void Form::drag_by(MouseEvents& surface) {
 
 void Form::drag() {
     ReleaseCapture();
-    SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+    SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, static_cast<LPARAM>(GetMessagePos()));
 }
 
 void Form::bring_to_foreground() {
