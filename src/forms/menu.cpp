@@ -23,27 +23,21 @@ MenuBar::~MenuBar() {
     DestroyMenu(handle_);
 }
 
-Menu::Menu(MenuBar& bar, std::wstring caption)
-    : form_(bar.form()),
-      handle_(CreatePopupMenu()),
-      id_(form_.internals().commands.add(*this)),
-      caption_(std::move(caption)) {
+Menu::Menu(Form& form, std::wstring caption, Ampersands ampersands)
+    : form_(form), id_(form_.internals().commands.add(*this)), caption_(std::move(caption)), ampersands_(ampersands) {}
+
+Menu::Menu(MenuBar& bar, std::wstring caption) : Menu(bar.form(), std::move(caption)) {
     attach(bar.handle());
     if (IsWindowVisible(form_.window())) DrawMenuBar(form_.window());
 }
 
-Menu::Menu(Form& form, std::wstring caption)
-    : form_(form),
-      handle_(CreatePopupMenu()),
-      id_(form_.internals().commands.add(*this)),
-      caption_(std::move(caption)) {}
+Menu::Menu(Form& form, std::wstring caption) : Menu(form, std::move(caption), Ampersands::MarkAccessKeys) {
+    ensure_popup_menu();
+}
 
 Menu::Menu(Menu& parent, std::wstring caption, Ampersands ampersands)
-    : form_(parent.form_),
-      id_(form_.internals().commands.add(*this)),
-      caption_(std::move(caption)),
-      ampersands_(ampersands) {
-    parent.become_submenu();
+    : Menu(parent.form_, std::move(caption), ampersands) {
+    parent.ensure_popup_menu();
     attach(parent.handle_);
 }
 
@@ -74,7 +68,7 @@ void Menu::attach(HMENU parent) {
     if (!InsertMenuItemW(parent, static_cast<UINT>(GetMenuItemCount(parent)), TRUE, &info)) throw_last_error();
 }
 
-void Menu::become_submenu() {
+void Menu::ensure_popup_menu() {
     if (handle_) return;
     handle_ = CreatePopupMenu();
     if (!handle_) throw_last_error();

@@ -75,8 +75,10 @@ class Menu {
     void pick();
 
   private:
+    Menu(Form& form, std::wstring caption, Ampersands ampersands);
     void attach(HMENU parent);
-    void become_submenu();
+    /// Creates the menu that will contain the entries, if there is none yet.
+    void ensure_popup_menu();
     void pop_up_at(POINT screen, const Menu* default_item);
     /// Returns the type and caption of the entry. The result points into `text`.
     MENUITEMINFOW caption_info(std::wstring& text) const;
