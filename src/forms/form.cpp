@@ -224,7 +224,7 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             if (!lparam && internals_.commands.pick(LOWORD(wparam))) return 0;
             break;
         case WM_INITMENUPOPUP:
-            internals_.commands.opens(reinterpret_cast<HMENU>(wparam));
+            internals_.commands.raise_opening(reinterpret_cast<HMENU>(wparam));
             return 0;
         case WM_ACTIVATE:
             // A window that is being minimised has lost the focus already, which must not overwrite the remembered one.

@@ -9,13 +9,11 @@
 namespace quillomat {
 
 int MenuCommands::add(Menu& menu) {
-    // WM_COMMAND carries 16 bits, and Windows reserves the upper numbers. Numbers of removed entries are reused.
-    constexpr int first = 100;
-    constexpr int last = 0xEFFF;
-    if (menus_.size() > last - first) throw Error(ErrorCode::OutOfMemory);
+    if (menus_.size() > last_id - first_id) throw Error(ErrorCode::OutOfMemory);
+    // The IDs of removed entries are reused.
     while (!menus_.try_emplace(next_id_, &menu).second) {
         ++next_id_;
-        if (next_id_ > last) next_id_ = first;
+        if (next_id_ > last_id) next_id_ = first_id;
     }
     return next_id_;
 }
@@ -27,7 +25,7 @@ bool MenuCommands::pick(int id) const {
     return true;
 }
 
-void MenuCommands::opens(HMENU menu) const {
+void MenuCommands::raise_opening(HMENU menu) const {
     const auto opened = std::find_if(menus_.begin(), menus_.end(),
                                      [menu](const auto& command) { return command.second->handle() == menu; });
     if (opened != menus_.end()) raise(opened->second->on_click);
