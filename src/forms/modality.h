@@ -23,7 +23,8 @@ class Modality {
     /// Returns the owner for a message box: `wanted` if that window is visible and enabled, else the active window,
     /// else the front-most such window. `wanted` may be null; the result is null if there is no such window.
     HWND owner_for_message(HWND wanted) const;
-    /// Activates the window that takes input, because a waiting window was clicked or has opened.
+    /// Activates the window that takes input, restored if it is minimised. For a waiting window that was clicked or has
+    /// opened.
     void bring_usable_to_front() const;
 
   private:
@@ -43,7 +44,7 @@ class ModalScope {
     ModalScope(const ModalScope&) = delete;
     ModalScope& operator=(const ModalScope&) = delete;
 
-    /// Disables windows again that a library has enabled.
+    /// Disables the windows that a library has enabled meanwhile.
     void hold() const;
     /// Enables the windows again unless they wait for another dialog. Call this before the dialog's window is
     /// destroyed, or Windows activates another program's window instead of the owner.

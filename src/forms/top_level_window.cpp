@@ -6,7 +6,7 @@
 namespace quillomat {
 namespace {
 
-RECT free_area(HWND window) {
+RECT work_area(HWND window) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
@@ -92,7 +92,7 @@ void TopLevelWindow::place_over(const TopLevelWindow& other, Over place) {
 }
 
 void TopLevelWindow::centre_on_screen() {
-    const RECT screen = free_area(window());
+    const RECT screen = work_area(window());
     const RECT area = outer();
     SetWindowPos(window(), nullptr, screen.left + (screen.right - screen.left - (area.right - area.left)) / 2,
                  screen.top + (screen.bottom - screen.top - (area.bottom - area.top)) / 2, 0, 0,
@@ -100,7 +100,7 @@ void TopLevelWindow::centre_on_screen() {
 }
 
 void TopLevelWindow::place_on_screen() {
-    const RECT screen = free_area(window());
+    const RECT screen = work_area(window());
     const RECT area = outer();
     const LONG width = std::min(area.right - area.left, screen.right - screen.left);
     const LONG height = std::min(area.bottom - area.top, screen.bottom - screen.top);
@@ -112,7 +112,7 @@ void TopLevelWindow::place_on_screen() {
 }
 
 void TopLevelWindow::limit_size(MINMAXINFO& limits) const {
-    const RECT screen = free_area(window());
+    const RECT screen = work_area(window());
     POINT& least = limits.ptMinTrackSize;
     least.x = std::max(least.x, std::min<LONG>(to_pixels(minimum_.width, dpi_), screen.right - screen.left));
     least.y = std::max(least.y, std::min<LONG>(to_pixels(minimum_.height, dpi_), screen.bottom - screen.top));
