@@ -6,11 +6,15 @@
 namespace quillomat {
 namespace {
 
-RECT work_area(HWND window) {
+MONITORINFO monitor_of(HWND window) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    return monitor.rcWork;
+    return monitor;
+}
+
+RECT work_area(HWND window) {
+    return monitor_of(window).rcWork;
 }
 
 }  // namespace
@@ -19,7 +23,13 @@ RECT TopLevelWindow::outer() const {
     // GetWindowRect returns a place far off the screen for a minimised window.
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
-    if (IsIconic(window()) && GetWindowPlacement(window(), &placement)) return placement.rcNormalPosition;
+    if (IsIconic(window()) && GetWindowPlacement(window(), &placement)) {
+        // This position counts from the work area, which a taskbar at the left or top edge moves.
+        const MONITORINFO monitor = monitor_of(window());
+        RECT normal = placement.rcNormalPosition;
+        OffsetRect(&normal, monitor.rcWork.left - monitor.rcMonitor.left, monitor.rcWork.top - monitor.rcMonitor.top);
+        return normal;
+    }
     RECT area{};
     GetWindowRect(window(), &area);
     return area;
