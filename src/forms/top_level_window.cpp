@@ -52,12 +52,8 @@ double TopLevelWindow::height() const {
 }
 
 void TopLevelWindow::set_size(double width, double height) {
-    const RECT area = outer();
-    const int pixel_width = to_pixels(std::max(width, 0.0), dpi_);
-    const int pixel_height = to_pixels(std::max(height, 0.0), dpi_);
-    // Setting the present size must not lay the window out again.
-    if (pixel_width == area.right - area.left && pixel_height == area.bottom - area.top) return;
-    SetWindowPos(window(), nullptr, 0, 0, pixel_width, pixel_height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window(), nullptr, 0, 0, to_pixels(std::max(width, 0.0), dpi_), to_pixels(std::max(height, 0.0), dpi_),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void TopLevelWindow::move_to(double left, double top) {
