@@ -11,11 +11,11 @@ ListBox::ListBox(Container& container, Bounds bounds, DWORD further_style)
     set_default_back_colour(colours::window);
 }
 
-ListBox::Filling::Filling(ListBox& list) : list_(list) {
+ListBox::RedrawLock::RedrawLock(ListBox& list) : list_(list) {
     list_.send(WM_SETREDRAW, FALSE);
 }
 
-ListBox::Filling::~Filling() {
+ListBox::RedrawLock::~RedrawLock() {
     list_.send(WM_SETREDRAW, TRUE);
     InvalidateRect(list_.window(), nullptr, TRUE);
 }

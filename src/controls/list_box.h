@@ -20,12 +20,12 @@ class ListBox : public Control {
     /// Appends a text. Throws `Error` with OutOfMemory if Windows has no memory for it.
     void add(std::wstring_view text);
     /// Suspends painting of the list during its lifetime, for adding many texts.
-    class Filling {
+    class RedrawLock {
       public:
-        explicit Filling(ListBox& list);
-        ~Filling();
-        Filling(const Filling&) = delete;
-        Filling& operator=(const Filling&) = delete;
+        explicit RedrawLock(ListBox& list);
+        ~RedrawLock();
+        RedrawLock(const RedrawLock&) = delete;
+        RedrawLock& operator=(const RedrawLock&) = delete;
 
       private:
         ListBox& list_;
@@ -46,8 +46,8 @@ class ListBox : public Control {
     /// Scrolls the text at a position to the top, as far as the list can scroll.
     void set_top_index(int index);
 
-    /// Returns the position of the text nearest to a point in pixels, with a flag above the lower 16 bits if the point
-    /// is outside of the list.
+    /// Returns the position of the text nearest to a point in pixels. Outside of the list, the result has a flag above
+    /// the lower 16 bits, so that it is the position of no text.
     int item_from_point(int x, int y) const;
 
     void notified(WORD code) override;

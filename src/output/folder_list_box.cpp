@@ -39,7 +39,7 @@ void FolderListBox::set_path(const std::wstring& path) {
     steps_ = static_cast<int>(steps.size());
     entries_.clear();
     {
-        const Filling filling(*this);
+        const RedrawLock lock(*this);
         clear();
         for (const FolderStep& step : steps) {
             entries_.push_back({step.path, static_cast<int>(entries_.size())});

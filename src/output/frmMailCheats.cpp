@@ -95,7 +95,7 @@ void frmMailCheats::bind_hover_help() {
 void frmMailCheats::Form_Load() {
     tell_mail_requirements(*this);
     {
-        const ListBox::Filling filling(List1);
+        const ListBox::RedrawLock lock(List1);
         for (int number = 0; number < viewer_.game_count(); ++number) {
             names_.push_back(viewer_.game_name(number));
             List1.add(names_.back());
@@ -177,7 +177,7 @@ void frmMailCheats::List1_Click() {
     std::vector<std::wstring> names;
     for (const int index : List1.picked_indexes()) names.push_back(names_[static_cast<std::size_t>(index)]);
     {
-        const ListBox::Filling filling(List2);
+        const ListBox::RedrawLock lock(List2);
         List2.clear();
         for (const std::wstring& name : names) List2.add(name);
     }

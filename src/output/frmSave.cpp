@@ -149,7 +149,7 @@ void frmSave::Dir1_Change() {
 }
 
 void frmSave::list_files() {
-    const ListBox::Filling filling(File1);
+    const ListBox::RedrawLock lock(File1);
     File1.clear();
     for (const std::wstring& name : Dir1.files()) {
         if (has_extension(name, L".txt")) File1.add(name);

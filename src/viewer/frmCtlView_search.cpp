@@ -53,7 +53,7 @@ void frmCtlView::Command1_Click() {
     {
         const Hourglass hourglass(*this);
         session_.viewer.search_keyword = upper_cased(Text3.text());
-        const ListBox::Filling filling(List1);
+        const ListBox::RedrawLock lock(List1);
         List1.clear();
         const SearchScope scope = Option3.value() ? SearchScope::Names : SearchScope::Cheats;
         session_.catalogue.search(scope, session_.viewer.search_keyword, session_.viewer.game_count,

@@ -44,7 +44,7 @@ void frmCtlView::start_up() {
 void frmCtlView::fill_full_list() {
     ViewerState& state = session_.viewer;
     state.open_count = checked_add_16(state.open_count, 1);
-    const ListBox::Filling filling(List2);
+    const ListBox::RedrawLock lock(List2);
     const auto list_name = [this](std::wstring_view name) { List2.add(name); };
     if (state.open_count == 1) {
         const std::wstring path = session_.program_folder + L"\\Cheats.dat";
