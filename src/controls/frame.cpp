@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-Frame::Frame(quillomat::Container& container, std::wstring_view caption, Bounds bounds, FrameBorder border)
+Frame::Frame(Container& container, std::wstring_view caption, Bounds bounds, FrameBorder border)
     : Control(container, bounds, L"BUTTON", caption, BS_GROUPBOX | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT),
       border_(border) {}
 

@@ -6,20 +6,20 @@ namespace quillomat {
 
 OptionButton::OptionButton(Container& container, std::wstring_view caption, Bounds bounds, Group group, Choice choice)
     : Control(container, bounds, L"BUTTON", caption,
-              // Tab stops at the set button of a group; Windows moves WS_TABSTOP when another one is set.
+              // Tab stops at the set button of a group; Windows moves WS_TABSTOP when another button is set.
               BS_AUTORADIOBUTTON | (group == Group::Starts ? WS_GROUP : 0) |
                   (group == Group::Starts || choice == Choice::Set ? WS_TABSTOP : 0)),
       value_(choice == Choice::Set) {
-    // Set it here, because setting it later makes Windows search all windows of the container for the group.
+    // Check the button here and not by `set_value`, which would search the container for the others of the group.
     if (value_) send(BM_SETCHECK, BST_CHECKED);
 }
 
-void OptionButton::take_back_others() {
+void OptionButton::clear_others() {
     for (Control* control : container().controls()) {
         auto* other = dynamic_cast<OptionButton*>(control);
         if (!other || other == this) continue;
         other->value_ = false;
-        // Clear even a clear button: this removes the WS_TABSTOP of the first one.
+        // Clear even a clear button: this removes WS_TABSTOP from the first button of the group.
         other->send(BM_SETCHECK, BST_UNCHECKED);
     }
 }
@@ -29,7 +29,7 @@ void OptionButton::set_value(bool value) {
     value_ = value;
     send(BM_SETCHECK, value ? BST_CHECKED : BST_UNCHECKED);
     if (!value) return;
-    take_back_others();
+    clear_others();
     raise(on_click);
 }
 

@@ -25,7 +25,7 @@ class OptionButton : public Control {
     void notified(WORD code) override;
 
   private:
-    void take_back_others();
+    void clear_others();
 
     bool value_;
 };

@@ -8,7 +8,7 @@
 namespace quillomat {
 namespace {
 
-// The default limit for typed text is 32 K or 64 K characters.
+// By default, Windows lets the user type at most 32,767 characters.
 constexpr WPARAM no_limit = 0x7FFFFFFE;
 
 // Wine: the time to break a line grows with the square of its length. It was 0.5 s for 20,000 characters and 75 s for
@@ -79,9 +79,10 @@ TextBox::TextBox(Container& container, Bounds bounds, TextBoxKind kind)
 
 void TextBox::set_text(std::wstring_view text) {
     // Windows sends EN_CHANGE for SetWindowText to single-line boxes only. Every change raises one event here.
-    program_changes_ = true;
     choose_line_breaks(text);
-    SetWindowTextW(window(), displayable(text).c_str());
+    const std::wstring shown = displayable(text);
+    program_changes_ = true;
+    SetWindowTextW(window(), shown.c_str());
     program_changes_ = false;
     raise(on_change);
 }
