@@ -10,7 +10,6 @@ OptionButton::OptionButton(Container& container, std::wstring_view caption, Boun
               BS_AUTORADIOBUTTON | (group == Group::Starts ? WS_GROUP : 0) |
                   (group == Group::Starts || choice == Choice::Set ? WS_TABSTOP : 0)),
       value_(choice == Choice::Set) {
-    // Check the button here and not by `set_value`, which would search the container for the others of the group.
     if (value_) send(BM_SETCHECK, BST_CHECKED);
 }
 
