@@ -7,13 +7,13 @@ namespace quillomat {
 
 class Form;
 
-/// The keys under which the state and the outer size of a window are stored.
+/// The settings that hold the state and the outer size of a window.
 struct WindowKeys {
     Setting<std::int32_t> state;
     Setting<std::int16_t> width;  ///< in twips, like the height
     Setting<std::int16_t> height;
-    /// The key that the height is written to; one window reads it from another key.
-    SettingKey<std::int16_t> written_height;
+    /// The setting to which the height is written, a constant of `settings`; one window reads another one.
+    const SettingKey<std::int16_t>& written_height;
 };
 
 /// Sets a window to its stored state. A window that is not shown yet will open in that state.
