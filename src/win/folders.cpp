@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "text/paths.h"
+#include "win/com_apartment.h"
 #include "win/errors.h"
 // Needs <windows.h> before it.
 #include <shellapi.h>
@@ -125,6 +126,7 @@ Icon folder_icon(FolderState state, int size) {
     // Sizes above that of the small icon are scaled down from the large icon.
     flags |= size > GetSystemMetrics(SM_CXSMICON) ? SHGFI_LARGEICON : SHGFI_SMALLICON;
     if (state == FolderState::Open) flags |= SHGFI_OPENICON;
+    const ComApartment apartment;
     SHFILEINFOW info{};
     // With SHGFI_USEFILEATTRIBUTES the shell uses only the attributes and accesses no disk; the name is a placeholder.
     SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info, flags);

@@ -1,28 +1,10 @@
 #include "win/links.h"
 
-#include "win/api.h"
-// These need <windows.h> before them.
-#include <objbase.h>
+#include "win/com_apartment.h"
+// Needs <windows.h> before it.
 #include <shellapi.h>
 
 namespace quillomat {
-namespace {
-
-// Initialises COM for this thread: Windows starts some browsers through COM.
-class ComApartment {
-  public:
-    ComApartment() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {}
-    ~ComApartment() {
-        if (ready_) CoUninitialize();
-    }
-    ComApartment(const ComApartment&) = delete;
-    ComApartment& operator=(const ComApartment&) = delete;
-
-  private:
-    bool ready_;
-};
-
-}  // namespace
 
 bool open_link(const std::wstring& address) {
     const ComApartment apartment;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "win/com_apartment.h"
 #include "win/handle.h"
 #include "win/text_file.h"
 // Needs <windows.h> before it.
@@ -59,6 +60,7 @@ std::optional<std::wstring> system_information_tool() {
 }
 
 bool start_program(const std::wstring& path) {
+    const ComApartment apartment;
     SHELLEXECUTEINFOW request{};
     request.cbSize = sizeof request;
     // The caller reports a failure.
