@@ -26,7 +26,9 @@ Font make_font(const FontSpec& spec, int dpi) {
 Font FontCache::get(const FontSpec& spec, int dpi) {
     Font& kept = fonts_[{spec, dpi}];
     if (kept) return kept;
-    Font made = kept = make_font(spec, dpi);
+    kept = make_font(spec, dpi);
+    // As a second owner, the result keeps `drop_unused` from dropping the new font.
+    Font made = kept;
     drop_unused();
     return made;
 }

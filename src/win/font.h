@@ -17,7 +17,7 @@ struct FontSpec {
     bool italic = false;
     bool underline = false;
 
-    // NOLINTNEXTLINE(modernize-use-nullptr): it means the zero in the comparison that the compiler makes.
+    // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm about the zero in the generated comparisons.
     friend auto operator<=>(const FontSpec&, const FontSpec&) = default;
 };
 

@@ -5,7 +5,7 @@
 namespace quillomat {
 namespace {
 
-// The least difference in brightness at which a text can be read.
+// The least difference in brightness at which a text can be read: black or white always has it.
 constexpr int least_contrast = 128;
 
 // Returns the perceived brightness of a colour, from 0 to 255.
@@ -20,7 +20,7 @@ COLORREF legible(Colour text, Colour background) {
     if (text.follows_theme() && background.follows_theme()) return chosen;
     const int behind = brightness(resolve(background));
     if (std::abs(brightness(chosen) - behind) >= least_contrast) return chosen;
-    return resolve(behind < 128 ? colours::white : colours::black);
+    return resolve(behind < least_contrast ? colours::white : colours::black);
 }
 
 void blend(HDC canvas, const RECT& area, Colour colour, BYTE opacity) {

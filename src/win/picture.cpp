@@ -29,9 +29,8 @@ GdiObject<HBITMAP> Picture::bitmap(int pixels) const {
     if (!bitmap) return bitmap;
     const MemoryCanvas memory(nullptr);
     const Selection selected(memory.get(), bitmap.get());
-    // Drawn onto transparent black, the icon leaves its alpha and its colours multiplied by the alpha.
+    // The new bitmap is transparent black, so drawing an icon with an alpha channel leaves premultiplied colours.
     draw(memory.get(), {0, 0, pixels, pixels});
-    GdiFlush();
     return bitmap;
 }
 

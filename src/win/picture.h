@@ -23,7 +23,7 @@ class Picture {
 
     explicit operator bool() const { return resource_ != 0; }
 
-    // NOLINTNEXTLINE(modernize-use-nullptr): it means the zero in the comparison that the compiler makes.
+    // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm about the zero in the generated comparisons.
     friend auto operator<=>(const Picture&, const Picture&) = default;
 
     /// Draws the picture into `area`, in pixels, using the image of the nearest size.
