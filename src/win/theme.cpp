@@ -4,13 +4,14 @@
 
 namespace quillomat {
 
-Theme::Theme(HWND window, const wchar_t* parts, int dpi) {
-    // Looked up by name, because the import library of mingw-w64 lacks the function.
+Theme::Theme(HWND window, const wchar_t* class_name, int dpi) {
+    // Looked up by name, because Windows 10 before version 1703 lacks the function, as does the import library of
+    // mingw-w64 10.
     static const auto open = system_function<decltype(OpenThemeDataForDpi)>(L"uxtheme.dll", "OpenThemeDataForDpi");
     if (open) {
-        handle_ = open(window, parts, static_cast<UINT>(dpi));
+        handle_ = open(window, class_name, static_cast<UINT>(dpi));
     } else {
-        handle_ = OpenThemeData(window, parts);
+        handle_ = OpenThemeData(window, class_name);
     }
 }
 

@@ -10,8 +10,8 @@ namespace quillomat {
 /// The visual style of a class of controls at a resolution. Converts to false in the classic look, which has none.
 class Theme {
   public:
-    /// `parts` is the name of the class, such as L"BUTTON".
-    Theme(HWND window, const wchar_t* parts, int dpi);
+    /// `class_name` is the name of the class of controls, such as L"BUTTON".
+    Theme(HWND window, const wchar_t* class_name, int dpi);
     ~Theme() {
         if (handle_) CloseThemeData(handle_);
     }
