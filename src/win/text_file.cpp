@@ -61,8 +61,8 @@ void set_fate(HANDLE file, AtClosing fate) {
     if (!SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info)) throw_last_error();
 }
 
-// Repeats a system call for half a second while another program has the file open: a second run of this program that
-// adds a game, a virus scanner, an indexer. Returns the code of the last failure, or ERROR_SUCCESS.
+// Repeats a system call for up to half a second while another program has the file open: a second run of this program
+// that adds a game, a virus scanner, an indexer. Returns the code of the last failure, or ERROR_SUCCESS.
 DWORD wait_for_file(const std::function<bool()>& call) {
     constexpr int attempts = 50;
     constexpr DWORD milliseconds_between = 10;
@@ -76,7 +76,7 @@ DWORD wait_for_file(const std::function<bool()>& call) {
     return code;
 }
 
-// Returns the path of the file that `path` links to, or `path` if it is no link.
+// Returns the path of the file itself, with links resolved, or `path` if there is no such file or Windows cannot tell.
 std::wstring link_target(const std::wstring& path) {
     const FileHandle file(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0,
@@ -85,7 +85,7 @@ std::wstring link_target(const std::wstring& path) {
     std::wstring target(GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
     const DWORD length =
         GetFinalPathNameByHandleW(file.get(), target.data(), static_cast<DWORD>(target.size()), FILE_NAME_NORMALIZED);
-    // The drivers of some RAM disks and network drives cannot tell the name.
+    // The drivers of some RAM disks and network drives do not support the call.
     if (length == 0 || length >= target.size()) return path;
     target.resize(length);
     return target;
