@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "common/copied_text.h"
+#include "common/copy_text.h"
 #include "controls/text_box.h"
 
 namespace quillomat {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "common/copied_text.h"
+#include "common/copy_text.h"
 #include "forms/application.h"
 #include "forms/message_box.h"
 #include "text/export_text.h"

@@ -5,7 +5,7 @@
 #include <future>
 #include <thread>
 
-#include "common/copied_text.h"
+#include "common/copy_text.h"
 #include "controls/text_box.h"
 #include "forms/form.h"
 #include "support.h"

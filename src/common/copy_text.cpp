@@ -1,4 +1,4 @@
-#include "common/copied_text.h"
+#include "common/copy_text.h"
 
 #include "forms/application.h"
 #include "forms/form.h"
