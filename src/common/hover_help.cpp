@@ -11,7 +11,7 @@
 namespace quillomat {
 namespace {
 
-constexpr Colour lit{0xFF8080};
+constexpr Colour highlight{0xFF8080};
 
 // The timer ticks at full speed while the pointer moves. Once the pointer has rested for a while, slow ticks are enough
 // to notice windows that open or close under it; the next mouse move restores the full speed.
@@ -31,7 +31,7 @@ void ShowTip(Control& control, TextBox& help_box, const std::wstring& text) {
     help_box.fit_width_to_text();
     help_box.bring_to_front();
     help_box.set_visible(true);
-    control.set_back_colour(lit);
+    control.set_back_colour(highlight);
     control.set_underlined(true);
 }
 

@@ -14,7 +14,7 @@ struct PointerState {
 /// Reads the pointer's position and the window under it.
 void UpdatePointer(PointerState& pointer);
 
-/// Gets the width and height of the primary screen in pixels, or in twips of a window with `dpi` dots per inch.
+/// Gets the width and height of the primary screen: in pixels if `dpi` is 0, otherwise in twips at that resolution.
 void GetScreenSize(int& width, int& height, int dpi = 0);
 
 /// Converts a horizontal position from pixels to the units of `mouse_event`, of which the screen's width has 65535.
