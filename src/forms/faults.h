@@ -43,7 +43,7 @@ class Faults {
 
     Application& application_;
     std::vector<Fault> noted_;
-    std::set<std::pair<HWND, std::wstring>> repeating_;  // not to be recorded again
+    std::set<std::pair<HWND, std::wstring>> repeating_;  // recorded once already
     bool could_not_note_ = false;
 };
 

@@ -23,7 +23,7 @@ class Timer {
 
     bool enabled() const { return enabled_; }
     void set_enabled(bool enabled);
-    /// Sets the interval and, if the value is a new one, starts it again.
+    /// Sets the interval. If the value is a new one, a running interval starts again.
     void set_interval(int milliseconds);
 
     /// Raises the event unless the timer is disabled or its handler is still running, e.g. below a dialog. For the

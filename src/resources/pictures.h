@@ -1,6 +1,6 @@
 #pragma once
 
-// Numbers of the pictures among the program's resources; the resource compiler reads this too.
+// Resource IDs of the pictures. The resource compiler includes this file, too.
 #define PICTURE_APPLICATION 1
 // The seven commands of the viewer's image bar, in their order, and its colour button.
 #define PICTURE_COMMAND_FIRST 10
@@ -13,5 +13,5 @@
 // The author dialog's spinning coin, and the three pictures that take turns as its icon.
 #define PICTURE_COIN 42
 #define PICTURE_QUILL_FIRST 43
-// The background of the splash; its bitmaps are numbered from here by their dots per inch.
+// The background of the splash: the ID of each bitmap is this number plus the bitmap's dots per inch.
 #define PICTURE_SPLASH 100

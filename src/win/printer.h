@@ -91,7 +91,7 @@ class PrintJob {
     void abort() noexcept;
 
     PrintDevice& device_;
-    HDC canvas_ = nullptr;  ///< null outside of a page
+    HDC canvas_ = nullptr;  // null outside of a page
     HGDIOBJ former_font_ = nullptr;
     GdiObject<HFONT> font_;
     LineFlow flow_{0, 0};

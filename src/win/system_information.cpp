@@ -44,7 +44,7 @@ std::optional<std::wstring> GetKeyValue(HKEY root, const std::wstring& key, cons
         return L"&h" + hexadecimal(number);
     }
     if (type != REG_SZ && type != REG_EXPAND_SZ) return std::nullopt;
-    // The stored text need not end with a zero.
+    // The stored text need not end with a NUL.
     const std::wstring stored(buffer, bytes / sizeof(wchar_t));
     const std::wstring text = stored.substr(0, stored.find(L'\0'));
     return type == REG_EXPAND_SZ ? expanded(text) : text;

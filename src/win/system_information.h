@@ -7,7 +7,7 @@
 
 namespace quillomat {
 
-/// Returns a registry value as text: a string up to its terminating zero, a 32-bit number as "&h" and eight hexadecimal
+/// Returns a registry value as text: a string up to its first NUL, a 32-bit number as "&h" and eight hexadecimal
 /// digits. Returns nothing if the value cannot be read, is of another type or is longer than 1023 characters.
 std::optional<std::wstring> GetKeyValue(HKEY root, const std::wstring& key, const std::wstring& name);
 
