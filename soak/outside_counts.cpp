@@ -7,8 +7,8 @@
 namespace quillomat::soak {
 namespace {
 
-// Wine: gives out all free handles before it makes its table longer. With more menus than there can be free handles,
-// every handle up to the highest is in use, and all that are not these menus' belong to some process.
+// Wine: the server hands out all free handles before it enlarges its table of handles. While more menus exist than
+// there can be free handles, every handle up to the highest one is in use; those that are not these menus' are counted.
 int count_all_user_objects() {
     constexpr std::size_t more_than_free = 0x1000;
     constexpr std::uintptr_t first_handle = 0x20;
@@ -28,7 +28,7 @@ int count_all_user_objects() {
 ObjectCounts count_objects_of(HANDLE process) {
     const ObjectCounts counted{static_cast<int>(GetGuiResources(process, GR_GDIOBJECTS)),
                                static_cast<int>(GetGuiResources(process, GR_USEROBJECTS))};
-    // Wine: answers 0, and tells nothing of another process's GDI objects.
+    // Wine: GetGuiResources returns 0 for another process, and nothing tells the number of its GDI objects.
     if (counted.gdi) return counted;
     return {.user = count_all_user_objects()};
 }

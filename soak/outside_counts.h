@@ -5,7 +5,8 @@
 
 namespace quillomat::soak {
 
-/// The GDI and USER objects of another process. Wine: no GDI objects, and the USER objects of all processes together.
+/// Returns the numbers of GDI and USER objects of another process. Wine: 0 GDI objects, and the USER objects of all
+/// processes together.
 ObjectCounts count_objects_of(HANDLE process);
 
 }  // namespace quillomat::soak

@@ -59,7 +59,7 @@ std::string Scene::input_fault() const {
     const auto is_modal = [](HWND window) { return is_one_of(window, modal_classes); };
     std::vector<HWND> windows = windows_;
     std::erase_if(windows, [](HWND window) { return is_one_of(window, popup_classes); });
-    // Wine: the system menu offers a box about Wine, which makes only its owner wait.
+    // Wine: the system menu opens a box about Wine, which disables only its owner.
     if (std::ranges::any_of(windows, [](HWND window) { return text_of(window).starts_with(L"About Wine"); })) return {};
     const bool has_modal = std::ranges::any_of(windows, is_modal);
     // Usable windows first; both parts keep their order from front to back.

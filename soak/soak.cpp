@@ -120,8 +120,8 @@ void Soak::note(const Action& action, const Scene& scene) {
 }
 
 void Soak::end_hidden_messages() {
-    // Wine: a message box that is closed by its menu while it is moved by keys is hidden, but stays at work until the
-    // next key.
+    // Wine: a message box that is closed by its system menu while it is moved by keys is hidden, but its message loop
+    // runs until the next key.
     for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, message_box_class, nullptr)) != nullptr;) {
         const bool is_own = process_of(box) == program_.process().dwProcessId;
         if (is_own && !IsWindowVisible(box)) PostMessageW(box, WM_KEYDOWN, VK_ESCAPE, 0);
