@@ -33,5 +33,4 @@ int main(int count, char** arguments) {
     bench::print("search 3 MB, worst keyword", worst[0], "ms", "memchr", worst[1], 5);
     bench::print("search 3 MB, worst keyword", worst[0], "ms", "grep -i", std::stod(arguments[1]), 1);
     std::cerr << "(checksum " << checksum << ")\n";
-    return 0;
 }
