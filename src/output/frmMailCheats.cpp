@@ -27,7 +27,7 @@ constexpr double input_height = 315;
 constexpr double button_width = 1215;
 constexpr double button_height = 345;
 
-// Writes the attachment. Throws `Error` with a sentence for the user.
+// Writes the attached file. Throws `Error` with a sentence for the user if that fails.
 void attach(std::optional<TemporaryTextFile>& file, TextFileSlot& slot, const std::wstring& path,
             const std::wstring& cheats) try {
     file.emplace(slot, path, cheats + std::wstring(line_end));
@@ -188,7 +188,7 @@ void frmMailCheats::List1_Click() {
 void frmMailCheats::List1_KeyDown(KeyEvent& event) {
     const bool upwards = event.key == keys::up;
     if (!event.modifiers.only_control() || (!upwards && event.key != keys::down)) return;
-    // Otherwise the list would move the focus by one more item.
+    // Otherwise the list would move its caret by one more item.
     event.handled = true;
     const int current = List1.selected_index().value_or(0);
     const std::vector<int> picked = List1.picked_indexes();

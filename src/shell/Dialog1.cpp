@@ -15,7 +15,7 @@ namespace {
 constexpr wchar_t title[] = L"about the author - tobin ferrand";
 constexpr DWORD pause_between_steps = 5;  // milliseconds
 constexpr double inner_width_designed = 5910;
-constexpr double frame_height = 375;  // of the title bar and the frame that the dialog's heights include
+constexpr double frame_height = 375;  // the share of the title bar and the frame in `author_dialog_height`
 
 }  // namespace
 
@@ -135,11 +135,11 @@ void Dialog1::Timer4_Timer() {
 void Dialog1::show_icon() {
     const auto show = [this](WPARAM kind, int metric) {
         const int size = GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi()));
-        // Icons that take turns are loaded once.
+        // Load each icon only once.
         Icon& icon = icons_[{Picture1[icon_], size}];
         if (!icon) icon = Picture1[icon_].icon(size);
         const auto handle = reinterpret_cast<LPARAM>(icon.get());
-        // Setting an icon redraws the title bar, also when the window has it already.
+        // Setting an icon redraws the title bar, even if the window has that icon already.
         if (SendMessageW(window(), WM_GETICON, kind, 0) == handle) return;
         SendMessageW(window(), WM_SETICON, kind, handle);
     };

@@ -63,7 +63,8 @@ class Dialog1 final : public Form {
     void set_links_visible(bool visible);
     /// Shows the picture number `icon_` in the title bar and the taskbar.
     void show_icon();
-    /// Resizes the window step by step to the last height of an animation, or at once if the user wants no animations.
+    /// Resizes the window through the heights that `next_height` returns, or at once to the last one if the user wants
+    /// no animations.
     void resize(std::optional<double> (*next_height)(double));
 
     PointerState& pointer_;
@@ -71,7 +72,7 @@ class Dialog1 final : public Form {
     double exact_height_ = author_dialog_height;  // in twips, not rounded to pixels
     int capital_ = 0;
     int icon_ = 0;
-    std::map<std::pair<Picture, int>, Icon> icons_;  // by their size in pixels
+    std::map<std::pair<Picture, int>, Icon> icons_;  // by picture and size in pixels
     std::optional<double> turn_;
 };
 

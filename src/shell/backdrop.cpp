@@ -6,7 +6,7 @@
 namespace quillomat {
 namespace {
 
-// Returns the lowest resolution of a bitmap that need not be enlarged, or the highest one.
+// Returns the resolution of the bitmap to draw: the lowest one that need not be enlarged, or the highest one.
 int drawn_resolution(int dpi) {
     constexpr int drawn[] = {96, 120, 144, 192};
     const int* const found = std::lower_bound(std::begin(drawn), std::end(drawn), dpi);

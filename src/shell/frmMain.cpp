@@ -176,12 +176,12 @@ void frmMain::Command2_Click() {
     if (!animations_wanted()) finish_animation(Timer3);
 }
 
-void frmMain::finish_animation(Timer& steps) {
+void frmMain::finish_animation(Timer& timer) {
     ExitConfirmation before;
     do {
         before = exit_confirmation();
-        steps.tick();
-    } while (steps.enabled() && exit_confirmation() != before);
+        timer.tick();
+    } while (timer.enabled() && exit_confirmation() != before);
 }
 
 void frmMain::enable_other_buttons(bool enabled) {

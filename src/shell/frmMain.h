@@ -96,7 +96,7 @@ class frmMain final : public Form {
     void show_answers();
     void hide_answers();
     /// Ticks one of the exit question's timers until it stops or the buttons no longer move.
-    void finish_animation(Timer& steps);
+    void finish_animation(Timer& timer);
     ExitConfirmation exit_confirmation() const;
     void place(const ExitConfirmation& confirmation);
 

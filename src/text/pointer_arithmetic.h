@@ -26,8 +26,8 @@ struct PixelRectangle {
     int bottom = 0;
 };
 
-/// Converts a coordinate from pixels to the units of `mouse_event`, of which the whole screen has 65535. Throws `Error`
-/// with Overflow if `screen_size` is 0.
+/// Converts a coordinate from pixels to the units of `mouse_event`, in which the screen is 65535 wide and high. Throws
+/// `Error` with Overflow if `screen_size` is 0.
 int to_absolute(int pixels, int screen_size);
 
 /// Returns the centre of a rectangle, a half pixel rounded to the even neighbour, or nothing if the centre is off the

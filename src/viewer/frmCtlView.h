@@ -32,7 +32,7 @@ class frmCtlView final : public Form {
     frmCtlView(Application& application, Session& session, const ViewerWindows& windows);
     ~frmCtlView() override;
 
-    // `OpenViewer` reads the current game from these controls for other windows.
+    // Public for `OpenViewer`, which reads the current game from the controls for other windows.
     Line Line1{*this, {0, 480, 100000, 30}};
     std::deque<Image> Image2;
     Image Image1;
