@@ -3,6 +3,8 @@
 #include <functional>
 #include <utility>
 
+#include "win/api.h"
+
 namespace quillomat {
 
 /// A mouse button; in a move, the button that is held.
@@ -28,14 +30,14 @@ struct MouseEvent {
 
 /// The virtual-key codes that the windows handle.
 namespace keys {
-inline constexpr int enter = 13;
-inline constexpr int escape = 27;
-inline constexpr int up = 38;
-inline constexpr int down = 40;
+inline constexpr int enter = VK_RETURN;
+inline constexpr int escape = VK_ESCAPE;
+inline constexpr int up = VK_UP;
+inline constexpr int down = VK_DOWN;
 inline constexpr int f = 'F';
-inline constexpr int menu = 93;
-inline constexpr int f1 = 112;
-inline constexpr int f10 = 121;
+inline constexpr int context_menu = VK_APPS;
+inline constexpr int f1 = VK_F1;
+inline constexpr int f10 = VK_F10;
 }  // namespace keys
 
 /// A key press. A handler that sets `handled` keeps the key from the control and from dialog handling.

@@ -21,7 +21,7 @@ constexpr std::size_t save_image = 1;
 constexpr double help_above_option = 30;
 
 bool asks_for_menu(const KeyEvent& event) {
-    return event.key == keys::menu || (event.key == keys::f10 && event.modifiers.shift);
+    return event.key == keys::context_menu || (event.key == keys::f10 && event.modifiers.shift);
 }
 
 }  // namespace
