@@ -32,10 +32,8 @@ void restore_window_state(Form& form, const Settings& settings, const WindowKeys
     form.set_window_state(window_state_of(settings.read(keys.state)));
 }
 
-void restore_window_size(Form& form, const Settings& settings, const WindowKeys& keys, const WindowSize& minimum) {
-    // Not below the minimum: the window would grow to it only after being centred on the screen.
-    form.set_size(std::max<double>(settings.read(keys.width), minimum.width),
-                  std::max<double>(settings.read(keys.height), minimum.height));
+void restore_window_size(Form& form, const Settings& settings, const WindowKeys& keys) {
+    form.set_size(settings.read(keys.width), settings.read(keys.height));
 }
 
 void store_window(const Form& form, const Settings& settings, const WindowKeys& keys) {

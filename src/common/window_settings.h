@@ -1,7 +1,6 @@
 #pragma once
 
 #include "common/settings.h"
-#include "text/window_size.h"
 
 namespace quillomat {
 
@@ -18,8 +17,8 @@ struct WindowKeys {
 
 /// Sets a window to its stored state. A window that is not shown yet will open in that state.
 void restore_window_state(Form& form, const Settings& settings, const WindowKeys& keys);
-/// Sets a window to its stored size, or to `minimum` where the stored size is smaller.
-void restore_window_size(Form& form, const Settings& settings, const WindowKeys& keys, const WindowSize& minimum);
+/// Sets a window to its stored size, but not below its minimum.
+void restore_window_size(Form& form, const Settings& settings, const WindowKeys& keys);
 /// Stores the state of a window, and its size if the state is normal. Throws `Error` if Windows refuses.
 void store_window(const Form& form, const Settings& settings, const WindowKeys& keys);
 

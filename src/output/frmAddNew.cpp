@@ -84,7 +84,7 @@ void frmAddNew::bind_hover_help() {
 
 void frmAddNew::Form_Load() {
     restore_window_state(*this, session_.settings, window_keys);
-    restore_window_size(*this, session_.settings, window_keys, add_game_minimum_size);
+    restore_window_size(*this, session_.settings, window_keys);
     place_over(viewer_.window());
     Text1.set_focus();
 }

@@ -55,7 +55,7 @@ void frmMailMe::bind_hover_help() {
 void frmMailMe::Form_Load() {
     tell_mail_requirements(*this);
     restore_window_state(*this, session_.settings, window_keys);
-    restore_window_size(*this, session_.settings, window_keys, minimum_size);
+    restore_window_size(*this, session_.settings, window_keys);
     centre_on_screen();
     for (const wchar_t* subject : canned_subjects) Combo1.add(subject);
     CenterMouseOn(Command1.window());

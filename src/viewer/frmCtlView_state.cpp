@@ -79,7 +79,7 @@ void frmCtlView::restore_settings() {
 
 void frmCtlView::restore_size() {
     if (window_state() != WindowState::Normal) return;
-    restore_window_size(*this, session_.settings, window_keys, minimum_size);
+    restore_window_size(*this, session_.settings, window_keys);
 }
 
 void frmCtlView::build_alphabet_bar() {
