@@ -29,7 +29,7 @@ bool is_keyboard_input(UINT message) {
     return message >= WM_KEYFIRST && message <= WM_KEYLAST;
 }
 
-// Returns true for keyboard and mouse input of a disabled window. Such input arrives if a library has enabled the
+// Returns true for keyboard and mouse input to a disabled window. Such input arrives if a library has enabled the
 // window for a moment.
 bool is_stray_input(const MSG& message) {
     const bool is_input = is_keyboard_input(message.message) ||

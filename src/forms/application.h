@@ -13,8 +13,8 @@ namespace quillomat {
 
 class Form;
 
-/// What all windows of the program share: its title, its fonts, and its message loop. main() owns it and passes it by
-/// reference.
+/// The title, the fonts and the message loop of the program, which all windows share. wWinMain owns the object and
+/// passes it by reference.
 class Application {
   public:
     /// `title` is the title of message boxes.

@@ -80,7 +80,8 @@ class Control : public Item {
     Control(Container& container, Bounds bounds, const wchar_t* system_class, std::wstring_view text, DWORD style,
             DWORD extended_style = 0);
 
-    /// Replaces the control's window by an empty one of another style, for styles that Windows reads at creation only.
+    /// Replaces the control's window with an empty one of another style, for styles that Windows reads only at
+    /// creation.
     void recreate(DWORD style);
 
     /// The control's window procedure.

@@ -227,7 +227,6 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
             internals_.commands.raise_opening(reinterpret_cast<HMENU>(wparam));
             return 0;
         case WM_ACTIVATE:
-            // A window that is being minimised has lost the focus already, which must not overwrite the remembered one.
             if (LOWORD(wparam) == WA_INACTIVE) internals_.keyboard.remember_focus();
             break;
         case WM_NEXTDLGCTL:
@@ -288,7 +287,7 @@ void Form::show() {
     const WindowState state = state_;
     if (!shown_) {
         shown_ = true;
-        // Shows or hides focus frames and underlined access keys by the user's settings and the last input.
+        // Shows or hides focus rectangles and underlined access keys, depending on the user's settings and last input.
         SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
         resized();
     }

@@ -115,6 +115,7 @@ void FormKeyboard::move_last_focus(HWND former, HWND present) {
 }
 
 void FormKeyboard::remember_focus() {
+    // A window that is being minimised has lost the focus before it is deactivated; keep the control remembered before.
     if (IsChild(form_.window(), GetFocus())) last_focus_ = GetFocus();
 }
 

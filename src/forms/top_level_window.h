@@ -17,18 +17,17 @@ class TopLevelWindow : public Container {
     /// The resolution of the window, in dots per inch.
     int dpi() const { return dpi_; }
 
-    /// Outer position and size; those to restore if the window is minimised.
+    /// Outer position and size; for a minimised window, those to which Windows will restore it.
     double left() const;
     double top() const;
     double width() const;
     double height() const;
     void set_size(double width, double height);
     void move_to(double left, double top);
-    /// Inner size.
+    /// Size of the client area.
     double inner_width() const;
     double inner_height() const;
-    /// Sizes the window so that its inside, without border, title bar and menu bar, has this size. The inner size is
-    /// kept when the resolution changes.
+    /// Sizes the window so that its client area has this size, also after the resolution changes.
     void set_inner_size(double width, double height);
     /// Centres the window over another one, which may be on a monitor of another resolution: in both directions, or
     /// horizontally with the upper edges in line.

@@ -28,10 +28,10 @@ class Picture {
 
     /// Draws the picture into `area`, in pixels, using the image of the nearest size.
     void draw(HDC canvas, const RECT& area) const;
-    /// Returns the picture as a square bitmap of 32 bits with premultiplied alpha, as menus take it. The handle is null
+    /// Returns the picture as a square bitmap of 32 bits with premultiplied alpha, for menus. The handle is null
     /// if Windows cannot create the bitmap.
     GdiObject<HBITMAP> bitmap(int pixels) const;
-    /// Returns the picture as a square icon, as windows take it; null if there is none.
+    /// Returns the picture as a square icon; null if Windows cannot load it.
     Icon icon(int pixels) const;
 
   private:
