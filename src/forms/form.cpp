@@ -72,16 +72,14 @@ void register_class(const wchar_t* name, WNDPROC procedure) {
     if (!RegisterClassExW(&description)) throw_last_error();
 }
 
-// Closes an open menu and stops moving a window by keyboard. Keys that end these modal loops of Windows would not
+// Closes an open menu, and stops moving `window` by keyboard. Keys that end these modal loops of Windows would not
 // reach a window hidden by closing.
-void leave_system_loops() {
+void leave_system_loops(HWND window) {
     EndMenu();
-    GUITHREADINFO state{};
-    state.cbSize = sizeof state;
-    if (!GetGUIThreadInfo(GetCurrentThreadId(), &state) || !(state.flags & GUI_INMOVESIZE)) return;
-    SendMessageW(state.hwndMoveSize, WM_CANCELMODE, 0, 0);
-    // Wine: WM_CANCELMODE does not stop moving; the next Escape does.
-    PostMessageW(state.hwndMoveSize, WM_KEYDOWN, VK_ESCAPE, 0);
+    SendMessageW(window, WM_CANCELMODE, 0, 0);
+    // Wine: WM_CANCELMODE does not stop moving; the next Escape does. GetGUIThreadInfo does not tell whether a window
+    // is moved while its menu is open.
+    PostMessageW(window, WM_KEYDOWN, VK_ESCAPE, 0);
 }
 
 }  // namespace
@@ -317,7 +315,7 @@ void Form::show_modal(Form* owner) {
 
 void Form::close() {
     if (std::exchange(closed_, true)) return;
-    leave_system_loops();
+    leave_system_loops(window_);
     for (Form* form : owned_forms()) form->close();
     // A session can end while `on_load` shows a message. Settings that have not been read yet must not be saved.
     if (!loading_) {

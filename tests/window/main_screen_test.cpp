@@ -106,14 +106,17 @@ TEST_F(ShellTest, TheProgramLeadsFromTheSplashToTheCheatsAndOut) {
     EXPECT_FALSE(find_form<frmMain>());
 }
 
-TEST_F(ShellTest, ClosesWhileItIsMovedByKeyboard) {
+TEST_F(ShellTest, ClosesWhileItIsMovedByKeyboardAndBelowItsMenu) {
     for (const WindowState state : {WindowState::Normal, WindowState::Minimised}) {
         program.open_main_screen();
         find_form<frmMain>()->set_window_state(state);
         const HWND window = find_form<frmMain>()->window();
         const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
             const GUITHREADINFO state = input_state(GetCurrentThreadId());
-            if (state.flags & GUI_INMOVESIZE) PostMessageW(state.hwndMoveSize, WM_CLOSE, 0, 0);
+            const HWND window = FindWindowW(L"frmMain", nullptr);
+            const bool opens_menu = IsIconic(window) && (state.flags & GUI_INMOVESIZE);
+            if (opens_menu) PostMessageW(window, WM_SYSCOMMAND, SC_KEYMENU, L' ');
+            if (!opens_menu && state.flags) PostMessageW(window, WM_CLOSE, 0, 0);
         });
         SendMessageW(window, WM_SYSCOMMAND, SC_MOVE, 0);
         EXPECT_EQ(application.run(), 0);
