@@ -24,6 +24,7 @@ struct SaveTest : ShownViewerTest {
     }
     void save(const wchar_t* name) {
         window->Text1.set_text(name);
+        window->Command1.set_focus();
         window->Command1.click();
     }
     void expect_question(const wchar_t* name, int answer = IDOK) {
