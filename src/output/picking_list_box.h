@@ -30,7 +30,7 @@ class PickingListBox final : public ListBox {
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:
-    bool change_notified_ = false;
+    bool change_notified_ = false;  // Wine: whether LBN_SELCHANGE has come since Space was pressed
 };
 
 }  // namespace quillomat

@@ -5,7 +5,7 @@
 
 namespace quillomat {
 
-/// The errors of the program. The numbers are the customary ones of run-time errors.
+/// The program's errors, by their customary numbers as run-time errors.
 enum class ErrorCode {
     InvalidArgument = 5,
     Overflow = 6,

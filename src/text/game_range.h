@@ -15,7 +15,7 @@ struct GameRange {
 };
 
 /// Returns the number of games in the typed range as decimal text; it is below 1 if the last number is less than the
-/// first. A text stands for the number it begins with, or for 0.
+/// first. The value of a text is the number at its beginning, or 0.
 std::wstring typed_range_total(std::wstring_view first, std::wstring_view last);
 
 /// Returns the typed range, or nothing unless both numbers are from 1 to `count` and in order.

@@ -109,7 +109,7 @@ void frmCtlView::SearchFor(SearchScope scope) {
 void frmCtlView::look_up(const std::wstring& query) {
     const std::wstring keyword = upper_cased(query);
     const int game_count = session_.viewer.game_count;
-    // The user has been told already that the database could not be read.
+    // There is nothing to find: the database is empty, or the user has been told that it could not be read.
     if (game_count == 0) return;
     bool named = false;
     for (int number = 0; number < game_count; ++number) {
