@@ -91,6 +91,10 @@ TEST_F(AnimationTest, TheButtonUnderThePointerShowsEveryColourInOrder) {
                                     0x800080, 0xC000C0, 0xFF00FF, 0xFF80FF, 0xFFC0FF, 0xFFC0FF};
     for (int tick = 0; shown() != colours[0] && tick < 20; ++tick) main_screen->Timer6.tick();
     for (int tick = 0; tick < 24; ++tick, main_screen->Timer6.tick()) EXPECT_EQ(shown(), colours[tick % 12]) << tick;
+    press_key(VK_TAB);
+    ASSERT_SOON(main_screen->Command6.has_focus()) << "the key hides the help";
+    const auto is_plain = [this] { return main_screen->Command4.back_colour() == colours::button_face; };
+    EXPECT_TRUE(point_until(main_screen->Command5.window(), 8, 8, is_plain)) << "also after a key";
 }
 
 TEST_F(AnimationTest, TheAboutTitleShowsEverySize) {
