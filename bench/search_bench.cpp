@@ -6,7 +6,7 @@
 
 #include "bench.h"
 #include "database/catalogue.h"
-#include "support/upper_case.h"
+#include "support/western_text.h"
 
 int main(int count, char** arguments) {
     using namespace quillomat;

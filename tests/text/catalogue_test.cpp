@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "support/upper_case.h"
+#include "support/western_text.h"
 #include "text/error.h"
 
 namespace quillomat {

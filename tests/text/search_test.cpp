@@ -6,7 +6,7 @@
 
 #include "database/catalogue.h"
 #include "database/record.h"
-#include "support/upper_case.h"
+#include "support/western_text.h"
 #include "text/error.h"
 #include "text/find_in_text.h"
 #include "text/keyword_search.h"

@@ -8,7 +8,7 @@
 
 #include "database/catalogue.h"
 #include "support/files.h"
-#include "support/upper_case.h"
+#include "support/western_text.h"
 #include "text/error.h"
 #include "text/shortened_name.h"
 
