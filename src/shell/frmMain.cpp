@@ -51,7 +51,7 @@ void frmMain::style_controls() {
     }
     // While the button asks "Are you sure?", it is disabled, but its question must be readable.
     Command3.set_disabled_fore_colour(colours::button_text);
-    hide_answers();
+    set_answers_visible(false);
 }
 
 void frmMain::bind() {
@@ -158,7 +158,7 @@ void frmMain::Command3_Click() {
     set_caption(L"Exit?");
     set_default_button(&Command1);
     // Move the focus before its button is disabled: a disabled window swallows the keys typed ahead.
-    show_answers();
+    set_answers_visible(true);
     Command1.set_focus();
     enable_other_buttons(false);
     if (!animations_wanted()) finish_animation(Timer2);
@@ -189,14 +189,8 @@ void frmMain::enable_other_buttons(bool enabled) {
     menus.mnuFileExit.set_enabled(enabled);
 }
 
-void frmMain::show_answers() {
-    Command1.set_visible(true);
-    Command2.set_visible(true);
-}
-
-void frmMain::hide_answers() {
-    Command1.set_visible(false);
-    Command2.set_visible(false);
+void frmMain::set_answers_visible(bool visible) {
+    for (Button* answer : {&Command1, &Command2}) answer->set_visible(visible);
 }
 
 ExitConfirmation frmMain::exit_confirmation() const {
@@ -210,7 +204,7 @@ void frmMain::place(const ExitConfirmation& confirmation) {
 }
 
 void frmMain::Timer2_Timer() {
-    show_answers();
+    set_answers_visible(true);
     set_default_button(&Command1);
     Command3.set_caption(L"Are you sure?");
     const ExitConfirmation before = exit_confirmation();
@@ -235,7 +229,7 @@ void frmMain::Timer3_Timer() {
     // Because of the rounding to pixels, the exit button may be wider than before.
     Command3.set_width(exit_width_resting);
     // Answers below the edge of the window must not take the focus.
-    hide_answers();
+    set_answers_visible(false);
 }
 
 void frmMain::Timer6_Timer() {

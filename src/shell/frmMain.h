@@ -93,8 +93,7 @@ class frmMain final : public Form {
     void Timer7_Timer();
 
     void enable_other_buttons(bool enabled);
-    void show_answers();
-    void hide_answers();
+    void set_answers_visible(bool visible);
     /// Ticks one of the exit question's timers until it stops or the buttons no longer move.
     void finish_animation(Timer& timer);
     ExitConfirmation exit_confirmation() const;

@@ -126,8 +126,9 @@ class frmCtlView final : public Form {
     std::wstring fonts_file() const;
     void open_status();
     void fill_font_menu(const ScreenFonts& fonts);
+    /// Slides a panel from `left` in twips through the positions that `next_left` returns, or puts it in its place at
+    /// once if the user wants no animations.
     void slide(Control& panel, double left, std::optional<double> (*next_left)(double));
-    void show_slide_step();
     void change_text_size(KeyEvent& event);
     /// Makes the cheat text `steps` points larger than other texts, within limits.
     void set_text_size(int steps);

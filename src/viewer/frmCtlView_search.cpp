@@ -164,15 +164,11 @@ void frmCtlView::slide(Control& panel, double left, std::optional<double> (*next
     // Keep the exact position: the panel rounds it to whole pixels.
     for (auto next = next_left(left); next && animations_wanted(); next = next_left(*next)) {
         panel.set_left(*next);
-        show_slide_step();
+        paint_changes();
+        Line1.refresh();
+        Sleep(1);
     }
     panel.set_left(panel_resting_left);
-}
-
-void frmCtlView::show_slide_step() {
-    paint_changes();
-    Line1.refresh();
-    Sleep(1);
 }
 
 }  // namespace quillomat
