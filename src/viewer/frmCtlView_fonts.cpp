@@ -100,7 +100,7 @@ void frmCtlView::collect_fonts() {
     }
     if (closed()) return;
     const int last = static_cast<int>(menus.mnuFontName.size()) - 1;
-    status_->end();
+    status_->end_collecting();
     QuickSort(1, last);
     std::vector<std::wstring> names;
     for (int i = 1; i <= last; ++i) names.push_back(menus.mnuFontName[static_cast<std::size_t>(i)]->caption());
@@ -114,7 +114,7 @@ void frmCtlView::open_status() {
     status_->on_unload = [this] { set_mouse_pointer(PointerShape::Default); };
     status_->set_mouse_pointer(PointerShape::Hourglass);
     tidy_image_bar();
-    status_->begin();
+    status_->begin_collecting();
     int screen_width = 0;
     int screen_height = 0;
     GetScreenSize(screen_width, screen_height, status_->dpi());

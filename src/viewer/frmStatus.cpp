@@ -18,7 +18,7 @@ frmStatus::frmStatus(Application& application, const Form& viewer)
     on_key_down = [this](KeyEvent& event) { Form_KeyDown(event); };
 }
 
-void frmStatus::begin() {
+void frmStatus::begin_collecting() {
     GoingOn = true;
     Shape1.set_width(0);
     Shape1.set_visible(true);
@@ -38,7 +38,7 @@ void frmStatus::set_closable(bool closable) {
     EnableMenuItem(GetSystemMenu(window(), FALSE), SC_CLOSE, closable ? MF_ENABLED : MF_GRAYED);
 }
 
-void frmStatus::end() {
+void frmStatus::end_collecting() {
     set_caption(L"Please wait...");
     set_closable(true);
     paint_changes();

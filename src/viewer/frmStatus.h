@@ -21,13 +21,13 @@ class frmStatus final : public Form {
     bool GoingOn = false;
 
     /// Shows an empty bar and starts counting the seconds.
-    void begin();
+    void begin_collecting();
     /// Updates the bar and the caption after `collected` of `count` fonts.
     void show_progress(int collected, int count);
     /// Lets the user close the window, or prevents it.
     void set_closable(bool closable);
     /// Asks the user to wait while the collected fonts are sorted and stored.
-    void end();
+    void end_collecting();
 
   private:
     using Clock = std::chrono::steady_clock;
