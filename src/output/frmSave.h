@@ -60,9 +60,9 @@ class frmSave final : public Form {
     /// `Application::run_without_blocking`.
     bool wait_for(std::function<void()> work, DWORD milliseconds = INFINITE);
     /// Returns false if the chosen file exists and the user does not want to overwrite it, or if an earlier call is
-    /// still at work.
+    /// still running.
     bool may_be_written();
-    /// Returns false if nothing was written because an earlier call is still at work.
+    /// Returns false if nothing was written because an earlier call is still running.
     bool write();
 
     Session& session_;

@@ -16,8 +16,8 @@ AddGameLayout add_game_layout(const WindowSize& outer, const WindowSize& inner) 
     // The right edges of the Add button and of the boxes are in line.
     layout.button_width = layout.margin + layout.box_width - layout.add_left;
 
-    // These positions follow the outer size and assume a thin frame. With a thicker one, the cheats box is lower and
-    // the buttons move up, so that they stay in sight.
+    // These positions follow the outer size and assume a thin frame. With a thicker one, the cheats box shrinks and the
+    // buttons move up, so that they remain visible.
     constexpr double room_below = 45;
     const double hidden = layout.button_top + add_game_button_height + room_below - inner.height;
     layout.button_top -= std::max(0.0, hidden);

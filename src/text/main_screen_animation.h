@@ -27,7 +27,7 @@ struct ExitConfirmation {
 inline constexpr double exit_width_resting = 5415;
 inline constexpr double answer_top_resting = 4588.138;
 
-/// Returns the next step while the exit button shrinks and the answers rise, or while both go back. `current` comes
+/// Returns the next step while the exit button shrinks and the answers rise, or while both return. `current` comes
 /// from the window, rounded to pixels.
 ExitConfirmation next_asking(const ExitConfirmation& current);
 ExitConfirmation next_withdrawing(const ExitConfirmation& current);

@@ -4,7 +4,7 @@
 
 namespace quillomat {
 
-/// A place on the screen, in pixels.
+/// A position on the screen, in pixels.
 struct PixelPoint {
     int x = 0;
     int y = 0;

@@ -34,7 +34,7 @@ class LineFlow {
 
     /// Sets the top of the next line on this page, and of the first line on all further pages.
     void set_top(int top);
-    /// Returns the place of the next line. A line never crosses the lower edge, unless the page is too low for any
+    /// Returns the place of the next line. A line never crosses the lower edge, unless the page is too short for any
     /// line.
     Place next();
 

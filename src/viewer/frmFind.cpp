@@ -29,7 +29,7 @@ frmFind::frmFind(Application& application, FindState& state, Form& searched, Tex
       searched_(searched),
       box_(box) {
     set_owner(searched);
-    // The dialog is not high enough to cover the viewer's cheat text.
+    // This height keeps the dialog clear of the viewer's cheat text.
     set_inner_size(6435, 780);
     txtFind.set_tool_tip(L"Text to Find");
     chkCase.set_tool_tip(L"Case Sensitivity");
