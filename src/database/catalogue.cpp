@@ -92,7 +92,9 @@ void Catalogue::load(std::wstring text, const ListName& list_name) {
         const Record record = take_record(rest);
         cheats_[slot] = joined_lines(record.lines);
         if (record.has_lone_returns) {
-            cheats_[slot] = own_games_[number].cheats = joined_lines(with_crlf(record.lines));
+            std::wstring& own = own_games_[number].cheats;
+            own = joined_lines(with_crlf(record.lines));
+            cheats_[slot] = own;
         }
         if (record.name_line.empty()) return;
         // The line ends with the marker: there is neither a separator nor a name.
@@ -116,7 +118,8 @@ std::wstring_view Catalogue::cheats(int number) const {
 
 void Catalogue::store(int number, std::wstring name, std::wstring cheats) {
     const std::size_t slot = slot_of(number);
-    const Game& game = own_games_[number] = Game{std::move(name), std::move(cheats)};
+    Game& game = own_games_[number];
+    game = {std::move(name), std::move(cheats)};
     names_[slot] = game.name;
     cheats_[slot] = game.cheats;
     for (auto& texts : upper_cased_) {

@@ -29,12 +29,15 @@ constexpr double button_height = 345;
 
 // Writes the attached file. Throws `Error` with a sentence for the user if that fails.
 void attach(std::optional<TemporaryTextFile>& file, TextFileSlot& slot, const std::wstring& path,
-            const std::wstring& cheats) try {
-    file.emplace(slot, path, cheats + std::wstring(line_end));
-} catch (const Error& error) {
-    throw Error(error.code(),
-                L"The message was not sent, because this file, which goes with it, cannot be written:\r\n" + path +
-                    L"\r\n\r\n" + error.description() + L"\r\n\r\nYou can include the cheats in the e-mail instead.");
+            const std::wstring& cheats) {
+    try {
+        file.emplace(slot, path, cheats + std::wstring(line_end));
+    } catch (const Error& error) {
+        throw Error(error.code(),
+                    L"The message was not sent, because this file, which goes with it, cannot be written:\r\n" + path +
+                        L"\r\n\r\n" + error.description() +
+                        L"\r\n\r\nYou can include the cheats in the e-mail instead.");
+    }
 }
 
 }  // namespace
