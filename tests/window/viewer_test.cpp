@@ -17,12 +17,20 @@ constexpr char database[] =
 
 struct ViewerTest : ShownViewerTest {
     ViewerTest() { write("Cheats.dat", database); }
+
+    /// The MF_ flags with which Windows shows an entry of the menu bar.
+    UINT state_of(const Menu& entry) const {
+        return GetMenuState(GetMenu(viewer->window()), static_cast<UINT>(entry.id()), MF_BYCOMMAND);
+    }
 };
 
 TEST_F(ViewerTest, ShowsTheCheatsOfTheGameThatIsClicked) {
     open_viewer();
-    EXPECT_FALSE(viewer->menus.mnuSave.enabled() || viewer->Image2[1].enabled());
-    EXPECT_EQ(viewer->caption(), L"") << "the stored caption gives way to the game that is shown, here none";
+    EXPECT_TRUE(state_of(viewer->menus.mnuSave) & MF_GRAYED);
+    EXPECT_FALSE(viewer->Image2[1].enabled());
+    EXPECT_EQ(viewer->caption() + viewer->Text1.text(),
+              L"(Click a game on the opposite side to see it's cheat codes in this box.)")
+        << "the stored caption gives way to the game that is shown, here none";
     ASSERT_TRUE(point_until(viewer->List2.window(), 20, 20,
                             [this] { return viewer->List2.tool_tip() == L"Amber & Ash (Game No. 2 of 5 games.)"; }));
     click();
@@ -46,7 +54,7 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     session.viewer = {};
     open_viewer();
     EXPECT_EQ(viewer->caption() + viewer->Text1.text(), L"Betamario once");
-    EXPECT_TRUE(viewer->Text1.back_colour() == colours::white && viewer->menus.mnuAutoSelect.checked());
+    EXPECT_TRUE(viewer->Text1.back_colour() == colours::white && (state_of(viewer->menus.mnuAutoSelect) & MF_CHECKED));
     EXPECT_EQ(std::pair(viewer->width(), viewer->height()), std::pair(9000.0, 7200.0));
     viewer->set_window_state(WindowState::Minimised);
     close_viewer();
@@ -62,6 +70,7 @@ TEST_F(ViewerTest, RemembersItsSettingsFromOneRunToTheNext) {
     open_viewer();
     EXPECT_EQ(viewer->List2.item(5), L"Added") << "later openings list from memory";
     EXPECT_TRUE(viewer->Text3.text() == L"keyword" && viewer->Command1.enabled());
+    EXPECT_EQ(viewer->window_state(), WindowState::Maximised);
 }
 
 TEST_F(ViewerTest, AFailedLoadShowsWhyAndOffersNothing) {
@@ -88,20 +97,27 @@ TEST_F(ViewerTest, KeysWalkTheListAndLeave) {
 
     int finds = 0;
     viewer_windows.find = [&] { ++finds; };
-    viewer->Option1.set_focus();
-    press_key('F', {VK_CONTROL});
-    EXPECT_SOON(finds == 1) << "wherever the focus is";
+    for (Control* focused : std::initializer_list<Control*>{&viewer->Option1, &viewer->Text1}) {
+        focused->set_focus();
+        press_key('F', {VK_CONTROL});
+        EXPECT_SOON(std::exchange(finds, 0) == 1) << "wherever the focus is";
+    }
     viewer->List2.set_focus();
-    press_key(VK_F10, {VK_SHIFT});
-    press_key('F');
-    EXPECT_SOON(finds == 2) << "the menu of the right button comes up by keyboard too";
+    for (const auto& [key, held] : {std::pair{VK_F10, std::vector<WORD>{VK_SHIFT}}, {VK_APPS, {}}}) {
+        press_key(static_cast<WORD>(key), held);
+        press_key('F');
+        EXPECT_SOON(std::exchange(finds, 0) == 1) << "the menu of the right button comes up by keyboard too";
+    }
 
     std::wstring asked;
-    viewer_windows.mail_author = [&](const std::wstring& text) { asked = text; };
+    viewer_windows.mail_author = [&](const std::wstring& text) { asked += text; };
     viewer_windows.restore_main_screen = [&] { asked += L" and back"; };
-    expect_message(L"Help!",
-                   L"You pressed the F1 Key for help.\r\nYou can e-mail me for help.\r\nDo you want to do so?", IDYES);
-    for (const WORD key : {VK_F1, VK_ESCAPE}) press_key(key);
+    for (const int answer : {IDNO, IDYES}) {
+        expect_message(L"Help!",
+                       L"You pressed the F1 Key for help.\r\nYou can e-mail me for help.\r\nDo you want to do so?",
+                       answer);
+    }
+    for (const WORD key : {VK_F1, VK_F1, VK_ESCAPE}) press_key(key);
     EXPECT_SOON(!viewer && asked == L"[Type your question here] and back");
 }
 
@@ -127,6 +143,11 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
         EXPECT_TRUE(is_typed_over(keyword)) << "by the next one";
     };
     search(L"bETA", L"Beta|beta|");
+    const auto mouse = [this](UINT message) { SendMessageW(viewer->List1.window(), message, 0, MAKELPARAM(20, 20)); };
+    mouse(WM_MOUSEMOVE);
+    EXPECT_EQ(viewer->List1.tool_tip(), L"beta (Game No. 2 of 2 games found for the search keyword - 'BETA'.)");
+    press_in_menus({VK_ESCAPE}, [&] { mouse(WM_RBUTTONDOWN); });
+    EXPECT_TRUE(viewer->caption() == L"beta" && !viewer->Text1.has_focus()) << "what the menu is for is shown";
     viewer->Option4.set_value(true);
     expect_message(L"Nothing there.", L"Nothing was found! Try searching for something else.");
     search(L"mario  ", L"");
@@ -212,12 +233,16 @@ TEST_F(ViewerTest, TheCheatTextCanBeMadeLarger) {
     const double usual = points();
     for (const int key : {VK_OEM_PLUS, VK_ADD, VK_OEM_MINUS}) press_key(static_cast<WORD>(key), {VK_CONTROL});
     EXPECT_SOON(points() == usual + 1);
-    for (int half_notch = 0; half_notch < 4; ++half_notch) {
-        SendMessageW(viewer->Text1.window(), WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, WHEEL_DELTA / 2), 0);
-    }
+    const auto turn_wheel = [this](int held, int distance) {
+        SendMessageW(viewer->Text1.window(), WM_MOUSEWHEEL, MAKEWPARAM(held, distance), 0);
+    };
+    // Half a notch at a time; the last two scroll.
+    for (const int held : {MK_CONTROL, MK_CONTROL, MK_CONTROL, MK_CONTROL, 0, 0}) turn_wheel(held, WHEEL_DELTA / 2);
     close_viewer();
     open_viewer();
     EXPECT_EQ(points(), usual + 3) << "for as long as the program runs";
+    turn_wheel(MK_CONTROL, -99 * WHEEL_DELTA);
+    EXPECT_EQ(points(), usual - 2) << "never too small to be read";
     press_key('0', {VK_CONTROL});
     EXPECT_SOON(points() == usual);
 }
@@ -235,6 +260,7 @@ TEST_F(ViewerTest, NamesTheResultWhileMinimisedAndIsLaidOutAnewAfterwards) {
     viewer->set_window_state(WindowState::Normal);
     EXPECT_SOON(viewer->caption() == L"Alpha");
     EXPECT_DOUBLE_EQ(viewer->Text1.left(), to_twips(to_pixels(2680, 120), 120)) << "and not as 96 dpi has rounded it";
+    EXPECT_GT(SendMessageW(viewer->List2.window(), LB_GETITEMHEIGHT, 0, 0), 14) << "the rows fit the larger text";
 }
 
 }  // namespace
