@@ -1,6 +1,7 @@
 // The viewer's commands: menus, image bar, alphabet bar, clipboard and printer.
 
 #include "metafile_printer.h"
+#include "object_counts.h"
 #include "shown_viewer.h"
 
 namespace quillomat {
@@ -56,6 +57,8 @@ TEST_F(ViewerCommandsTest, MenusAndImagesShareTheirCommands) {
         entry->pick();
     }
     EXPECT_EQ(printed.documents_ended, 1);
+    SendMessageW(viewer->window(), WM_COMMAND, MAKEWPARAM(0, LBN_DBLCLK),
+                 reinterpret_cast<LPARAM>(viewer->List2.window()));
     viewer_windows.find = [this] { opened += L"find "; };
     expect_message(L"Quillomat", L"The cheat codes for Alpha have been copied to the clipboard.");
     for (const std::size_t number : {1u, 2u, 3u, 5u}) {
@@ -70,7 +73,7 @@ TEST_F(ViewerCommandsTest, MenusAndImagesShareTheirCommands) {
             EXPECT_TRUE(EqualRect(&image.pixels(), &resting));
         }
     }
-    EXPECT_EQ(opened, L"save add mail list save add mail ");
+    EXPECT_EQ(opened, L"save add mail list save save add mail ");
     for (const bool coloured : {false, true}) {
         click_on(viewer->Image1);
         EXPECT_TRUE(menus.mnuColour.checked() == coloured &&
@@ -99,8 +102,10 @@ TEST_F(ViewerCommandsTest, HelpGoesWithThePointerWhereverItGoes) {
                viewer->Label1[5].back_colour() == rgb(0, 255, 255);
     };
     const auto point_at_image = [&] {
-        return point_until(viewer->window(), image.left + 9, image.top + 9,
-                           [this] { return viewer->Shape1.visible() && viewer->Text4.visible(); });
+        return point_until(viewer->window(), image.left + 9, image.top + 9, [this] {
+            return viewer->Shape1.visible() && viewer->Text4.visible() &&
+                   viewer->Text4.text() == L"Click here to change the font";
+        });
     };
     ASSERT_TRUE(point_at_image());
     // Straight onto a control that has a help text too, and back.
@@ -120,6 +125,31 @@ TEST_F(ViewerCommandsTest, HelpGoesWithThePointerWhereverItGoes) {
     mouse(WM_MOUSEMOVE, viewer->Image2[6]);
     EXPECT_EQ(viewer->Label1[5].back_colour(), rgb(0, 255, 255)) << "the pointer has jumped to an image";
     ASSERT_TRUE(point_until(viewer->Text1.window(), 50, 50, is_tidy));
+}
+
+TEST_F(ViewerCommandsTest, WhatIsDoneForHoursLeavesNothingBehind) {
+    constexpr int warm_up = 40;
+    ObjectCounts before;
+    int helps = 0;
+    viewer->Text4.on_change = [&helps] { ++helps; };
+    for (int i = 0; i < 2 * warm_up; ++i) {
+        if (i == warm_up) before = count_objects();
+        viewer->menus.mnuColour.pick();
+        viewer->menus.mnuPrint.pick();
+        for (const Control* control : {&viewer->Option1, &viewer->Option2}) {
+            move_pointer(control->window(), 5, 5);
+            pump();
+            viewer->Timer1.tick();
+        }
+    }
+    EXPECT_EQ(count_objects(), before);
+    EXPECT_GT(helps, warm_up);
+    constexpr int kept = 100;  // some of the fonts that are tried again soon, and what the system draws with
+    for (int i = 1; i <= 2 * kept; ++i) {
+        viewer->menus.add_font(L"Font " + std::to_wstring(i));
+        viewer->menus.mnuFontName.back()->pick();
+    }
+    EXPECT_LT(count_objects().gdi, before.gdi + kept);
 }
 
 TEST_F(ViewerCommandsTest, TheAlphabetBarJumps) {
