@@ -1,5 +1,6 @@
 // The find dialog over the viewer's text, by mouse and by keyboard.
 
+#include "output/frmMailMe.h"
 #include "session_support.h"
 #include "shell/windows.h"
 #include "viewer/frmCtlView.h"
@@ -47,6 +48,9 @@ TEST_F(FindTest, StepsThroughTheTextByKeyboardAlsoWhenOpenedAgain) {
         viewer->menus.mnuTextBoxFind.pick();
         EXPECT_EQ(find_form<frmFind>(), dialog) << "the viewer has only one";
         ASSERT_SOON(dialog->txtFind.has_focus());
+        dialog->close();
+        ASSERT_SOON(!find_form<frmFind>());
+        open();
     }
     expect_message(L"Find", L"Search completed");
     press_key(VK_RETURN);
@@ -72,11 +76,16 @@ TEST_F(FindTest, CoversNoneOfTheTextAndClosesWithTheViewer) {
     GetWindowRect(viewer->Text1.window(), &text);
     EXPECT_LE(place.bottom, text.top);
     dialog->txtFind.set_text(L"typed");
+    expect_mail_requirements();
+    windows.open_author_mail();
     viewer->close();
     EXPECT_SOON(!find_form<frmFind>() && !find_form<frmCtlView>());
     EXPECT_EQ(state.gFindString, L"typed");
-    // The last window has asked the program to end.
     MSG quit{};
+    EXPECT_FALSE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE)) << "a message is being written";
+    find_form<frmMailMe>()->close();
+    EXPECT_SOON(!find_form<frmMailMe>());
+    // The last window has asked the program to end.
     EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
