@@ -11,7 +11,7 @@ namespace quillomat {
 /// What a test's printer was given.
 struct Printed {
     std::wstring document;
-    /// The lines of each page.
+    /// The lines of each page; three hyphens stand for a rule.
     std::vector<std::vector<std::wstring>> pages;
     int documents_ended = 0;
     int documents_aborted = 0;
@@ -39,11 +39,13 @@ class MetafilePrinter final : public PrintDevice {
 
   private:
     static int CALLBACK read_record(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM page) {
+        auto& lines = *reinterpret_cast<std::vector<std::wstring>*>(page);
+        if (record->iType == EMR_LINETO) lines.emplace_back(L"---");
         if (record->iType != EMR_EXTTEXTOUTW) return 1;
         const EMRTEXT& text = reinterpret_cast<const EMREXTTEXTOUTW*>(record)->emrtext;
         const auto* characters =
             reinterpret_cast<const wchar_t*>(reinterpret_cast<const char*>(record) + text.offString);
-        reinterpret_cast<std::vector<std::wstring>*>(page)->emplace_back(characters, text.nChars);
+        lines.emplace_back(characters, text.nChars);
         return 1;
     }
 

@@ -55,7 +55,8 @@ struct PrintGamesTest : ShownViewerTest {
 
 TEST_F(PrintGamesTest, ARangeIsTypedCheckedPrintedAndRemembered) {
     open(20);
-    EXPECT_EQ(form->Text2.text(), L"21") << "one too many, so that the user chooses";
+    EXPECT_EQ(form->Text1.text() + L" to " + form->Text2.text(), L"1 to 21")
+        << "one too many, so that the user chooses";
     press_key(VK_DOWN);
     ASSERT_SOON(form->Option2.value());
     for (const WORD key : std::initializer_list<WORD>{VK_TAB, '1', 'X', '8', VK_OEM_MINUS, VK_BACK, '2'})
@@ -78,8 +79,9 @@ TEST_F(PrintGamesTest, ARangeIsTypedCheckedPrintedAndRemembered) {
     for (int times = 0; times < 2; ++times) press_key(VK_RETURN);
     ASSERT_SOON(!form) << "by way of the button";
     const std::wstring last_line = L"Made with Quillomat - www.tobferrand.example";
-    EXPECT_EQ(printed.pages,
-              (decltype(printed.pages){{L"List of Games", L"", L"Game 12", L"Game 13", L"", last_line}}));
+    EXPECT_EQ(
+        printed.pages,
+        (decltype(printed.pages){{L"List of Games", L"---", L"---", L"", L"Game 12", L"Game 13", L"", last_line}}));
 
     open(20);
     EXPECT_EQ(form->Text1.text() + form->Text2.text(), L" 012 pasted13");
@@ -87,10 +89,19 @@ TEST_F(PrintGamesTest, ARangeIsTypedCheckedPrintedAndRemembered) {
 
 TEST_F(PrintGamesTest, TheListGoesThroughThePrintingSystemOrTheUserIsToldWhyNot) {
     open(200);
-    printed.fails_at_page = 2;
+    press(form->Command1);
+    std::wstring expected = L"List of Games|---|---||";
+    for (int number = 1; number <= 200; ++number) expected += L"Game " + std::to_wstring(number) + L"|";
+    std::wstring lines;
+    for (const auto& page : printed.pages) {
+        for (const std::wstring& line : page) lines += line + L"|";
+    }
+    EXPECT_EQ(lines, expected + L"||Made with Quillomat - www.tobferrand.example|");
+    printed.fails_at_page = printed.pages.size() + 2;
+    open(200);
     expect_message(L"Quillomat", L"Printer error");
     press(form->Command1);
-    EXPECT_TRUE(printed.documents_aborted == 1 && printed.documents_ended == 0) << "half a list is not printed";
+    EXPECT_TRUE(printed.documents_aborted == 1 && printed.documents_ended == 1) << "half a list is not printed";
     session.open_printer = open_default_printer;
     expect_message(L"Quillomat",
                    L"No printer is set up. Install or choose a printer in the Windows settings and try again.");
