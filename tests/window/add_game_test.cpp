@@ -79,7 +79,9 @@ TEST_F(AddGameTest, KeysLeadThroughTheWindow) {
     EXPECT_FALSE(window->cmdButton[0]->enabled()) << "there are no cheats yet";
     // The help of a disabled button stays only while the pointer is on it, and never gets the focus.
     const auto shown = [this] { return window->Text3.visible(); };
-    EXPECT_TRUE(point_until(window->cmdButton[0]->window(), 9, 9, shown));
+    EXPECT_TRUE(point_until(window->cmdButton[0]->window(), 60, 9, shown));
+    EXPECT_LE(window->Text3.left() + window->Text3.width(), window->inner_width());
+    window->set_size(6000, 4500);
     window->Text3.set_focus();
     EXPECT_TRUE(window->cmdButton[1]->has_focus());
     EXPECT_TRUE(point_until(window->Text2.window(), 9, 9, [&] { return !shown(); }));
@@ -91,6 +93,8 @@ TEST_F(AddGameTest, KeysLeadThroughTheWindow) {
     press_key(VK_ESCAPE);
     EXPECT_SOON(!window);
     EXPECT_EQ(bytes("Cheats.dat"), database);
+    open_in(window, session, *link);
+    EXPECT_EQ(std::pair(window->width(), window->height()), std::pair(6000.0, 4500.0));
 }
 
 }  // namespace

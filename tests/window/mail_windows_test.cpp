@@ -208,10 +208,18 @@ TEST_F(MailCheatsTest, SendingNeedsPicksWhichAreCountedAndWalkedThroughAndEveryT
         box->set_text(text);
         if (box != &form->Text3) press_key(VK_RETURN);
     }
+    form->Option2.set_value(true);
     press_key(VK_ESCAPE);
     ASSERT_SOON(!form) << "Escape cancels, also from the message";
     open_window(*link);
     expect_filled_in();
+    EXPECT_TRUE(form->Option2.value());
+    EXPECT_EQ(form->caption(), L"Mail Cheat Codes to \u03A9mega");
+    form->Text3.set_text(L"Hi [FRIEND'S NAME]!");
+    for (const UINT event : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+        SendMessageW(form->Text3.window(), event, 0, SendMessageW(form->Text3.window(), EM_POSFROMCHAR, 6, 0));
+    }
+    EXPECT_EQ(form->Text3.selected_text(), L"[FRIEND'S NAME]") << "typed over as a whole";
 }
 
 using MailMeTest = MailTest<frmMailMe>;
@@ -244,6 +252,12 @@ TEST_F(MailMeTest, EscapeClosesTheListThenTheWindowAndThrowsAwayAProposal) {
     press_key(VK_TAB);
     press_key('W');
     ASSERT_SOON(form->Text1.text() == L"w") << "the proposal is typed over";
+    press_key(VK_ESCAPE);
+    press_key('W');
+    ASSERT_SOON(form && form->Text1.text() == L"ww") << "a written message is not thrown away";
+    press_key(VK_TAB, {VK_SHIFT});
+    press_key('S');
+    EXPECT_SOON(form->Command1.enabled()) << "with a subject of one's own";
     for (const wchar_t* written : {L"w", L""}) {
         form->Text1.set_text(written);
         form->propose_message(L"[Question]");

@@ -43,7 +43,8 @@ struct SaveTest : ShownViewerTest {
 
 TEST_F(SaveTest, EnterWritesExactlyTheNameAndTheCheats) {
     open();
-    EXPECT_EQ(window->Text1.selected_text(), L"Quake - The Return.txt");
+    EXPECT_EQ(window->caption() + L": " + window->Text1.selected_text(),
+              L"Save cheat codes of Quake: The Return: Quake - The Return.txt");
     press_key(VK_RETURN);
     EXPECT_SOON(!window);
     EXPECT_EQ(bytes("place/Quake - The Return.txt"), saved);
