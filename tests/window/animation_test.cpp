@@ -157,6 +157,7 @@ TEST_F(AnimationTest, WithoutAnimationsTheEndIsShownAtOnce) {
         set_animations(wanted);
         hover_over_button();
         EXPECT_EQ(main_screen->Timer6.enabled(), wanted) << "one colour for as long as the pointer stays";
+        EXPECT_TRUE(point_until(main_screen->window(), 5, 300, [&] { return !main_screen->Timer6.enabled(); }));
         main_screen.reset();
 
         show(splash, [] {});

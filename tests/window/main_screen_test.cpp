@@ -40,14 +40,18 @@ TEST_F(ShellTest, TheMainScreenLeadsToTheAuthorAndHisPages) {
     std::wstring led;
     windows.mail_author = [&] { led += L"mail "; };
     windows.link = [&](const std::wstring& address) { led += address + L" "; };
+    windows.cheats = [&] { led += L"cheats "; };
+    windows.about = [&] { led += L"about "; };
     open();
     MainMenus& menus = form->menus;
-    for (Menu* entry : {&menus.mnuMailMe, &menus.mnuLinksSign, &menus.mnuLinksNews, &menus.mnuLinksMail}) entry->pick();
+    for (Menu* entry : {&menus.mnuMailMe, &menus.mnuLinksSign, &menus.mnuLinksNews, &menus.mnuLinksMail,
+                        &menus.mnuFileCheat, &menus.mnuHelpAbout, &menus.mnuLinksSite}) {
+        entry->pick();
+    }
     form->Image1.on_double_click();
-    form->Command5.click();
     EXPECT_EQ(led,
               L"mail http://www.tobferrand.example/cgi-bin/guestex.cgi http://lists.allvb.example/subscribe/allvb "
-              L"mailto:tob@tobferrand.example mail http://www.tobferrand.example ");
+              L"mailto:tob@tobferrand.example cheats about http://www.tobferrand.example mail ");
 }
 
 TEST_F(ShellTest, TheExitQuestionGrowsCanBeTakenBackAndIsConfirmedByEnter) {
@@ -57,7 +61,7 @@ TEST_F(ShellTest, TheExitQuestionGrowsCanBeTakenBackAndIsConfirmedByEnter) {
     open();
     for (const bool taken_back : {true, true, false}) {
         const double top = form->Command2.top();
-        form->Command3.click();
+        form->menus.mnuFileExit.pick();
         EXPECT_EQ(inputs_of(form->window()).size(), 2u) << "only the answers";
         EXPECT_EQ(text_of(form->window()), L"Exit?");
         for (int step = 1; step <= 9; ++step) {
@@ -69,7 +73,7 @@ TEST_F(ShellTest, TheExitQuestionGrowsCanBeTakenBackAndIsConfirmedByEnter) {
         EXPECT_SOON(form->Command1.top() == form->Command3.top());
         press_key(taken_back ? VK_ESCAPE : VK_RETURN);
         if (!taken_back) break;
-        EXPECT_SOON(inputs_of(form->window()).size() == 5);
+        EXPECT_SOON(inputs_of(form->window()).size() == 5 && text_of(form->window()) == L"Quillomat");
         EXPECT_NEAR(form->Command3.width(), 5415, 15);
         EXPECT_TRUE(form->Command3.has_focus());
     }
@@ -84,6 +88,7 @@ TEST_F(ShellTest, TheProgramLeadsFromTheSplashToTheCheatsAndOut) {
     ASSERT_SOON(!find_form<frmSplash>() && find_form<frmMain>() && find_form<frmMain>()->Command4.has_focus());
     frmMain& main_screen = *find_form<frmMain>();
     EXPECT_EQ(GetSetting(registry.application(), L"Settings", L"Counter", L""), L"32767");
+    EXPECT_EQ(GetSetting(registry.application(), L"Settings", L"Directory", L""), session.program_folder);
     constexpr LPARAM repeated = 1 << 30;
     PostMessageW(main_screen.Command4.window(), WM_KEYDOWN, VK_RETURN, repeated | 1);
     pump();
