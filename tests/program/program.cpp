@@ -57,14 +57,10 @@ HWND Program::find(const wchar_t* window_class) const {
     return nullptr;
 }
 
-bool Program::reach_main_screen() const {
+bool Program::reach_viewer() const {
     if (!wait_until([this] { return find(L"frmSplash"); })) return false;
     PostMessageW(find(L"frmSplash"), WM_KEYDOWN, VK_SPACE, 0);
-    return wait_until([this] { return find(L"frmMain"); });
-}
-
-bool Program::reach_viewer() const {
-    if (!reach_main_screen()) return false;
+    if (!wait_until([this] { return find(L"frmMain"); })) return false;
     PostMessageW(FindWindowExW(find(L"frmMain"), nullptr, L"Button", L"&Click here to see the cheats!"), BM_CLICK, 0,
                  0);
     return wait_until([this] { return viewer() || find(message_box_class); });

@@ -39,8 +39,6 @@ class Program {
 
     /// Returns the program's visible window of a class; null if there is none.
     HWND find(const wchar_t* window_class) const;
-    /// Goes on from the splash. Returns false if the main screen does not open.
-    bool reach_main_screen() const;
     /// Goes on from the splash and from the main screen, until the viewer or a message box is open. Returns false if
     /// neither opens.
     bool reach_viewer() const;

@@ -1,4 +1,4 @@
-// The program as it is handed out: started with a question, and with a mail program that cannot be loaded.
+// The program as it is handed out, started with a question.
 
 #include <gtest/gtest.h>
 
@@ -44,43 +44,6 @@ TEST(Start, WithAQuestionShowsTheViewerWithItsAnswer) {
     }
     program.start(L" \"\" \t");
     EXPECT_TRUE(wait_until([&] { return program.find(L"frmSplash"); }));
-}
-
-/// The system looks for a mail program once in each process, so each of these needs one of its own.
-TEST(Mail, AProgramThatCannotBeLoadedIsReportedAndTheMessageStays) {
-    if (!GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version")) GTEST_SKIP() << "it could send a mail";
-    constexpr wchar_t key[] = L"Software\\Clients\\Mail\\Broken";
-    Program program;
-    std::string library = bytes_of(Program::executable);
-    library.replace(library.find("PE", 0x40) + 4, 2, "\x4C\x01");  // 32-bit
-    for (const std::string& bytes : {std::string(), std::string("nonsense"), library}) {
-        program.write_database(bytes);
-        const std::wstring path = program.database().wstring() + (bytes.empty() ? L".missing" : L"");
-        RegSetKeyValueW(HKEY_LOCAL_MACHINE, L"Software\\Clients\\Mail", nullptr, REG_SZ, L"Broken", sizeof L"Broken");
-        RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, L"DLLPath", REG_SZ, path.c_str(),
-                        static_cast<DWORD>(2 * path.size() + 2));
-        program.start();
-        ASSERT_TRUE(program.reach_main_screen());
-        // The author's picture, on the band of colour behind the buttons.
-        const HWND band = ChildWindowFromPoint(program.find(L"frmMain"), {1, 60});
-        PostMessageW(band, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(345, 38));
-        ASSERT_TRUE(wait_until([&] { return program.message().starts_with(L"Message: "); }));
-        ASSERT_TRUE(program.dismiss_message() && wait_until([&] { return program.find(L"frmMailMe"); }));
-        const HWND window = program.find(L"frmMailMe");
-        for (const HWND parent : {FindWindowExW(window, nullptr, L"ComboBox", nullptr), window}) {
-            const HWND edit = FindWindowExW(parent, nullptr, L"Edit", nullptr);
-            SendMessageW(edit, EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(L"Hi"));
-        }
-        PostMessageW(FindWindowExW(window, nullptr, L"Button", L"&Send!"), BM_CLICK, 0, 0);
-        EXPECT_TRUE(wait_until([&] {
-            // The system's library first tells in a message of its own what it lacks.
-            if (program.message().starts_with(L"Send Mail: ")) program.dismiss_message();
-            return program.message().starts_with(L"Quillomat: The message was not sent");
-        })) << path;
-        EXPECT_TRUE(program.dismiss_message() && IsWindowVisible(window));
-        RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, L"Software\\Clients\\Mail", nullptr);
-        RegDeleteTreeW(HKEY_LOCAL_MACHINE, key);
-    }
 }
 
 }  // namespace

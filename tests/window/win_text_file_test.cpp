@@ -68,15 +68,6 @@ TEST_F(TextFile, AppendingWritesInPlaceAndReplacingDoesNot) {
     EXPECT_EQ(reader.read_all(), L"no line end here\r\nlast\r\n") << "never half of the old and half of the new";
 }
 
-TEST_F(TextFile, MakesItsFileAndTouchesNoOther) {
-    const std::wstring taken = L"~quillomat-" + std::to_wstring(GetCurrentProcessId()) + L"-1.tmp";
-    folder_.write(taken, "the user's");
-    slot_.replace(file_, L"new");
-    slot_.append(path(L"b.txt"), L"new");
-    EXPECT_EQ(folder_.read(taken) + folder_.read(file_) + folder_.read(L"b.txt"), "the user'snewnew");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 3);
-}
-
 TEST_F(TextFile, AFailureChangesNothing) {
     folder_.write(file_, "old\r\n");
     const auto expect_refused = [&](const std::wstring& path, const wchar_t* text, ErrorCode code) {
