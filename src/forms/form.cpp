@@ -379,7 +379,7 @@ void Form::drag_by(MouseEvents& surface) {
 
 void Form::drag() {
     ReleaseCapture();
-    SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, static_cast<LPARAM>(GetMessagePos()));
+    SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
 }
 
 void Form::bring_to_foreground() {
