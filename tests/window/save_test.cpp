@@ -64,8 +64,10 @@ TEST_F(SaveTest, AsksBeforeOverwritingAndTellsThatItWaitsForAnotherProgramThatHo
     FileHandle held(CreateFileW((place / "old.txt").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     int ticks = 0;
     window->Timer1.on_timer = [&] {
-        ticks += window->Label6.visible();
-        if (ticks > 3) held.close();
+        // Once the new text is in a file beside the old one and the folder.
+        const auto files = std::distance(std::filesystem::directory_iterator(place), {});
+        ticks += window->Label6.visible() && files > 2;
+        if (ticks > 4) held.close();
     };
     expect_question(L"old.txt");
     double_click(window->File1);
