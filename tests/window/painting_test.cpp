@@ -244,6 +244,8 @@ TEST_F(ViewerPaintingTest, BothColourSchemesReachTextAndLists) {
         EXPECT_GT(count(viewer->List1, names), 20) << "the results too";
         viewer->Option1.set_value(true);
     }
+    viewer->List2.select_index(0);
+    EXPECT_GT(count(viewer->List2, colours::highlight), 500);
 }
 
 TEST_F(ViewerPaintingTest, MenuEntriesHavePicturesThatAreSeeThroughWhereNothingIsDrawn) {
