@@ -15,6 +15,8 @@ namespace quillomat {
 namespace {
 
 constexpr UINT destroy_message = WM_APP;
+/// Windows uses the lower four bits of a system command itself.
+constexpr WPARAM system_command_mask = 0xFFF0;
 
 Occasion occasion_of(UINT message) {
     switch (message) {
@@ -195,6 +197,8 @@ LRESULT Form::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SYSCOMMAND:
             // Wine: after a minimised window was moved by keyboard, its menu opens, even if the window has closed.
             if (closed_) return 0;
+            // Windows takes the focus away from a window that is being minimised before it sends WM_ACTIVATE.
+            if ((wparam & system_command_mask) == SC_MINIMIZE) internals_.keyboard.remember_focus();
             break;
         case WM_DESTROY:
             // MenuBar owns the menu bar; Windows would destroy an attached one with the window.
