@@ -24,7 +24,7 @@ namespace {
 
 using namespace quillomat;
 
-/// Record `number` of a writer: most are short, some have a megabyte.
+// Record `number` of a writer: most are short, some have a megabyte.
 std::wstring record(std::size_t writer, int number) {
     const std::size_t lines = number % 5 == 0 ? 20'000 : static_cast<std::size_t>(number % 5) * 40;
     const std::wstring name = L"Game " + std::to_wstring(number) + L" of writer " + std::to_wstring(writer);
@@ -33,7 +33,7 @@ std::wstring record(std::size_t writer, int number) {
     return record_text(name, cheats);
 }
 
-/// Writes far longer than it takes to be ended, and yet not for ever when nobody is left to do it.
+// Writes far longer than it takes to be ended, and yet not for ever when nobody is left to do it.
 int write_on_and_on(const std::wstring& path, std::size_t writer) {
     TextFileSlot slot;
     for (int number = 1; number <= 1000;) {
@@ -48,7 +48,7 @@ int write_on_and_on(const std::wstring& path, std::size_t writer) {
     return 0;
 }
 
-/// A copy of this program that writes until it is ended.
+// A copy of this program that writes until it is ended.
 FileHandle start_writer(const std::wstring& path, std::size_t writer) {
     const std::wstring program = program_folder() + L"\\durability_tests.exe";
     const std::wstring quoted_path = L"\"" + path + L"\"";
@@ -59,8 +59,8 @@ FileHandle start_writer(const std::wstring& path, std::size_t writer) {
     return process;
 }
 
-/// Counts the whole records of the two writers in a file, each writer's in their order, and returns what is left over.
-/// What either wrote over or cut off of the other's is left over from there on.
+// Counts the whole records of the two writers in a file, each writer's in their order, and returns what is left over.
+// What either wrote over or cut off of the other's is left over from there on.
 std::string take_records(const std::wstring& path, std::array<int, 2>& found) {
     std::string rest = bytes_of(path);
     std::size_t taken = 0;
@@ -75,7 +75,7 @@ std::string take_records(const std::wstring& path, std::array<int, 2>& found) {
     return rest.erase(0, taken);
 }
 
-/// Ends two writers in the middle of their work, and says whether the file is whole.
+// Ends two writers in the middle of their work, and says whether the file is whole.
 bool survives_kill(std::mt19937& random) {
     const TemporaryFolder folder;
     const std::wstring path = (folder.path() / L"Cheats.dat").wstring();
@@ -103,7 +103,7 @@ int kill_often(int kills) {
     return intact ? 0 : 1;
 }
 
-/// Appends until the disk is full; then the file must be as it was before the record that failed.
+// Appends until the disk is full; then the file must be as it was before the record that failed.
 int fill_disk(const std::wstring& path) {
     TextFileSlot slot;
     slot.replace(path, record(0, 1));

@@ -13,11 +13,11 @@ namespace {
 
 constexpr std::size_t page = 4096;
 constexpr std::size_t room = std::size_t{64} << 30;
-/// What `operator new` promises for every object; an object of another size ends up to 15 bytes before the page's end.
+// What `operator new` promises for every object; an object of another size ends up to 15 bytes before the page's end.
 constexpr std::size_t alignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
-/// Makes the use of an uninitialised number or pointer show.
+// Makes the use of an uninitialised number or pointer show.
 constexpr int filling = 0xCD;
-/// Exit codes, to tell a heap that has ended the program from the program's own end.
+// Exit codes, to tell a heap that has ended the program from the program's own end.
 constexpr UINT room_used_up = 0xF0;
 constexpr UINT not_from_here = 0xF1;
 

@@ -21,7 +21,7 @@ constexpr wchar_t registered_key[] = L"Software\\Microsoft\\Windows\\CurrentVers
 constexpr wchar_t settings_key[] = L"Software\\Quillomat\\Settings";
 constexpr char added_game[] = "my own cheat\r\n$$$$$$$$$$$$$$$$$$$$ My own game\r\n";
 
-/// Holds what is handed out in app/, and the packages of it and of a later release in now/ and newer/.
+// Holds what is handed out in app/, and the packages of it and of a later release in now/ and newer/.
 fs::path packages;
 
 std::set<std::wstring> names_in(const fs::path& folder) {
@@ -31,7 +31,7 @@ std::set<std::wstring> names_in(const fs::path& folder) {
     return names;
 }
 
-/// Empty when there is no such value.
+// Empty when there is no such value.
 std::wstring user_text(const wchar_t* key, const wchar_t* name) {
     wchar_t text[1024]{};
     DWORD size = sizeof text;
@@ -39,7 +39,7 @@ std::wstring user_text(const wchar_t* key, const wchar_t* name) {
     return text;
 }
 
-/// Runs a command line to its end and returns the exit code.
+// Runs a command line to its end and returns the exit code.
 int run(const std::wstring& command) {
     return _wsystem((L"\"" + command + L"\"").c_str());
 }
@@ -51,15 +51,15 @@ int install(const wchar_t* release, const std::wstring& options = {}) {
     throw std::runtime_error("there is no installer");
 }
 
-/// Uninstalls what is registered, as "Apps & features" does. The uninstaller goes on by itself as a copy, because its
-/// own file has to go too; what is registered is the last to go.
+// Uninstalls what is registered, as "Apps & features" does. The uninstaller goes on by itself as a copy, because its
+// own file has to go too; what is registered is the last to go.
 bool uninstall() {
     run(user_text(registered_key, L"QuietUninstallString"));
     return wait_until([] { return user_text(registered_key, L"DisplayName").empty(); });
 }
 
 struct Package : testing::Test {
-    /// Takes away what the test before has left.
+    // Takes away what the test before has left.
     Package() {
         for (const fs::path& path : {folder, other_folder, shortcut}) fs::remove_all(path);
         RegDeleteTreeW(HKEY_CURRENT_USER, registered_key);
@@ -67,7 +67,7 @@ struct Package : testing::Test {
 
     fs::path file(const wchar_t* name) const { return folder / name; }
     void add_own_game() const { write_bytes(database, added_game, std::ios::app); }
-    /// Expects the program's files with this database, and beside them only `more`.
+    // Expects the program's files with this database, and beside them only `more`.
     void expect_files(const std::string& bytes, const std::set<std::wstring>& more = {}) const {
         std::set<std::wstring> names{L"Cheats.dat", L"Quillomat.exe", L"Uninstall.exe", L"readme.txt"};
         names.insert(more.begin(), more.end());
@@ -83,7 +83,7 @@ struct Package : testing::Test {
     const std::string newer_database = bytes_of(packages / L"app-newer" / L"Cheats.dat");
 };
 
-/// Whether a file holds a text, as a shortcut its target or a program the texts of its version.
+// Whether a file holds a text, as a shortcut its target or a program the texts of its version.
 template <class Text>
 bool holds(const fs::path& path, const Text& text) {
     const std::string_view bytes(reinterpret_cast<const char*>(text.data()), text.size() * sizeof text[0]);

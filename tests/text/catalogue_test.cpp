@@ -21,7 +21,7 @@ std::wstring name_lines(int count) {
     return text;
 }
 
-/// The names that are listed, and behind them the error that ends the list, if one does.
+// The names that are listed, and behind them the error that ends the list, if one does.
 Names listed(const std::function<void(const Catalogue::ListName&)>& list) {
     Names names;
     try {

@@ -55,7 +55,7 @@ TEST(Search, FindsNamesAndCheatsOfTheGamesAsTheyAreNow) {
     EXPECT_THROW(find(SearchScope::Cheats, L"NEW"), Error);
 }
 
-/// Few different characters, so that beginnings of the keyword are everywhere and matches lie across block borders.
+// Few different characters, so that beginnings of the keyword are everywhere and matches lie across block borders.
 TEST(Search, AgreesWithPlainSubstringSearch) {
     std::mt19937 random(4);
     for (int run = 0; run < 20'000; ++run) {

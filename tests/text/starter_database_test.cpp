@@ -19,7 +19,7 @@ std::size_t count_of(const std::string& text, const std::string& part) {
     return count;
 }
 
-/// The database a new user starts with, checked for what the program relies on and for slips of whoever edits it.
+// The database a new user starts with, checked for what the program relies on and for slips of whoever edits it.
 TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
     const std::string bytes = bytes_of(QUILLOMAT_STARTER_DATABASE);
     std::vector<std::wstring> names;

@@ -14,7 +14,7 @@ struct AboutTest : WindowTest {
         open_in(about, pointer, std::int16_t{1});
         ASSERT_SOON(GetFocus());
     }
-    /// Waits until an address other than the last one has been opened.
+    // Waits until an address other than the last one has been opened.
     void expect_opened(const std::string& address) { EXPECT_SOON(links_.last() == address + "\r\n") << address; }
 
     PointerState pointer;

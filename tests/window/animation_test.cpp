@@ -18,19 +18,19 @@ namespace {
 constexpr COLORREF white = 0xFFFFFF;
 
 struct AnimationTest : SessionTest {
-    /// Shows a window in which no timer has ticked yet.
+    // Shows a window in which no timer has ticked yet.
     template <class Window, class... Arguments>
     void show(std::unique_ptr<Window>& place, Arguments&&... arguments) {
         place = std::make_unique<Window>(application, std::forward<Arguments>(arguments)...);
         place->show();
     }
-    /// Shows the main screen, which puts the pointer on its largest button, and waits until that has noticed it.
+    // Shows the main screen, which puts the pointer on its largest button, and waits until that has noticed it.
     void hover_over_button() {
         show(main_screen, session, windows);
         const Button& button = main_screen->Command4;
         ASSERT_TRUE(point_until(button.window(), 8, 8, [&] { return button.back_colour() != colours::button_face; }));
     }
-    /// What the window shows of a label, in pixels.
+    // What the window shows of a label, in pixels.
     static RECT shown(Label& label, const RECT& area) {
         const ShownPixels with(label.form().window());
         label.set_visible(false);

@@ -22,7 +22,7 @@ struct FontsTest : ShownViewerTest {
         };
     }
 
-    /// The captions that Windows shows in the font menu behind its first entry.
+    // The captions that Windows shows in the font menu behind its first entry.
     Names listed() const {
         const HMENU menu = viewer->menus.mnuFont.handle();
         Names names(static_cast<std::size_t>(GetMenuItemCount(menu)) - 1);
@@ -40,7 +40,7 @@ struct FontsTest : ShownViewerTest {
                        L"system.\r\nDo you wish to continue?",
                        answer);
     }
-    /// Collects to the end, where a menu pops up; the answers are those to whether to cancel meanwhile.
+    // Collects to the end, where a menu pops up; the answers are those to whether to cancel meanwhile.
     void collect_all(std::initializer_list<int> answers = {}, std::deque<WORD> keys_in_menu = {VK_ESCAPE}) {
         expect_question();
         for (const int answer : answers) {
@@ -51,12 +51,12 @@ struct FontsTest : ShownViewerTest {
             L"All fonts have been collected!\r\nYou may now choose any font which you would like from the FONT Menu!");
         press_in_menus(std::move(keys_in_menu), [this] { collect(); });
     }
-    /// As a message, like the user's: while it is handled, the viewer is not destroyed.
+    // As a message, like the user's: while it is handled, the viewer is not destroyed.
     void collect() const {
         SendMessageW(viewer->window(), WM_COMMAND, static_cast<WPARAM>(viewer->menus.mnuFontName[0]->id()), 0);
     }
     static frmStatus* status() { return find_form<frmStatus>(); }
-    /// The width of the bar that the progress window shows, in twips.
+    // The width of the bar that the progress window shows, in twips.
     static double bar_shown() {
         const RECT& frame = status()->Shape2.pixels();
         const RECT row{frame.left, frame.top + 5, frame.right, frame.top + 6};

@@ -52,7 +52,7 @@ TEST_F(FormsTest, AChangeByTheProgramRaisesOneEventAsOneByTheUser) {
     }
 }
 
-/// Changes the resolution as Windows does; it suggests a size in proportion, which the window may correct.
+// Changes the resolution as Windows does; it suggests a size in proportion, which the window may correct.
 void change_resolution(Form& form, int dpi) {
     SIZE size{MulDiv(to_pixels(form.width(), form.dpi()), dpi, form.dpi()),
               MulDiv(to_pixels(form.height(), form.dpi()), dpi, form.dpi())};

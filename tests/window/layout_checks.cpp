@@ -17,7 +17,7 @@
 namespace quillomat {
 namespace {
 
-/// A control or a painted item.
+// A control or a painted item.
 struct Piece {
     HWND parent = nullptr;
     HWND window = nullptr;  ///< null for a painted item
@@ -48,12 +48,12 @@ RECT area_of(HWND window) {
     return area;
 }
 
-/// A box with a help text stands in front of other controls while the pointer is on the control that it explains.
+// A box with a help text stands in front of other controls while the pointer is on the control that it explains.
 bool is_help_box(HWND window) {
     return class_of(window) == L"Edit" && !(style_of(window) & WS_TABSTOP);
 }
 
-/// The visible controls on a window and in its frames, the first made first. Names for screen readers take no room.
+// The visible controls on a window and in its frames, the first made first. Names for screen readers take no room.
 std::vector<HWND> controls_on(HWND window) {
     std::vector<HWND> controls;
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
@@ -106,7 +106,7 @@ void expect_room_for_text(HWND control, int dpi) {
     expect_room(described(control), font, text, format, room.right, room.bottom);
 }
 
-/// What must neither overlap nor be cut off; shapes, lines and stripes may.
+// What must neither overlap nor be cut off; shapes, lines and stripes may.
 std::vector<Piece> pieces_of(HWND window) {
     std::vector<Piece> pieces;
     Form& form = *Form::from(window);
@@ -146,7 +146,7 @@ void expect_inside(const Piece& piece) {
         << ", " << bottom << " in " << room.right << " x " << room.bottom;
 }
 
-/// Adds a caption's access key to those of the captions beside it, which must not have it.
+// Adds a caption's access key to those of the captions beside it, which must not have it.
 void add_access_key(const std::wstring& caption, std::set<wchar_t>& keys) {
     for (std::size_t i = caption.find(L'&'); i < caption.size() - 1; i = caption.find(L'&', i + 2)) {
         const auto key = static_cast<wchar_t>(std::towupper(caption[i + 1]));

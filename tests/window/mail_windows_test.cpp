@@ -16,26 +16,26 @@ constexpr wchar_t message[] = L"Hi \u03A9mega!\r\n\r\n\U0001F600 Bye";
 constexpr char all_calls[] = "logon send logoff ";
 constexpr LHANDLE only_session = 4711;
 
-/// What the mail program is asked for. It is this program itself, by the functions at the end of this file.
+// What the mail program is asked for. It is this program itself, by the functions at the end of this file.
 struct MailProgram {
-    /// Records a call and answers the number it is to be refused with, or 0.
+    // Records a call and answers the number it is to be refused with, or 0.
     ULONG call(const std::string& function) {
         calls += function + " ";
         return function == refused ? refusal : SUCCESS_SUCCESS;
     }
 
     std::string calls;
-    /// The last mail: address, name, subject, text, and the name and the content of a file, each with a line end.
+    // The last mail: address, name, subject, text, and the name and the content of a file, each with a line end.
     std::wstring mail;
     std::string refused;
     ULONG refusal = 0;
-    /// What happens while it has the mail, on the thread that sends; is given the window above which it shows dialogs.
+    // What happens while it has the mail, on the thread that sends; is given the window above which it shows dialogs.
     std::function<void(HWND)> while_sending;
 };
 
 MailProgram mail_program;
 
-/// A window that sends mails, on a computer whose default mail program is the tests' own.
+// A window that sends mails, on a computer whose default mail program is the tests' own.
 template <class Window>
 struct MailTest : ShownViewerTest {
     MailTest() {
@@ -65,7 +65,7 @@ struct MailTest : ShownViewerTest {
 };
 
 struct MailCheatsTest : MailTest<frmMailCheats> {
-    /// Eight games, one of them with letters beyond ASCII.
+    // Eight games, one of them with letters beyond ASCII.
     MailCheatsTest() {
         std::string database;
         for (const char* name : {"Game 0", "Game 1", "Game 2", "Game 3", "Game 4", "Game 5", "Game 6", "\xC9t\xE9 7"}) {
@@ -79,7 +79,7 @@ struct MailCheatsTest : MailTest<frmMailCheats> {
         for (const auto& [box, text] : inputs()) box->set_text(text);
         for (const int number : picked) form->List1.set_picked(number, true);
     }
-    /// The boxes in the order in which Enter goes through them, and what is typed there.
+    // The boxes in the order in which Enter goes through them, and what is typed there.
     std::array<std::pair<TextBox*, std::wstring>, 4> inputs() const {
         return {{{&form->Text1, L"M\u00FCller \u65E5\u672C"},
                  {&form->Text2, L"\u03A9mega"},

@@ -111,7 +111,7 @@ TEST_F(PaintingTest, ALabelHasItsColoursAndItsPlaceAndLeavesWhatLiesBehindIt) {
     EXPECT_EQ(shown().at(place.left, place.bottom - 1), green.value);
 }
 
-/// Expects a picture in the middle of an area, and over this share of its width.
+// Expects a picture in the middle of an area, and over this share of its width.
 void expect_centred(const RECT& ink, const RECT& area, double share) {
     EXPECT_NEAR(ink.left + ink.right, area.left + area.right, 5);
     EXPECT_NEAR(ink.top + ink.bottom, area.top + area.bottom, 7);

@@ -19,8 +19,8 @@ struct PrintGamesTest : ShownViewerTest {
         session.open_printer = [this] { return std::make_unique<MetafilePrinter>(printed); };
         open_in(form, session, *link);
     }
-    /// Wine: prints on a PostScript printer whose port is a file, which needs no print server. Returns false where
-    /// there is no such driver.
+    // Wine: prints on a PostScript printer whose port is a file, which needs no print server. Returns false where
+    // there is no such driver.
     bool prints_to(const std::filesystem::path& port, const std::wstring& message = {}) {
         wchar_t drivers[MAX_PATH];
         DWORD needed = 0;

@@ -24,7 +24,7 @@ struct ViewerCommandsTest : ShownViewerTest {
         viewer->List2.select_index(0);
     }
 
-    /// A mouse message at a place of an item that the viewer paints, in pixels from the item's left and top.
+    // A mouse message at a place of an item that the viewer paints, in pixels from the item's left and top.
     void mouse(int message, const Graphic& item) {
         SendMessageW(viewer->window(), static_cast<UINT>(message), 0,
                      MAKELPARAM(item.pixels().left + 8, item.pixels().top + 8));

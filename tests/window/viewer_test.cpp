@@ -18,7 +18,7 @@ constexpr char database[] =
 struct ViewerTest : ShownViewerTest {
     ViewerTest() { write("Cheats.dat", database); }
 
-    /// The MF_ flags with which Windows shows an entry of the menu bar.
+    // The MF_ flags with which Windows shows an entry of the menu bar.
     UINT state_of(const Menu& entry) const {
         return GetMenuState(GetMenu(viewer->window()), static_cast<UINT>(entry.id()), MF_BYCOMMAND);
     }
@@ -172,7 +172,7 @@ TEST_F(ViewerTest, FindsInNamesAndTextsWhateverTheCase) {
         << "the pointer is on the button that starts the search";
 }
 
-/// Before each step of a panel: where it goes, and where the list is shown to end, in pixels.
+// Before each step of a panel: where it goes, and where the list is shown to end, in pixels.
 using Steps = std::vector<std::pair<LONG, LONG>>;
 
 LRESULT CALLBACK watch(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR, DWORD_PTR steps) {

@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::string_literals;
 
-/// The number of the error that something throws, if it throws one.
+// The number of the error that something throws, if it throws one.
 std::optional<ErrorCode> error_of(const std::function<void()>& something) {
     try {
         something();
@@ -25,7 +25,7 @@ std::optional<ErrorCode> error_of(const std::function<void()>& something) {
     }
 }
 
-/// A folder of its own for every test, where files are looked at byte by byte.
+// A folder of its own for every test, where files are looked at byte by byte.
 struct TextFile : testing::Test {
     std::wstring path(const wchar_t* name) const { return (folder_.path() / name).wstring(); }
 

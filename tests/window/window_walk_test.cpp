@@ -23,19 +23,19 @@ namespace {
 
 struct WindowWalk;
 
-/// A window in one of its states.
+// A window in one of its states.
 struct State {
     const char* name;
-    /// The window's class.
+    // The window's class.
     const wchar_t* window;
-    /// Opens the window. For a dialog the call returns only once the dialog has closed.
+    // Opens the window. For a dialog the call returns only once the dialog has closed.
     void (*open)(WindowWalk& walk);
-    /// Brings the open window into its state.
+    // Brings the open window into its state.
     void (*arrange)(WindowWalk& walk) = nullptr;
-    /// The caption of the button that Enter presses.
+    // The caption of the button that Enter presses.
     const wchar_t* default_button = L"";
     enum Kind { Modeless, Dialog, NotClosedByEscape } kind = Modeless;
-    /// At a higher resolution the screen of the tests is too small for the window.
+    // At a higher resolution the screen of the tests is too small for the window.
     int highest_dpi = 192;
 };
 
@@ -69,7 +69,7 @@ struct WindowWalk : SessionTest, ::testing::WithParamInterface<State> {
         write("Cheats.dat", database);
     }
 
-    /// Opens the window, looks at it once it takes input, and closes it.
+    // Opens the window, looks at it once it takes input, and closes it.
     void visit(int dpi, const std::function<void(HWND)>& look);
     void look_now();
 
