@@ -9,9 +9,9 @@ namespace quillomat {
 
 void OpenLink(Form& form, const std::wstring& address) {
     if (open_link(address)) return;
-    show_message(form.window(), {.text = L"An error has occured.\r\nMake sure your internet connection is ON and that "
-                                         L"your web settings are configured properly.",
-                                 .title = form.application().title()});
+    show_message(form, {.text = L"An error has occured.\r\nMake sure your internet connection is ON and that "
+                                L"your web settings are configured properly.",
+                        .title = form.application().title()});
 }
 
 }  // namespace quillomat

@@ -6,8 +6,8 @@
 
 namespace quillomat {
 
-MessageAnswer show_message(HWND form, const Message& message) {
-    return show_message(Form::from(form)->application(), form, message);
+MessageAnswer show_message(const Form& form, const Message& message) {
+    return show_message(form.application(), form.window(), message);
 }
 
 MessageAnswer show_message(Application& application, HWND owner, const Message& message) {
@@ -20,7 +20,7 @@ MessageAnswer show_message(Application& application, HWND owner, const Message& 
                     static_cast<UINT>(message.buttons) | static_cast<UINT>(message.icon)));
 }
 
-void show_error(HWND form, const Error& error) {
+void show_error(const Form& form, const Error& error) {
     show_message(form, {.text = error.description(), .title = L"Error!", .icon = MessageIcon::Critical});
 }
 

@@ -8,6 +8,7 @@ namespace quillomat {
 
 class Application;
 class Error;
+class Form;
 
 /// The buttons of a message box.
 enum class MessageButtons : UINT { Ok = MB_OK, OkCancel = MB_OKCANCEL, YesNo = MB_YESNO };
@@ -29,14 +30,14 @@ struct Message {
     MessageIcon icon = MessageIcon::None;
 };
 
-/// Shows a message box above the window of a form and waits for the answer. All other windows are disabled meanwhile.
+/// Shows a message box above a form and waits for the answer. All other windows are disabled meanwhile.
 /// If the form waits for a dialog, the message box appears above that dialog.
-MessageAnswer show_message(HWND form, const Message& message);
+MessageAnswer show_message(const Form& form, const Message& message);
 /// Shows a message box in the same way above a window that may be null or destroyed.
 MessageAnswer show_message(Application& application, HWND owner, const Message& message);
 
-/// Shows the description of `error` in a critical message box titled "Error!" above the window of a form.
-void show_error(HWND form, const Error& error);
+/// Shows the description of `error` in a critical message box titled "Error!" above a form.
+void show_error(const Form& form, const Error& error);
 
 /// Plays the default beep.
 void beep();

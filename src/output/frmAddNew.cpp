@@ -176,11 +176,11 @@ void frmAddNew::AddGame() {
 }
 
 void frmAddNew::propose_other_name(int existing, const std::wstring& name) {
-    show_message(window(), {.text = L"The cheat codes for " + name +
-                                    L" already exist. Try using a different name.\r\n(You can use the name I have "
-                                    L"provided for you.)",
-                            .title = name + L" already exists!",
-                            .icon = MessageIcon::Information});
+    show_message(*this, {.text = L"The cheat codes for " + name +
+                                 L" already exist. Try using a different name.\r\n(You can use the name I have "
+                                 L"provided for you.)",
+                         .title = name + L" already exists!",
+                         .icon = MessageIcon::Information});
     viewer_.select_game(existing);
     Text1.set_text(name + L" (Custom)");
     SelectAllText(Text1);
@@ -195,8 +195,8 @@ void frmAddNew::store(const std::wstring& name, const std::wstring& cheats) {
     session_.catalogue.store(number, name, cheats);
     session_.viewer.game_count = checked_add_16(session_.viewer.game_count, 1);
     viewer_.list_game(name);
-    show_message(window(), {.text = L"The cheat codes for " + name + L" have been successfully added!",
-                            .title = application().title()});
+    show_message(*this, {.text = L"The cheat codes for " + name + L" have been successfully added!",
+                         .title = application().title()});
     viewer_.select_game(name);
     const Hourglass hourglass(*this);
     const bool appended = application().run_without_blocking(
@@ -206,13 +206,13 @@ void frmAddNew::store(const std::wstring& name, const std::wstring& cheats) {
 
 void frmAddNew::report(const Error& error) {
     if (error.code() == ErrorCode::SubscriptOutOfRange) {
-        show_message(window(), {.text = L"Sorry, you have reached the maximum limit of games!",
-                                .title = L"Overload!",
-                                .icon = MessageIcon::Critical});
+        show_message(*this, {.text = L"Sorry, you have reached the maximum limit of games!",
+                             .title = L"Overload!",
+                             .icon = MessageIcon::Critical});
         close();
         return;
     }
-    show_error(window(), error);
+    show_error(*this, error);
 }
 
 }  // namespace quillomat

@@ -114,7 +114,7 @@ void frmPrintGames::Command1_Click() {
     } else if (const auto range = typed_range(Text1.text(), Text2.text(), count)) {
         print(game_names_in_range(range->first, range->last, name));
     } else {
-        show_message(window(), {.text = typed_range_hint(count), .title = L"Error!", .icon = MessageIcon::Information});
+        show_message(*this, {.text = typed_range_hint(count), .title = L"Error!", .icon = MessageIcon::Information});
         return;
     }
     close();

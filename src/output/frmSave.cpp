@@ -136,7 +136,7 @@ void frmSave::Drive1_Change() {
     try {
         Dir1.set_path(drive);
     } catch (const Error& error) {
-        show_error(window(), error);
+        show_error(*this, error);
         Drive1.select_drive_of(Dir1.path());
     }
 }
@@ -162,14 +162,13 @@ void frmSave::File1_Click() {
 
 void frmSave::Command1_Click() {
     if (Text1.empty()) {
-        show_message(window(),
-                     {.text = L"Please give a file name!", .title = L"Error", .icon = MessageIcon::Information});
+        show_message(*this, {.text = L"Please give a file name!", .title = L"Error", .icon = MessageIcon::Information});
         Text1.set_focus();
         return;
     }
     const std::wstring name = file_name_of(Text1.text());
     if (const auto fault = file_name_fault(name)) {
-        show_message(window(), {.text = *fault, .title = L"Error", .icon = MessageIcon::Information});
+        show_message(*this, {.text = *fault, .title = L"Error", .icon = MessageIcon::Information});
         SelectAllText(Text1);
         return;
     }
@@ -177,7 +176,7 @@ void frmSave::Command1_Click() {
     try {
         if (may_be_written() && write()) close();
     } catch (const Error& error) {
-        show_error(window(), error);
+        show_error(*this, error);
     }
 }
 
@@ -195,10 +194,10 @@ bool frmSave::may_be_written() {
     bool exists = false;
     if (!wait_for([&] { exists = file_exists(chosen_path_); })) return false;
     if (!exists) return true;
-    return show_message(window(), {.text = L"The cheat codes for " + chosen_path_ +
-                                           L" already exist in this directory.\r\nDo you want to overwrite them?",
-                                   .title = L"Overwrite?",
-                                   .buttons = MessageButtons::OkCancel}) == MessageAnswer::Ok;
+    return show_message(*this, {.text = L"The cheat codes for " + chosen_path_ +
+                                        L" already exist in this directory.\r\nDo you want to overwrite them?",
+                                .title = L"Overwrite?",
+                                .buttons = MessageButtons::OkCancel}) == MessageAnswer::Ok;
 }
 
 void frmSave::Timer1_Timer() {

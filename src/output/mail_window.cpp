@@ -10,7 +10,7 @@
 namespace quillomat {
 
 void tell_mail_requirements(Form& form) {
-    show_message(form.window(), {.text = mail_requirements, .title = L"Message", .icon = MessageIcon::Information});
+    show_message(form, {.text = mail_requirements, .title = L"Message", .icon = MessageIcon::Information});
 }
 
 bool send_mail(Form& form, Item& please_wait, const std::function<void()>& send) {
@@ -27,7 +27,7 @@ bool send_mail(Form& form, Item& please_wait, const std::function<void()>& send)
 void close_after_sending(Form& form) {
     // The user may have closed the program meanwhile.
     if (form.closed()) return;
-    show_message(form.window(), {.text = L"The message was sent!", .title = form.application().title()});
+    show_message(form, {.text = L"The message was sent!", .title = form.application().title()});
     form.close();
 }
 

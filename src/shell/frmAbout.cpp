@@ -92,7 +92,7 @@ void frmAbout::emboss(EmbossStyle style) {
 }
 
 void frmAbout::Label4_Click() {
-    show_message(window(),
+    show_message(*this,
                  {.text = L"Why did you click me?", .title = application().title(), .icon = MessageIcon::Question});
 }
 
@@ -127,7 +127,7 @@ void frmAbout::mnuMailMe_Click() {
 void frmAbout::StartSysInfo() {
     const auto tool = system_information_tool();
     if (tool && start_program(*tool)) return;
-    show_message(window(), {.text = L"System Information Is Unavailable At This Time", .title = application().title()});
+    show_message(*this, {.text = L"System Information Is Unavailable At This Time", .title = application().title()});
 }
 
 }  // namespace quillomat

@@ -193,10 +193,10 @@ void frmCtlView::Text1_KeyDown(KeyEvent& event) {
 }
 
 void frmCtlView::ask_for_help() {
-    const auto answer = show_message(window(), {.text = L"You pressed the F1 Key for help.\r\nYou can e-mail me for "
-                                                        L"help.\r\nDo you want to do so?",
-                                                .title = L"Help!",
-                                                .buttons = MessageButtons::YesNo});
+    const auto answer = show_message(*this, {.text = L"You pressed the F1 Key for help.\r\nYou can e-mail me for "
+                                                     L"help.\r\nDo you want to do so?",
+                                             .title = L"Help!",
+                                             .buttons = MessageButtons::YesNo});
     if (answer == MessageAnswer::Yes) raise(windows_.mail_author, L"[Type your question here]");
 }
 

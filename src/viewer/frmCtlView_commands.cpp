@@ -98,8 +98,8 @@ void frmCtlView::bind_alphabet_bar() {
 void frmCtlView::copy_cheats() {
     const std::wstring name = caption();
     CopyText(*this, export_text(name, Text1.text()));
-    show_message(window(), {.text = L"The cheat codes for " + name + L" have been copied to the clipboard.",
-                            .title = application().title()});
+    show_message(*this, {.text = L"The cheat codes for " + name + L" have been copied to the clipboard.",
+                         .title = application().title()});
 }
 
 void frmCtlView::print_cheats() {

@@ -58,23 +58,23 @@ void frmCtlView::mnuFontName_Click(std::size_t Index) {
 
 void frmCtlView::offer_installed_fonts() {
     const auto answer =
-        show_message(window(), {.text = L"Quillomat will now collect all the available fonts in the System.\r\n"
-                                        L"This may take some time depending upon the speed of your\r\n"
-                                        L"computer and the number of fonts you have on your system.\r\n"
-                                        L"Do you wish to continue?",
-                                .title = L"Continue?",
-                                .buttons = MessageButtons::OkCancel});
+        show_message(*this, {.text = L"Quillomat will now collect all the available fonts in the System.\r\n"
+                                     L"This may take some time depending upon the speed of your\r\n"
+                                     L"computer and the number of fonts you have on your system.\r\n"
+                                     L"Do you wish to continue?",
+                             .title = L"Continue?",
+                             .buttons = MessageButtons::OkCancel});
     if (answer != MessageAnswer::Ok) return;
     try {
         collect_fonts();
     } catch (const Error& error) {
-        show_error(window(), error);
+        show_error(*this, error);
         return;
     }
     if (closed()) return;
-    show_message(window(), {.text = L"All fonts have been collected!\r\nYou may now choose any font which you would "
-                                    L"like from the FONT Menu!",
-                            .title = L"Success!"});
+    show_message(*this, {.text = L"All fonts have been collected!\r\nYou may now choose any font which you would "
+                                 L"like from the FONT Menu!",
+                         .title = L"Success!"});
     UpdatePointer(session_.pointer);
     POINT pointer = session_.pointer.PointerPos;
     ScreenToClient(window(), &pointer);

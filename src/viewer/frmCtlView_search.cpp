@@ -62,7 +62,7 @@ void frmCtlView::Command1_Click() {
         if (List1.count() > 0) Line1.invalidate();
     }
     if (List1.count() == 0) {
-        show_message(window(),
+        show_message(*this,
                      {.text = L"Nothing was found! Try searching for something else.", .title = L"Nothing there."});
         List1.set_tool_tip({});
     }

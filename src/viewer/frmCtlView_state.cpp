@@ -21,7 +21,7 @@ void frmCtlView::Form_Load() {
         const Hourglass hourglass(*this);
         start_up();
     } catch (const Error& error) {
-        show_error(window(), error);
+        show_error(*this, error);
     }
     centre_on_screen();
 }

@@ -99,7 +99,7 @@ void frmFind::FindIt() {
         box_.set_focus();
         box_.select(*found, state_.gFindString.size());
     } else {
-        show_message(window(), {.text = L"Search completed", .title = L"Find", .icon = MessageIcon::Information});
+        show_message(*this, {.text = L"Search completed", .title = L"Find", .icon = MessageIcon::Information});
         txtFind.set_focus();
     }
     state_.gCurPos = box_.selection_start();

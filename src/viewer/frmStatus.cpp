@@ -48,9 +48,9 @@ void frmStatus::Form_KeyDown(KeyEvent& event) {
     if (event.key != keys::f10) return;
     event.handled = true;
     const Clock::time_point asked = Clock::now();
-    const auto answer = show_message(window(), {.text = L"Are you sure you want to cancel collecting the fonts?",
-                                                .title = L"Sure?",
-                                                .buttons = MessageButtons::YesNo});
+    const auto answer = show_message(*this, {.text = L"Are you sure you want to cancel collecting the fonts?",
+                                             .title = L"Sure?",
+                                             .buttons = MessageButtons::YesNo});
     if (answer == MessageAnswer::Yes) GoingOn = false;
     // The time the user took to answer does not count.
     started_ += Clock::now() - asked;

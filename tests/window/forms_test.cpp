@@ -124,7 +124,7 @@ TEST_F(FormsTest, ATimerDoesNotTickIntoItsOwnHandlerNorAfterItWasStopped) {
     timer.on_timer = [&] {
         ++ticks;
         timer.tick();
-        show_message(board.window(), {.text = L"tick", .title = L"Tick"});
+        show_message(board, {.text = L"tick", .title = L"Tick"});
         EXPECT_EQ(ticks, 1) << "ticked below its own message";
         timer.set_enabled(false);
     };
@@ -161,7 +161,7 @@ TEST_F(FormsTest, ADialogKeepsTheUserFromAllOtherWindowsUntilItClosesEvenInAMenu
         open_in(late);
         EXPECT_FALSE(IsWindowEnabled(late->window())) << "it was not opened from the dialog";
         expect_message(L"Late", L"late");
-        show_message(late->window(), {.text = L"late", .title = L"Late"});
+        show_message(*late, {.text = L"late", .title = L"Late"});
     };
     Board dialog(application);
     Timer closer(dialog, 10);
