@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "support/files.h"
 #include "support/western_text.h"
 #include "text/error.h"
+#include "text/shortened_name.h"
 
 namespace quillomat {
 namespace {
@@ -34,6 +36,12 @@ TEST(StarterDatabase, HoldsEveryRecordWholeAndInOrder) {
     EXPECT_TRUE(bytes.ends_with("\r\n"));
     EXPECT_EQ(static_cast<std::size_t>(std::ranges::count_if(bytes, is_control)), 2 * count_of(bytes, "\r\n"));
     EXPECT_EQ(bytes.find('\xC3'), std::string::npos) << "saved as UTF-8";
+
+    // As many characters as the list of games has room for at least.
+    const auto fits = [](const std::wstring& text) { return text.size() <= 24; };
+    std::set<std::wstring> shown;
+    for (const std::wstring& name : names) shown.insert(shortened_name(name, fits));
+    EXPECT_EQ(shown.size(), names.size()) << "names that look alike in the list";
 
     std::wstring previous;
     for (const std::wstring& name : names) {

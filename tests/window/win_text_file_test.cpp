@@ -52,13 +52,18 @@ TEST_F(TextFile, ReadsTheWholeFileAndSaysWhyItCannotAndKeepsNobodyFromWriting) {
     EXPECT_EQ(error_of([&] { slot_.open_for_reading(file_); }), ErrorCode::FileAlreadyOpen);
 }
 
-TEST_F(TextFile, AppendingWritesInPlaceAndReplacingDoesNot) {
+TEST_F(TextFile, AppendingWritesInPlaceAndReplacingDoesNotAndNoOtherFileIsTouched) {
+    const std::wstring taken = L"~quillomat-" + std::to_wstring(GetCurrentProcessId()) + L"-1.tmp";
+    folder_.write(taken, "the user's");
     folder_.write(file_, "no line end");
     std::filesystem::create_hard_link(file_, path(L"link.txt"));
     slot_.append(file_, L" here\r\n");
     slot_.append(file_, L"");
     slot_.append(file_, L"last\r\n");
     EXPECT_EQ(folder_.read(L"link.txt"), "no line end here\r\nlast\r\n");
+    slot_.replace(path(L"link.txt"), L"new");
+    EXPECT_EQ(folder_.read(taken) + folder_.read(L"link.txt"), "the user'snew");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 3);
     TextFileSlot reader;
     reader.open_for_reading(file_);
     slot_.replace(file_, L"new\r\n");
