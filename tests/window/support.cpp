@@ -32,8 +32,12 @@ WindowTest::~WindowTest() {
 
 LRESULT CALLBACK WindowTest::on_window_event(int code, WPARAM wparam, LPARAM lparam) {
     const auto window = reinterpret_cast<HWND>(wparam);
-    // A message box is complete when it is first activated; its answer is posted, so that it is really shown.
-    if (code == HCBT_ACTIVATE && running_ && class_of(window) == message_box_class) running_->answer(window);
+    // A message box is complete when it is first activated; its answer is posted, so that it is really shown. It may be
+    // activated again before it has gone.
+    if (code == HCBT_ACTIVATE && running_ && class_of(window) == message_box_class && !GetPropW(window, L"answered")) {
+        SetPropW(window, L"answered", window);
+        running_->answer(window);
+    }
     return CallNextHookEx(nullptr, code, wparam, lparam);
 }
 
