@@ -15,7 +15,7 @@ namespace quillomat {
 namespace {
 
 constexpr UINT destroy_message = WM_APP;
-/// Windows uses the lower four bits of a system command itself.
+// Windows uses the lower four bits of a system command itself.
 constexpr WPARAM system_command_mask = 0xFFF0;
 
 Occasion occasion_of(UINT message) {
