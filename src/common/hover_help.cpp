@@ -146,11 +146,7 @@ void HoverHelp::wake() {
     GetCursorPos(&position);
     if (dismissed_at_ && (position.x != dismissed_at_->x || position.y != dismissed_at_->y)) {
         dismissed_at_.reset();
-        for (Tip& tip : tips_) {
-            // Its colour may have changed since, and the pointer may no longer be there.
-            if (tip.shown) HideTip(tip.control, help_box_);
-            tip.shown = false;
-        }
+        for (Tip& tip : tips_) tip.shown = false;
     }
     still_ticks_ = 0;
     timer_.set_interval(awake_milliseconds);

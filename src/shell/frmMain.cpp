@@ -241,7 +241,10 @@ void frmMain::Timer6_Timer() {
 void frmMain::Timer7_Timer() {
     hover_help_.tick();
     const bool hovered = session_.pointer.PointerWindow == Command4.window();
-    if (hovered != Timer6.enabled()) Timer6.set_enabled(hovered && animations_wanted());
+    if (hovered == Timer6.enabled()) return;
+    Timer6.set_enabled(hovered && animations_wanted());
+    // If a key has hidden the help, leaving the button does not.
+    if (!hovered) Command4.set_back_colour(colours::button_face);
 }
 
 }  // namespace quillomat
