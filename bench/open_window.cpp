@@ -8,7 +8,7 @@
 #include "forms/application.h"
 #include "shell/Dialog1.h"
 #include "shell/frmAbout.h"
-#include "shell/windows.h"
+#include "shell/shell.h"
 
 int wmain(int, wchar_t** arguments) {
     using namespace quillomat;
@@ -17,14 +17,14 @@ int wmain(int, wchar_t** arguments) {
     Session session;
     session.program_folder = arguments[2];
     session.settings = Settings(L"QuillomatBench");
-    Windows windows(application, session);
+    Shell shell(application, session);
     std::unique_ptr<Form> dialog;
     if (name == L"about") dialog = std::make_unique<frmAbout>(application, session.pointer, 10);
     if (name == L"author") dialog = std::make_unique<Dialog1>(application, session.pointer);
     if (dialog) dialog->show();
-    if (name == L"viewer") windows.open_viewer();
-    if (name == L"main") windows.open_main_screen();
-    if (name == L"splash") windows.open_splash();
+    if (name == L"viewer") shell.open_viewer();
+    if (name == L"main") shell.open_main_screen();
+    if (name == L"splash") shell.open_splash();
     application.let_pending_events_run();
     std::puts("shown");
     std::fflush(stdout);

@@ -3,7 +3,7 @@
 
 #include "common/session.h"
 #include "forms/application.h"
-#include "shell/windows.h"
+#include "shell/shell.h"
 #include "text/command_line.h"
 #include "text/product.h"
 #include "win/program_folder.h"
@@ -15,12 +15,12 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t* lpCmdLine, int) {
     try {
         Session session;
         session.program_folder = program_folder();
-        Windows windows(application, session);
+        Shell shell(application, session);
         const std::wstring query = command_line_query(lpCmdLine);
         if (query.empty()) {
-            windows.open_splash();
+            shell.open_splash();
         } else {
-            windows.open_viewer_for(query);
+            shell.open_viewer_for(query);
         }
         return application.run();
     } catch (...) {

@@ -2,7 +2,7 @@
 
 #include "output/frmMailMe.h"
 #include "session_support.h"
-#include "shell/windows.h"
+#include "shell/shell.h"
 #include "viewer/frmCtlView.h"
 #include "viewer/frmFind.h"
 
@@ -12,7 +12,7 @@ namespace {
 struct FindTest : SessionTest {
     FindTest() {
         write("Cheats.dat", "");
-        windows.open_viewer();
+        shell.open_viewer();
         viewer = find_form<frmCtlView>();
         viewer->Text1.set_text(L"a key, A KEY and\r\na key\r\n");
     }
@@ -28,7 +28,7 @@ struct FindTest : SessionTest {
                     viewer->Text1.selection_length() == 3);
     }
 
-    Windows windows{application, session};
+    Shell shell{application, session};
     FindState& state = session.find;
     frmCtlView* viewer = nullptr;
     frmFind* dialog = nullptr;
@@ -76,7 +76,7 @@ TEST_F(FindTest, CoversNoneOfTheTextAndClosesWithTheViewer) {
     EXPECT_LE(place.bottom, text.top);
     dialog->txtFind.set_text(L"typed");
     expect_mail_requirements();
-    windows.open_author_mail();
+    shell.open_author_mail();
     viewer->close();
     EXPECT_SOON(!find_form<frmFind>() && !find_form<frmCtlView>());
     EXPECT_EQ(state.gFindString, L"typed");

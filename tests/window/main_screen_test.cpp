@@ -7,7 +7,7 @@
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
-#include "shell/windows.h"
+#include "shell/shell.h"
 #include "viewer/frmCtlView.h"
 
 namespace quillomat {
@@ -22,7 +22,7 @@ struct ShellTest : SessionTest {
 
     void open() { open_in(form, session, windows); }
     MainWindows windows;
-    Windows program{application, session};
+    Shell program{application, session};
     std::unique_ptr<frmMain> form;
     std::unique_ptr<frmWait> wait;
 };

@@ -14,7 +14,7 @@
 #include "shell/Dialog1.h"
 #include "shell/frmMain.h"
 #include "shell/frmWait.h"
-#include "shell/windows.h"
+#include "shell/shell.h"
 #include "viewer/frmCtlView.h"
 #include "viewer/frmStatus.h"
 
@@ -78,7 +78,7 @@ struct WindowWalk : SessionTest, ::testing::WithParamInterface<State> {
     void walk_by_tab(HWND window);
     void expect_nothing_left();
 
-    Windows program{application, session};
+    Shell program{application, session};
     std::unique_ptr<frmWait> wait;
     std::unique_ptr<frmStatus> status;
 

@@ -19,12 +19,12 @@ class frmWait;
 
 /// The only class that knows every window of the program. Opens the windows, owns the modeless ones, and ends the
 /// program when the last of them has closed.
-class Windows {
+class Shell {
   public:
-    Windows(Application& application, Session& session);
-    ~Windows();
-    Windows(const Windows&) = delete;
-    Windows& operator=(const Windows&) = delete;
+    Shell(Application& application, Session& session);
+    ~Shell();
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
 
     // Each function opens its window, or brings the window to the front if it is open.
     void open_splash();

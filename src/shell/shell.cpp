@@ -1,4 +1,4 @@
-#include "shell/windows.h"
+#include "shell/shell.h"
 
 #include <utility>
 
@@ -20,7 +20,7 @@
 
 namespace quillomat {
 
-Windows::Windows(Application& application, Session& session) : application_(application), session_(session) {
+Shell::Shell(Application& application, Session& session) : application_(application), session_(session) {
     main_windows_.cheats = [this] { open_loading_window(); };
     main_windows_.mail_author = [this] { open_author_mail(); };
     main_windows_.about = [this] { open_about(); };
@@ -39,10 +39,10 @@ Windows::Windows(Application& application, Session& session) : application_(appl
     viewer_windows_.find = [this] { open_find(); };
 }
 
-Windows::~Windows() = default;
+Shell::~Shell() = default;
 
 template <class Window, class... Arguments>
-void Windows::open(std::unique_ptr<Window>& place, Arguments&&... arguments) {
+void Shell::open(std::unique_ptr<Window>& place, Arguments&&... arguments) {
     if (place) {
         if (place->window_state() == WindowState::Minimised) place->set_window_state(WindowState::Normal);
         place->bring_to_foreground();
@@ -56,23 +56,23 @@ void Windows::open(std::unique_ptr<Window>& place, Arguments&&... arguments) {
     place->show();
 }
 
-void Windows::open_splash() {
+void Shell::open_splash() {
     open(splash_, [this] { open_main_screen(); });
 }
 
-void Windows::open_main_screen() {
+void Shell::open_main_screen() {
     open(main_screen_, session_, main_windows_);
 }
 
-void Windows::open_loading_window() {
+void Shell::open_loading_window() {
     open(loading_window_, [this] { open_viewer(); });
 }
 
-void Windows::open_viewer() {
+void Shell::open_viewer() {
     open(viewer_, session_, viewer_windows_);
 }
 
-void Windows::open_viewer_for(const std::wstring& query) {
+void Shell::open_viewer_for(const std::wstring& query) {
     open_viewer();
     if (viewer_->window_state() == WindowState::Minimised) viewer_->set_window_state(WindowState::Normal);
     viewer_->guarded([&] {
@@ -81,53 +81,53 @@ void Windows::open_viewer_for(const std::wstring& query) {
     });
 }
 
-void Windows::restore_main_screen() {
+void Shell::restore_main_screen() {
     // If the viewer closes together with the main screen, restoring the main screen would make it flash up.
     if (main_screen_ && !main_screen_->closed() && main_screen_->window_state() == WindowState::Minimised) {
         main_screen_->set_window_state(WindowState::Normal);
     }
 }
 
-void Windows::open_author_mail() {
+void Shell::open_author_mail() {
     open(author_mail_, session_);
 }
 
-void Windows::open_mail_cheats() {
+void Shell::open_mail_cheats() {
     OpenViewer link(*viewer_);
     frmMailCheats(application_, session_, link).show_modal(viewer_.get());
 }
 
-void Windows::open_add_game() {
+void Shell::open_add_game() {
     OpenViewer link(*viewer_);
     frmAddNew(application_, session_, link).show_modal(viewer_.get());
 }
 
-void Windows::open_save() {
+void Shell::open_save() {
     OpenViewer link(*viewer_);
     frmSave(application_, session_, link).show_modal(nullptr);
 }
 
-void Windows::open_about() {
+void Shell::open_about() {
     frmAbout about(application_, session_.pointer, session_.StartUpTimes);
     about.show_modal(main_screen_.get());
     if (about.next() == frmAbout::Next::MessageToAuthor) open_author_mail();
 }
 
-void Windows::open_author_dialog() {
+void Shell::open_author_dialog() {
     Dialog1(application_, session_.pointer).show_modal(main_screen_.get());
 }
 
-void Windows::open_print_list() {
+void Shell::open_print_list() {
     OpenViewer link(*viewer_);
     frmPrintGames(application_, session_, link).show_modal(viewer_.get());
 }
 
-void Windows::open_find() {
+void Shell::open_find() {
     open(find_, session_.find, *viewer_, viewer_->Text1);
     find_->txtFind.set_focus();
 }
 
-void Windows::quit_after_last() {
+void Shell::quit_after_last() {
     if (!splash_ && !main_screen_ && !loading_window_ && !viewer_ && !author_mail_) application_.quit();
 }
 
