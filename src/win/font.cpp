@@ -16,7 +16,12 @@ Font make_font(const FontSpec& spec, int dpi) {
     description.lfQuality = DEFAULT_QUALITY;
     const auto length = std::min(spec.name.size(), std::size(description.lfFaceName) - 1);
     std::copy_n(spec.name.begin(), length, description.lfFaceName);
-    return {CreateFontIndirectW(&description), [](HFONT font) {
+    const HFONT made = CreateFontIndirectW(&description);
+    // Wine: only ten fonts that are not selected anywhere stay loaded; the title of the about box goes through more.
+    const HDC holder = CreateCompatibleDC(nullptr);
+    SelectObject(holder, made);
+    return {made, [holder](HFONT font) {
+                DeleteDC(holder);
                 if (font) DeleteObject(font);
             }};
 }
