@@ -50,9 +50,10 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
     };
     const auto enable = [](Item& item) { return [&item](bool on) { item.set_enabled(!on); }; };
     const auto focus = [](Control& control) {
-        return [&control](bool on) { on ? control.set_focus() : static_cast<void>(SetFocus(nullptr)); };
+        return [&control](bool on) { SetFocus(on ? control.window() : nullptr); };
     };
     SendMessageW(board.window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    board.Text1.set_text(L"Text");
     SetFocus(nullptr);
     const HWND list = board.List1.window();
     const std::pair<const char*, std::function<void(bool)>> changes[] = {
@@ -66,7 +67,9 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
         {"hovered button", hover(board.Button1)},
         {"default button", [&](bool on) { board.set_default_button(on ? &board.Button1 : nullptr); }},
         {"focused button", focus(board.Button2)},
+        {"disabled option", enable(board.Option1)},
         {"set option", [&](bool on) { board.Option1.set_value(on); }},
+        {"disabled check box", enable(board.Check1)},
         {"set check box", [&](bool on) { board.Check1.set_value(on); }},
         {"disabled frame", enable(board.Frame1)},
         {"hovered link", hover(board.Link1)},
@@ -74,8 +77,12 @@ TEST_F(PaintingTest, EveryStateLooksLikeNoOtherAndLeavesNoTrace) {
         {"pressed link", send(board.Link1, BM_SETSTATE)},
         {"mirrored picture", [&](bool on) { board.Picture1.set_width_factor(on ? -1 : 1); }},
         {"help box",
-         [&](bool on) { on ? ShowTip(board.Button1, board.Help, L"Help") : HideTip(board.Button1, board.Help); }},
+         [&](bool on) {
+             HideTip(board.Button1, board.Help);
+             if (on) ShowTip(board.Button1, board.Help, L"Help");
+         }},
         {"selected item", [list](bool on) { SendMessageW(list, LB_SETCURSEL, WPARAM{on} - 1, 0); }},
+        {"disabled text", enable(board.Text1)},
     };
     for (const bool classic : {false, true}) {
         const wchar_t* const theme = classic ? L" " : nullptr;
